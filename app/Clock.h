@@ -1,0 +1,24 @@
+#pragma once
+
+#include <chrono>
+
+namespace skylob {
+
+/// A date and time on the user's own clock and calendar.
+using DateTime = std::chrono::local_time<std::chrono::milliseconds>;
+
+class Clock {
+  public:
+    virtual ~Clock() = default;
+
+    /// The current local date and time.
+    virtual DateTime now() const = 0;
+};
+
+/// The machine's clock in the user's time zone.
+class SystemClock final : public Clock {
+  public:
+    DateTime now() const override;
+};
+
+}  // namespace skylob

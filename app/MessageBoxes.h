@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string>
+
+namespace skylob {
+
+enum class BoxIcon { Information, Question, Critical };
+enum class BoxButtons { Ok, YesNo };
+enum class BoxAnswer { Ok, Yes, No };
+
+/// What a message box shows: plain text, UTF-8, line breaks as "\r\n" or "\n".
+struct MessageBox {
+    std::string title;
+    std::string text;
+    BoxIcon icon = BoxIcon::Information;
+    BoxButtons buttons = BoxButtons::Ok;
+};
+
+class MessageBoxes {
+  public:
+    virtual ~MessageBoxes() = default;
+
+    /// Shows the box modally and returns what the user answered. Closing a Yes/No box without
+    /// an answer counts as No, closing another one as Ok.
+    virtual BoxAnswer show(const MessageBox& box) = 0;
+};
+
+}  // namespace skylob

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <vector>
+
+#include "app/Colour.h"
+#include "app/PerSide.h"
+#include "app/RandomInt.h"
+#include "battle/FieldPicture.h"
+
+namespace skylob {
+
+/// The highest column number; columns run from 1.
+inline constexpr int kColumns = 1000;
+
+/// One round's battlefield: the ground, the sky above it and where the pieces stand. All
+/// positions and heights are whole field units, x 1..1000 to the right, y 1..1000 upwards.
+struct Battlefield {
+    struct Star {
+        int x, y;
+        Colour colour;
+    };
+
+    std::array<int, kColumns + 1> TerrainHeight{};  ///< by column; element 0 is unused
+    int PeakX = 0;                                  ///< centre column of the mountain
+    int leftFoot = 0, rightFoot = 0;                ///< the columns where the mountain begins, ends
+    PerSide<int> PieceX, PieceY;                    ///< a piece's column and the ground under it
+
+    std::vector<Star> stars;
+    int MoonX = 0, moonY = 0;    ///< the moon's centre; MoonX is 0 when there is no moon
+    int MoonOffset = 0;          ///< kept from round to round: 40 in the first, then 4 less each
+    Colour groundColour = kBlack;
+
+    bool hasMoon() const { return MoonX != 0; }
+
+    /// The ground's height at column x, 1..1000.
+    int heightAt(int x) const { return TerrainHeight[static_cast<std::size_t>(x)]; }
+};
+
+/// The random step in height from one column to the next on a slope of the given kind, 0 (steep
+/// up) to 6 (steep down); 0 for any other kind, without a draw.
+int SlopeStep(RandomSource& random, int kind);
+
+/// The ground's colours, numbered 1 to 6.
+Colour TerrainColours(int number);
+
+/// Makes `field` the battlefield of round `roundNumber` (1 or more) of `numRounds`. Only its
+/// MoonOffset is carried over from the round before. The last round has no moon. Draws from
+/// `random` in a fixed order, so that a seed makes a battlefield.
+void generateBattlefield(Battlefield& field, RandomSource& random, int roundNumber,
+                         int numRounds);
+
+/// Draws the battlefield as the persistent picture, with the two pieces standing on it.
+/// `groundLineWidth` is the pen width of the ground's columns.
+void drawBattlefield(const Battlefield& field, FieldPicture& picture, int groundLineWidth);
+
+}  // namespace skylob

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <cstdint>
+
+#include "app/Pacer.h"
+#include "battle/BattleView.h"
+#include "battle/FieldPicture.h"
+
+namespace skylob {
+
+/// A picture that moves: what has been drawn is shown and then held for a counted wait. It only
+/// refers to its three parts, which must outlive it.
+class FieldAnimation {
+  public:
+    FieldAnimation(FieldPicture& picture, BattleView& view, Pacer& pacer)
+        : m_picture{picture}, m_view{view}, m_pacer{pacer} {}
+
+    FieldPicture& picture() { return m_picture; }
+
+    /// To be called before the first hold().
+    void start() { m_pacer.startPacing(); }
+
+    void hold(std::int32_t counts) {
+        m_view.showField();
+        m_pacer.countedWait(counts);
+    }
+
+    /// Shows what has been drawn without waiting.
+    void show() { m_view.showField(); }
+
+  private:
+    FieldPicture& m_picture;
+    BattleView& m_view;
+    Pacer& m_pacer;
+};
+
+}  // namespace skylob

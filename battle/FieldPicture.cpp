@@ -1,0 +1,211 @@
+#include "battle/FieldPicture.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace skylob {
+
+namespace {
+
+constexpr double kUnits = 999.0;  // from the left edge's 1 to the right edge's 1000
+
+constexpr std::uint32_t toPixel(Colour colour) {
+    return 0xFF000000u | (colour & 0xFFu) << 16 | (colour & 0xFF00u) | (colour >> 16 & 0xFFu);
+}
+
+constexpr Colour toColour(std::uint32_t pixel) {
+    return (pixel & 0xFFu) << 16 | (pixel & 0xFF00u) | (pixel >> 16 & 0xFFu);
+}
+
+int toInt(double value) {
+    return static_cast<int>(std::lround(value));
+}
+
+PixelRect united(const PixelRect& a, const PixelRect& b) {
+    if (a.isEmpty()) return b;
+    if (b.isEmpty()) return a;
+    const int left = std::min(a.x, b.x), top = std::min(a.y, b.y);
+    return {left, top, std::max(a.x + a.width, b.x + b.width) - left,
+            std::max(a.y + a.height, b.y + b.height) - top};
+}
+
+/// `over` (premultiplied alpha) upon an opaque pixel.
+std::uint32_t blend(std::uint32_t under, std::uint32_t over) {
+    const std::uint32_t rest = 255 - (over >> 24);
+    std::uint32_t result = 0xFF000000u;
+    for (const int shift : {0, 8, 16}) {
+        const std::uint32_t part = (under >> shift & 0xFFu) * rest;
+        result |= ((over >> shift & 0xFFu) + (part + 127) / 255) << shift;
+    }
+    return result;
+}
+
+}  // namespace
+
+void FieldPicture::resize(int width, int height, int dotScale) {
+    m_width = width;
+    m_height = height;
+    m_dotScale = dotScale;
+    const auto pixels = static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
+    m_persistent.assign(pixels, toPixel(kBlack));
+    m_screen = m_persistent;
+    m_dirty = {0, 0, width, height};
+    hidePieces();
+}
+
+void FieldPicture::clear() {
+    std::fill(m_persistent.begin(), m_persistent.end(), toPixel(kBlack));
+    std::fill(m_screen.begin(), m_screen.end(), toPixel(kBlack));
+    markDirty({0, 0, m_width, m_height});
+}
+
+void FieldPicture::setPoint(int x, int y, Colour colour) {
+    const PixelRect dot = dotArea(x, y);
+    const std::uint32_t value = toPixel(colour);
+    if (m_penWidth == 1) {
+        fill(dot, value);
+        return;
+    }
+    const double radius = dot.width / 2.0;
+    for (int line = 0; line < dot.height; ++line) {
+        const double dy = line + 0.5 - radius;
+        const double half = std::sqrt(radius * radius - dy * dy);
+        const int left = static_cast<int>(std::ceil(radius - half - 0.5));
+        fillRow(dot.x + left, dot.y + line, dot.width - 2 * left, value);
+    }
+    markDirty(dot);
+}
+
+Colour FieldPicture::pixel(int x, int y) const {
+    const PixelRect dot = clipped({column(x), row(y), 1, 1});
+    return dot.isEmpty() ? kBlack : toColour(m_screen[index(dot.x, dot.y)]);
+}
+
+void FieldPicture::verticalLine(int x, int y1, int y2, Colour colour) {
+    const int width = m_penWidth * m_dotScale;
+    const int top = row(y2);
+    fill({column(x) - (width - 1) / 2, top, width, row(y1) - top + 1}, toPixel(colour));
+}
+
+void FieldPicture::filledCircle(int x, int y, int radius, Colour colour) {
+    const double r = radius * (m_width - 1) / kUnits;
+    const int reach = static_cast<int>(r);
+    const int cx = column(x), cy = row(y);
+    for (int dy = -reach; dy <= reach; ++dy) {
+        const int half = toInt(std::sqrt(r * r - static_cast<double>(dy) * dy));
+        fillRow(cx - half, cy + dy, 2 * half + 1, toPixel(colour));
+    }
+    markDirty({cx - reach - 1, cy - reach, 2 * reach + 3, 2 * reach + 1});
+}
+
+FieldPicture::LiftedPoint FieldPicture::liftPoint(int x, int y) const {
+    LiftedPoint lifted{clipped(dotArea(x, y)), {}};
+    for (int line = 0; line < lifted.area.height; ++line) {
+        const auto* from = m_screen.data() + index(lifted.area.x, lifted.area.y + line);
+        lifted.pixels.insert(lifted.pixels.end(), from, from + lifted.area.width);
+    }
+    return lifted;
+}
+
+void FieldPicture::putBack(const LiftedPoint& lifted) {
+    auto from = lifted.pixels.begin();
+    for (int line = 0; line < lifted.area.height; ++line) {
+        std::copy_n(from, lifted.area.width,
+                    m_screen.data() + index(lifted.area.x, lifted.area.y + line));
+        from += lifted.area.width;
+    }
+    markDirty(lifted.area);
+}
+
+void FieldPicture::setPieceImage(int side, PieceImage image) {
+    m_pieces[side].image = std::move(image);
+}
+
+FieldPicture::PixelSize FieldPicture::pieceSize() const {
+    return {toInt(kPieceWidth * (m_width - 1) / kUnits),
+            toInt(kPieceHeight * (m_height - 1) / kUnits)};
+}
+
+void FieldPicture::placePiece(int side, int x, int groundHeight) {
+    const PixelSize size = pieceSize();
+    m_pieces[side].area = {column(x - kPieceWidth / 2), row(groundHeight + kPieceTop), size.width,
+                           size.height};
+}
+
+void FieldPicture::hidePieces() {
+    for (const int side : {1, 2}) m_pieces[side].area = {};
+}
+
+PixelRect FieldPicture::pieceArea(int side) const {
+    return m_pieces[side].area;
+}
+
+void FieldPicture::refresh() {
+    m_screen = m_persistent;
+    for (const int side : {1, 2}) {
+        const auto& [image, area] = m_pieces[side];
+        const PixelRect seen =
+            clipped({area.x, area.y, std::min(area.width, image.width),
+                     std::min(area.height, image.height)});
+        for (int py = seen.y; py < seen.y + seen.height; ++py) {
+            for (int px = seen.x; px < seen.x + seen.width; ++px) {
+                const auto from = static_cast<std::size_t>((py - area.y) * image.width +
+                                                           (px - area.x));
+                auto& pixel = m_screen[index(px, py)];
+                pixel = blend(pixel, image.pixels[from]);
+            }
+        }
+    }
+    markDirty({0, 0, m_width, m_height});
+}
+
+PixelRect FieldPicture::takeDirty() {
+    return std::exchange(m_dirty, PixelRect{});
+}
+
+int FieldPicture::column(int x) const {
+    return toInt((x - 1) * (m_width - 1) / kUnits);
+}
+
+int FieldPicture::row(int y) const {
+    return m_height - 1 - toInt((y - 1) * (m_height - 1) / kUnits);
+}
+
+PixelRect FieldPicture::dotArea(int x, int y) const {
+    const int size = m_penWidth * m_dotScale;
+    return {column(x) - (size - 1) / 2, row(y) - (size - 1) / 2, size, size};
+}
+
+PixelRect FieldPicture::clipped(const PixelRect& area) const {
+    const int left = std::clamp(area.x, 0, m_width), top = std::clamp(area.y, 0, m_height);
+    const int right = std::clamp(area.x + area.width, left, m_width);
+    const int bottom = std::clamp(area.y + area.height, top, m_height);
+    return {left, top, right - left, bottom - top};
+}
+
+std::size_t FieldPicture::index(int px, int py) const {
+    return static_cast<std::size_t>(py) * static_cast<std::size_t>(m_width) +
+           static_cast<std::size_t>(px);
+}
+
+void FieldPicture::fillRow(int px, int py, int length, std::uint32_t value) {
+    const PixelRect seen = clipped({px, py, length, 1});
+    if (seen.isEmpty()) return;
+    const std::size_t start = index(seen.x, seen.y);
+    std::fill_n(m_screen.data() + start, seen.width, value);
+    if (m_persistentDrawing) std::fill_n(m_persistent.data() + start, seen.width, value);
+}
+
+void FieldPicture::fill(const PixelRect& area, std::uint32_t value) {
+    const PixelRect seen = clipped(area);
+    for (int py = seen.y; py < seen.y + seen.height; ++py)
+        fillRow(seen.x, py, seen.width, value);
+    markDirty(seen);
+}
+
+void FieldPicture::markDirty(const PixelRect& area) {
+    m_dirty = united(m_dirty, clipped(area));
+}
+
+}  // namespace skylob

@@ -1,0 +1,124 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+#include "app/Colour.h"
+#include "app/PerSide.h"
+
+namespace skylob {
+
+/// A rectangle of device pixels, y downwards; empty when width or height is 0.
+struct PixelRect {
+    int x = 0, y = 0, width = 0, height = 0;
+
+    bool isEmpty() const { return width <= 0 || height <= 0; }
+    bool operator==(const PixelRect&) const = default;
+};
+
+/// The battlefield's picture. It is drawn in field units, x 1 (left edge) to 1000 (right edge)
+/// and y 1 (bottom) to 1000 (top), onto device pixels without antialiasing.
+///
+/// There are two buffers. The persistent picture is what refresh() brings back; the screen
+/// picture is what the player sees: the persistent picture with the two pieces on it, and on top
+/// whatever was drawn while persistent drawing was off. What lies outside the field is cut off.
+/// A picture of no size is valid and draws nothing: a game without a screen uses it.
+class FieldPicture {
+  public:
+    /// An image with premultiplied alpha, 0xAARRGGBB, row by row.
+    struct PieceImage {
+        int width = 0, height = 0;
+        std::vector<std::uint32_t> pixels;
+    };
+
+    /// The size of a piece in field units, and how far it stands above the ground under it.
+    static constexpr int kPieceWidth = 24, kPieceHeight = 46, kPieceTop = 30;
+
+    /// Makes both buffers `width` x `height` device pixels (0 or more) of black and takes the
+    /// pieces off the field. Pens are `dotScale` (at least 1) device pixels per unit of width.
+    void resize(int width, int height, int dotScale);
+
+    int width() const { return m_width; }
+    int height() const { return m_height; }
+
+    /// Blackens both buffers.
+    void clear();
+
+    /// On (the usual state): drawing goes to both buffers. Off: to the screen picture alone.
+    void setPersistentDrawing(bool on) { m_persistentDrawing = on; }
+
+    /// The width of points and lines, at least 1. It is 1 at first.
+    void setPenWidth(int width) { m_penWidth = width; }
+    int penWidth() const { return m_penWidth; }
+
+    /// A dot of the pen's width: square at widths up to 1 unit, round above.
+    void setPoint(int x, int y, Colour colour);
+
+    /// The colour seen at a point; black outside the field. The rules draw and read single
+    /// points, so one point is one square of device pixels: see liftPoint for the exact pixels.
+    Colour pixel(int x, int y) const;
+
+    /// A line of the pen's width along column x, from height y1 up to y2, both included.
+    void verticalLine(int x, int y1, int y2, Colour colour);
+
+    /// A filled circle, round in pixels; `radius` is in horizontal units.
+    void filledCircle(int x, int y, int radius, Colour colour);
+
+    /// The pixels of the screen picture under a dot of the present pen width.
+    struct LiftedPoint {
+        PixelRect area;
+        std::vector<std::uint32_t> pixels;
+    };
+    LiftedPoint liftPoint(int x, int y) const;
+
+    /// Puts lifted pixels back onto the screen picture, exactly as they were.
+    void putBack(const LiftedPoint& lifted);
+
+    /// The image of a side's piece, to be drawn unscaled: pieceSize() tells the fitting size.
+    void setPieceImage(int side, PieceImage image);
+    struct PixelSize {
+        int width = 0, height = 0;
+    };
+    PixelSize pieceSize() const;
+
+    /// Stands a side's piece on column x where the ground is `groundHeight` high. It is seen
+    /// after the next refresh().
+    void placePiece(int side, int x, int groundHeight);
+    void hidePieces();
+    /// The device pixels that a piece takes up; empty while it is hidden.
+    PixelRect pieceArea(int side) const;
+
+    /// Rebuilds the screen picture: the persistent picture, then the pieces.
+    void refresh();
+
+    /// The screen picture, 0xFFRRGGBB row by row; valid until the next resize().
+    const std::uint32_t* screenPixels() const { return m_screen.data(); }
+
+    /// What has changed on the screen picture since the last call.
+    PixelRect takeDirty();
+
+  private:
+    int column(int x) const;
+    int row(int y) const;
+    PixelRect dotArea(int x, int y) const;
+    PixelRect clipped(const PixelRect& area) const;
+    std::size_t index(int px, int py) const;
+    void fillRow(int px, int py, int length, std::uint32_t value);
+    void fill(const PixelRect& area, std::uint32_t value);
+    void markDirty(const PixelRect& area);
+
+    struct Piece {
+        PieceImage image;
+        PixelRect area;
+    };
+
+    int m_width = 0, m_height = 0, m_dotScale = 1;
+    int m_penWidth = 1;
+    bool m_persistentDrawing = true;
+    std::vector<std::uint32_t> m_persistent, m_screen;
+    PerSide<Piece> m_pieces;
+    PixelRect m_dirty;
+};
+
+}  // namespace skylob

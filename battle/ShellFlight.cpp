@@ -1,0 +1,95 @@
+#include "battle/ShellFlight.h"
+
+#include <cmath>
+#include <cstdlib>
+
+#include "app/Rounding.h"
+
+namespace skylob {
+
+namespace {
+
+// Not quite pi / 180, and single precision: angles act 1.7 % wider than true degrees. Every
+// player's eye is trained on it.
+constexpr double kDegree = 0.017745329f;
+
+constexpr int kMuzzleHeight = 8;  // above the ground under the piece
+
+Colour trailColour(int side) {
+    return side == 1 ? kRed : kMagenta;
+}
+
+}  // namespace
+
+ShellFlight::ShellFlight(const Launch& launch)
+    : m_wind{launch.wind}, m_x0{launch.pieceX}, m_y0{launch.pieceY + kMuzzleHeight} {
+    const int fromVertical = 90 - launch.angle;
+    const int a = launch.side == 2 ? -fromVertical : fromVertical;
+    m_vx = launch.speed * std::sin(a * kDegree) / 10;
+    m_vy = launch.speed * std::cos(a * kDegree) / 10;
+}
+
+FieldPoint ShellFlight::position() const {
+    const double t = m_t;
+    return {roundToNearest((m_wind / 50.0 + m_vx) * t + m_x0),
+            roundToNearest((m_vy - t / 2.5) * t + m_y0)};
+}
+
+void ShellFlight::advance() {
+    m_t += 0.5f;
+    // The drift feeds on the speed itself and so is there without any wind, too.
+    m_vx += (m_wind + m_vx) / 2500;
+}
+
+bool isFlying(FieldPoint at, const Battlefield& field) {
+    return at.x >= 1 && at.x <= kColumns && at.y - field.heightAt(at.x) >= 1;
+}
+
+FieldPoint flyShell(const Launch& launch, const Battlefield& field, Trail trail,
+                    FieldAnimation& animation, std::int32_t delayCount) {
+    FieldPicture& picture = animation.picture();
+    const int penWidth = picture.penWidth();
+    picture.setPersistentDrawing(false);
+    picture.setPenWidth(1);
+    animation.start();
+
+    ShellFlight flight{launch};
+    FieldPoint at;
+    do {
+        at = flight.position();
+        const auto background = picture.liftPoint(at.x, at.y);
+        picture.setPoint(at.x, at.y, kYellow);
+        flight.advance();
+        animation.hold(delayCount);
+        if (trail == Trail::Coloured)
+            picture.setPoint(at.x, at.y, trailColour(launch.side));
+        else
+            picture.putBack(background);
+    } while (isFlying(at, field));
+
+    picture.setPoint(at.x, at.y, kBlack);
+    animation.show();
+    picture.setPenWidth(penWidth);
+    picture.setPersistentDrawing(true);
+    return at;
+}
+
+std::int32_t FlightDelayCount(int gameSpeed) {
+    return 49'500'001 - 500'000 * gameSpeed;
+}
+
+Landing classifyLanding(int x, int shooterX, int targetX) {
+    if (x < 5 || x > 995) return Landing::OutOfBounds;
+    // A shooter is spared at a distance of 5, its target is not.
+    if (std::abs(x - shooterX) < 5) return Landing::SelfHit;
+    const int distance = std::abs(x - targetX);
+    if (distance < 6) return Landing::DirectHit;
+    if (distance < 14) return Landing::NearMiss;
+    return Landing::Miss;
+}
+
+int nearMissKills(int menLeft, int distance) {
+    return roundToNearest((menLeft + 1.0) / (distance + 1));
+}
+
+}  // namespace skylob

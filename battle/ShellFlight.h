@@ -1,0 +1,67 @@
+#pragma once
+
+#include <cstdint>
+
+#include "battle/Battlefield.h"
+#include "battle/FieldAnimation.h"
+
+namespace skylob {
+
+/// A point of the field in whole units; a shell in flight may be outside 1..1000.
+struct FieldPoint {
+    std::int32_t x = 0, y = 0;
+
+    bool operator==(const FieldPoint&) const = default;
+};
+
+/// How a shell is fired.
+struct Launch {
+    int side;    ///< 1 fires to the right, 2 to the left
+    int speed;   ///< speed control, 100..999
+    int angle;   ///< angle control, 10 (flat) to 90 (straight up) degrees
+    int pieceX;  ///< the shooter's piece: its column
+    int pieceY;  ///< ... and the height of the ground under it
+    int wind;    ///< see BattleState::Wind
+};
+
+/// A shell's ballistic path in half-unit steps of time.
+class ShellFlight {
+  public:
+    explicit ShellFlight(const Launch& launch);
+
+    /// Where the shell is now, rounded to whole units.
+    FieldPoint position() const;
+
+    /// Half a unit of time goes by.
+    void advance();
+
+  private:
+    int m_wind;
+    int m_x0, m_y0;
+    double m_vx, m_vy;
+    float m_t = 0;
+};
+
+/// Whether a shell at `at` flies on: it is inside the field and above the ground.
+bool isFlying(FieldPoint at, const Battlefield& field);
+
+/// What the shell leaves behind.
+enum class Trail { None, Coloured };
+
+/// Flies a shell over the field until it comes down or leaves the field, and shows it doing so
+/// on the screen picture alone, each step held for `delayCount` counts. Returns its last point.
+FieldPoint flyShell(const Launch& launch, const Battlefield& field, Trail trail,
+                    FieldAnimation& animation, std::int32_t delayCount);
+
+/// The counts that a half step of flight lasts at a game speed: 1 at 99.
+std::int32_t FlightDelayCount(int gameSpeed);
+
+enum class Landing { OutOfBounds, SelfHit, DirectHit, NearMiss, Miss };
+
+/// What a shell that came down in column x has done, given the columns of both pieces.
+Landing classifyLanding(int x, int shooterX, int targetX);
+
+/// The men that a near miss kills, `distance` columns beside a piece with `menLeft` men.
+int nearMissKills(int menLeft, int distance);
+
+}  // namespace skylob
