@@ -18,6 +18,7 @@ struct BattleState {
     int NearMissKills = 0;     ///< men killed by the last near miss
     int LastImpactX = 0;       ///< where the computer's last shell came down
     int AimDistance = 0;       ///< the computer's last miss; 0: it has to measure the field
+    int ComputerAngle = 0;     ///< degrees; the computer never shoots flatter than that
     bool ShowTrajectory = false;
     bool SoundOn = false;
     DateTime TurnStartTime{};  ///< when the human turn began or a control was last used

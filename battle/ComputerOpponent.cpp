@@ -35,7 +35,7 @@ void ComputerOpponent::measureField(int error) {
     const Battlefield& field = m_state.field;
     m_state.LastImpactX = field.PeakX;
     m_state.AimDistance = field.PieceX[2] - field.PieceX[1];
-    ComputerAngle = angleOverMountain();
+    m_state.ComputerAngle = angleOverMountain();
     // Each of these is an assignment of its own, and each is held within the control's range.
     addSpeed((field.PieceY[1] - field.PieceY[2]) / 5);
     if (m_state.Wind != 0) addSpeed(m_state.Wind);
@@ -60,7 +60,7 @@ void ComputerOpponent::correctAim(int error) {
     m_state.AimDistance = miss;
     if (impact > m_state.field.PeakX) {
         // It did not clear the mountain.
-        const int steeper = m_controls.angle(kSide) < ComputerAngle + 3 ? 2 : 0;
+        const int steeper = m_controls.angle(kSide) < m_state.ComputerAngle + 3 ? 2 : 0;
         addSpeed(miss / (level + 4));
         addAngle(steeper);
     } else if (impact < 2) {
@@ -78,9 +78,9 @@ void ComputerOpponent::correctAim(int error) {
 
 void ComputerOpponent::raiseToFloor(int error) {
     const int angle = m_controls.angle(kSide);
-    if (angle >= ComputerAngle) return;
-    addSpeed((ComputerAngle - angle) * 4 + error);
-    m_controls.setAngle(kSide, ComputerAngle);
+    if (angle >= m_state.ComputerAngle) return;
+    addSpeed((m_state.ComputerAngle - angle) * 4 + error);
+    m_controls.setAngle(kSide, m_state.ComputerAngle);
 }
 
 void ComputerOpponent::addSpeed(int change) {

@@ -32,7 +32,6 @@ class ComputerOpponent {
     BattleState& m_state;
     BattleControls& m_controls;
     BattlePorts m_ports;
-    int ComputerAngle = 0;  ///< degrees; the flattest shot that clears the measured mountain
 };
 
 }  // namespace skylob

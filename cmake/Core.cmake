@@ -20,5 +20,8 @@ add_library(skylob_core STATIC
 target_include_directories(skylob_core PUBLIC ${PROJECT_SOURCE_DIR})
 target_link_libraries(skylob_core PRIVATE skylob_strict)
 
+# A flight is the same on every machine: no fused multiply-add where the rules round twice.
+target_compile_options(skylob_core PRIVATE -ffp-contract=off)
+
 # One count of a counted wait is to be one turn of a machine loop in every kind of build.
 set_source_files_properties(app/CountedWait.cpp PROPERTIES COMPILE_OPTIONS -O2)
