@@ -180,15 +180,12 @@ void BattleControls::stopTimers() {
 
 void BattleControls::disableForShot(int shooter) {
     m_panel.commandsEnabled = false;
-    m_panel.side[shooter].frameEnabled = false;
+    m_panel.side[shooter].enabled = false;
     show();
 }
 
 void BattleControls::showTurn(int shooter) {
-    for (const int side : {1, 2}) {
-        m_panel.side[side].controlsEnabled = side == shooter;
-        m_panel.side[side].frameEnabled = side == shooter;
-    }
+    for (const int side : {1, 2}) m_panel.side[side].enabled = side == shooter;
     m_panel.turn = shooter;
     show();
 }

@@ -17,9 +17,8 @@ struct SidePanel {
     ScrollBar scrollSpeed{100, 999, 10};
     ScrollBar scrollAngle{10, 90, 5};
     std::string labelSpeed, labelAngle, labelMenLeft;
-    int menLeft = 0;             ///< what labelMenLeft says, for a gauge beside it
-    bool controlsEnabled = false;  ///< scroll bars and labels
-    bool frameEnabled = false;     ///< the frame around them
+    int menLeft = 0;       ///< what labelMenLeft says, for a gauge beside it
+    bool enabled = false;  ///< the frame and everything in it
 };
 
 /// What the battle screen's controls show; the rules fill it in, the screen follows it.

@@ -1,0 +1,73 @@
+#include "app/QtLook.h"
+
+#include <QFile>
+#include <QIcon>
+#include <QPalette>
+#include <QScreen>
+#include <QStyle>
+#include <QVariant>
+#include <QWidget>
+
+namespace skylob {
+
+namespace {
+
+QPalette nightPalette() {
+    QPalette palette;
+    const QColor text{0xE8EDF8}, dim{0x76839F};
+    palette.setColor(QPalette::Window, 0x0D1220);
+    palette.setColor(QPalette::Base, 0x161E31);
+    palette.setColor(QPalette::AlternateBase, 0x1A2338);
+    palette.setColor(QPalette::Button, 0x222D47);
+    palette.setColor(QPalette::Highlight, 0x24507A);
+    palette.setColor(QPalette::HighlightedText, 0xFFFFFF);
+    palette.setColor(QPalette::ToolTipBase, 0xF3E9C6);
+    palette.setColor(QPalette::ToolTipText, 0x1B1A12);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        palette.setColor(role, text);
+        palette.setColor(QPalette::Disabled, role, dim);
+    }
+    return palette;
+}
+
+QString styleSheet() {
+    QFile file{QStringLiteral(":/look/skylob.qss")};
+    if (!file.open(QIODevice::ReadOnly)) qFatal("the style sheet is missing");
+    return QString::fromUtf8(file.readAll());
+}
+
+QIcon programIcon() {
+    QIcon icon;
+    for (const int size : {16, 32, 64, 256})
+        icon.addFile(QStringLiteral(":/pictures/icon-%1.png").arg(size));
+    return icon;
+}
+
+}  // namespace
+
+void applyLook(QWidget& screen) {
+    QFont font = screen.font();
+    font.setFamilies({QStringLiteral("Noto Sans"), QStringLiteral("Open Sans"),
+                      QStringLiteral("DejaVu Sans")});
+    font.setPixelSize(13);
+    screen.setFont(font);
+    screen.setPalette(nightPalette());
+    screen.setProperty("screen", true);
+    screen.setAttribute(Qt::WA_StyledBackground);
+    screen.setStyleSheet(styleSheet());
+    screen.setWindowIcon(programIcon());
+}
+
+void centreOnDisplay(QWidget& screen) {
+    const QRect display = screen.screen()->availableGeometry();
+    screen.move(display.center() - screen.rect().center());
+}
+
+void setStyleProperty(QWidget& widget, const char* name, int value) {
+    if (widget.property(name) == QVariant{value}) return;
+    widget.setProperty(name, value);
+    widget.style()->unpolish(&widget);
+    widget.style()->polish(&widget);
+}
+
+}  // namespace skylob

@@ -1,0 +1,43 @@
+#include "app/QtMessageBoxes.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QWindow>
+
+namespace skylob {
+
+namespace {
+
+QMessageBox::Icon qtIcon(BoxIcon icon) {
+    switch (icon) {
+        case BoxIcon::Question: return QMessageBox::Question;
+        case BoxIcon::Critical: return QMessageBox::Critical;
+        case BoxIcon::Information: break;
+    }
+    return QMessageBox::Information;
+}
+
+/// Keeps the box over the window in use without making it that window's child, whose style
+/// sheet it would then wear.
+void placeOver(QMessageBox& box, const QWidget* window) {
+    if (!window || !window->windowHandle()) return;
+    box.winId();
+    box.windowHandle()->setTransientParent(window->windowHandle());
+}
+
+}  // namespace
+
+BoxAnswer QtMessageBoxes::show(const MessageBox& box) {
+    const bool question = box.buttons == BoxButtons::YesNo;
+    // Player names are data: nothing in the text is markup.
+    QMessageBox widget{qtIcon(box.icon), QString::fromStdString(box.title), {},
+                       question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok};
+    widget.setTextFormat(Qt::PlainText);
+    widget.setText(QString::fromStdString(box.text).remove(QLatin1Char{'\r'}));
+    placeOver(widget, QApplication::activeWindow());
+    const int answer = widget.exec();
+    if (!question) return BoxAnswer::Ok;
+    return answer == QMessageBox::Yes ? BoxAnswer::Yes : BoxAnswer::No;
+}
+
+}  // namespace skylob

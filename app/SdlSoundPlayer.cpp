@@ -1,0 +1,97 @@
+#include "app/SdlSoundPlayer.h"
+
+#include <SDL.h>
+#include <SDL_mixer.h>
+
+#include <QFile>
+#include <cstdio>
+#include <span>
+#include <stdexcept>
+
+#include "app/WaveImage.h"
+
+namespace skylob {
+
+namespace {
+
+constexpr int kRate = 44100, kChannels = 1, kBufferFrames = 1024;
+constexpr int kTheOneChannel = 0;
+
+std::string lowerCase(std::string_view name) {
+    return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()))
+        .toLower()
+        .toStdString();
+}
+
+QByteArray waveResource(const std::string& name) {
+    QFile file{QStringLiteral(":/sounds/") + QString::fromStdString(name) +
+               QStringLiteral(".wav")};
+    if (!file.open(QIODevice::ReadOnly)) throw std::out_of_range("no sound named " + name);
+    return file.readAll();
+}
+
+/// The library refuses a wave file around an MPEG stream as a whole, but plays the stream.
+std::span<const std::byte> playablePart(std::span<const std::byte> file) {
+    const auto image = readWaveImage(file);
+    return image && image->formatTag == WaveImage::kMpegLayer3 ? image->data : file;
+}
+
+}  // namespace
+
+SdlSoundPlayer::SdlSoundPlayer() {
+    // Ctrl+C ends the program, not only its sound.
+    SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
+}
+
+SdlSoundPlayer::~SdlSoundPlayer() {
+    if (m_device != Device::Open) return;
+    Mix_HaltChannel(-1);
+    m_chunks.clear();
+    Mix_CloseAudio();
+    Mix_Quit();
+    SDL_QuitSubSystem(SDL_INIT_AUDIO);
+}
+
+void SdlSoundPlayer::FreeChunk::operator()(Mix_Chunk* chunk) const {
+    Mix_FreeChunk(chunk);
+}
+
+bool SdlSoundPlayer::openDevice() {
+    if (m_device != Device::Unopened) return m_device == Device::Open;
+    m_device = Device::Missing;
+    if (SDL_InitSubSystem(SDL_INIT_AUDIO) == 0) {
+        if (Mix_OpenAudioDevice(kRate, AUDIO_S16SYS, kChannels, kBufferFrames, nullptr, 0) == 0) {
+            Mix_AllocateChannels(1);
+            m_device = Device::Open;
+            return true;
+        }
+        SDL_QuitSubSystem(SDL_INIT_AUDIO);
+    }
+    std::fprintf(stderr, "skylob: no sound: %s\n", SDL_GetError());
+    return false;
+}
+
+Mix_Chunk* SdlSoundPlayer::chunk(const std::string& name) {
+    const auto found = m_chunks.find(name);
+    if (found != m_chunks.end()) return found->second.get();
+    const QByteArray file = waveResource(name);
+    const auto bytes = playablePart(std::as_bytes(std::span{file.data(), static_cast<std::size_t>(
+                                                                             file.size())}));
+    Mix_Chunk* made = nullptr;
+    if (openDevice()) {
+        made = Mix_LoadWAV_RW(
+            SDL_RWFromConstMem(bytes.data(), static_cast<int>(bytes.size())), 1);
+    }
+    return m_chunks.emplace(name, Chunk{made}).first->second.get();
+}
+
+void SdlSoundPlayer::PlaySound(std::string_view name) {
+    Mix_Chunk* const sound = chunk(lowerCase(name));
+    if (sound) Mix_PlayChannel(kTheOneChannel, sound, 0);
+}
+
+bool SdlSoundPlayer::isPlaying() const {
+    return m_device == Device::Open && Mix_Playing(kTheOneChannel) != 0;
+}
+
+}  // namespace skylob

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QObject>
+
+class QWidget;
+
+namespace skylob {
+
+/// Swallows mouse and key input to one window while it is closed. It is made open. What is
+/// input to other windows, such as a box over this one, passes.
+class QtInputGate : public QObject {
+    Q_OBJECT
+
+  public:
+    /// `window` is to be the gate's parent as well.
+    explicit QtInputGate(QWidget* window);
+
+    bool isClosed() const { return m_closed; }
+    void close();
+
+    /// Lets the input that was made while the gate was closed run into it, then opens it.
+    void open();
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    bool belongsToWindow(QObject* object) const;
+
+    QWidget* m_window;
+    bool m_closed = false;
+};
+
+}  // namespace skylob

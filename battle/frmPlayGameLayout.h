@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QRect>
+#include <QSize>
+
+namespace skylob {
+
+/// Where the controls of one side's frame stand in it.
+struct SidePanelLayout {
+    QRect labelSpeed, scrollSpeed, labelAngle, scrollAngle, labelMenLeft, menGauge;
+};
+
+/// Where everything stands on the battle screen, in logical pixels.
+struct frmPlayGameLayout {
+    QSize screen;
+    QRect field;
+    QRect frame[2];         ///< the sides' frames; in the same place when only one is shown
+    bool oneFrameAtATime;
+    SidePanelLayout inFrame;
+    QRect labelRoundNumber, cmdShoot, cmdQuit;
+    bool shootHasCaption;
+    int shootPicture;       ///< the edge length of the shoot button's picture
+    QRect strip;            ///< the frame around the options; what follows is relative to it
+    QRect labelGameSpeed, scrollGameSpeed;
+    bool gameSpeedInStrip;  ///< otherwise the two are relative to the screen, label centred
+    QRect chkSound, chkTrajectory, chkMeteors, chkLightning, chkWind;
+};
+
+/// The layout for a screen size: 1 fits a display of 800 x 600, 2 one of 1024 x 768, 3 one of
+/// 1280 x 800. Any other size is laid out as 2.
+const frmPlayGameLayout& layoutForScreenSize(int screenSize);
+
+}  // namespace skylob

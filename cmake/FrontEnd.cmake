@@ -1,0 +1,48 @@
+# The screens and the adapters to the outside world: Qt Widgets and SDL2_mixer.
+find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets)
+find_package(PkgConfig REQUIRED)
+pkg_check_modules(SDL2_MIXER REQUIRED IMPORTED_TARGET SDL2_mixer)
+
+add_library(skylob_ui STATIC
+    app/Application.cpp
+    app/QtLook.cpp
+    app/QtMessageBoxes.cpp
+    app/QtPacer.cpp
+    app/QtSettingsStore.cpp
+    app/QtShapes.cpp
+    app/SdlSoundPlayer.cpp
+    battle/QtInputGate.cpp
+    battle/QtMenGauge.cpp
+    battle/QtSidePanel.cpp
+    battle/frmPlayGame.cpp
+    battle/frmPlayGameLayout.cpp
+    battle/picGameField.cpp
+    controls/GlintButton.cpp
+    players/frmSummary.cpp
+)
+set_target_properties(skylob_ui PROPERTIES AUTOMOC ON)
+target_link_libraries(skylob_ui
+    PUBLIC skylob_core Qt6::Widgets
+    PRIVATE PkgConfig::SDL2_MIXER skylob_strict)
+target_compile_definitions(skylob_ui PRIVATE QT_NO_CAST_TO_ASCII)
+
+# Sounds and pictures are part of the program. They hang on the executables that use them: in a
+# static library the linker would drop them.
+function(skylob_add_resources target)
+    file(GLOB sounds CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/resources/sounds/*.wav)
+    file(GLOB look CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/resources/look/*.png
+        ${PROJECT_SOURCE_DIR}/resources/look/*.qss)
+    file(GLOB pictures CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/resources/pictures/*.png
+        ${PROJECT_SOURCE_DIR}/resources/pictures/*.txt)
+    qt_add_resources(${target} sounds PREFIX /sounds
+        BASE ${PROJECT_SOURCE_DIR}/resources/sounds FILES ${sounds})
+    qt_add_resources(${target} look PREFIX /look
+        BASE ${PROJECT_SOURCE_DIR}/resources/look FILES ${look})
+    qt_add_resources(${target} pictures PREFIX /pictures
+        BASE ${PROJECT_SOURCE_DIR}/resources/pictures FILES ${pictures})
+endfunction()
+
+add_executable(skylob app/main.cpp)
+target_compile_definitions(skylob PRIVATE SKYLOB_VERSION="${PROJECT_VERSION}")
+target_link_libraries(skylob PRIVATE skylob_ui skylob_strict)
+skylob_add_resources(skylob)

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QDialog>
+
+#include "app/basSkylob.h"
+#include "battle/BattleView.h"
+
+namespace skylob {
+
+/// What a round or a set came to: a heading and both players' figures. Run it with exec().
+class frmSummary : public QDialog {
+    Q_OBJECT
+
+  public:
+    frmSummary(const basSkylob& shared, SummaryKind kind);
+};
+
+}  // namespace skylob
