@@ -22,7 +22,7 @@ struct PixelRect {
 ///
 /// There are two buffers. The persistent picture is what refresh() brings back; the screen
 /// picture is what the player sees: the persistent picture with the two pieces on it, and on top
-/// whatever was drawn while persistent drawing was off. What lies outside the field is cut off.
+/// whatever was drawn while persistent drawing was off. What lies outside the picture is cut off.
 /// A picture of no size is valid and draws nothing: a game without a screen uses it.
 class FieldPicture {
   public:
@@ -55,8 +55,8 @@ class FieldPicture {
     /// A dot of the pen's width: square at widths up to 1 unit, round above.
     void setPoint(int x, int y, Colour colour);
 
-    /// The colour seen at a point; black outside the field. The rules draw and read single
-    /// points, so one point is one square of device pixels: see liftPoint for the exact pixels.
+    /// The colour seen at a point; black outside the picture. Where a point is a square of
+    /// several device pixels that is one of them: see liftPoint for all.
     Colour pixel(int x, int y) const;
 
     /// A line of the pen's width along column x, from height y1 up to y2, both included.

@@ -1,0 +1,255 @@
+#include <gtest/gtest.h>
+
+#include "tests/support/Fakes.h"
+
+namespace skylob {
+namespace {
+
+using test::BattleRig;
+using test::Log;
+
+// On the rig's field, with the mountain between the pieces, these shots are known to land so.
+// Worked out by a second program that shares no code with this one.
+struct Aim {
+    int speed, angle;
+};
+constexpr Aim kMiss{100, 75}, kSelfHit{100, 90}, kOutOfBounds{999, 45};
+constexpr Aim kDirectHitBy[] = {{381, 80}, {390, 80}};  // sides 1 and 2
+constexpr Aim kNearMissBy[] = {{379, 80}, {392, 80}};   // 10 and 9 columns beside the piece
+
+void shoot(BattleRig& rig, const Aim& aim) {
+    rig.shoot(aim.speed, aim.angle);
+}
+
+TEST(FirstShooter, IsDrawnBetweenTwoPeopleAndTheHumanAgainstTheComputer) {
+    for (const auto& [r, side] : {std::pair{0.1, 1}, std::pair{0.9, 2}}) {
+        BattleRig rig;
+        rig.random.script({r});
+        rig.start();
+        EXPECT_EQ(rig.battle.state().Shooter, side);
+    }
+    BattleRig rig{"Computer"};
+    rig.random.script({0.1});  // the field's first draw then: high ground
+    rig.start();
+    EXPECT_EQ(rig.battle.state().Shooter, 1);
+    EXPECT_GT(rig.battle.state().field.heightAt(1), 500);
+}
+
+TEST(StartRound, SetsUpBothSides) {
+    BattleRig rig;
+    rig.random.script({0});
+    rig.start();
+    for (const int side : {1, 2}) {
+        EXPECT_EQ(rig.panel().side[side].labelSpeed, "Speed: 300");
+        EXPECT_EQ(rig.panel().side[side].labelAngle, "Angle:   75");
+        EXPECT_EQ(rig.panel().side[side].labelMenLeft, "Men Left: 100");
+        EXPECT_EQ(rig.panel().side[side].enabled, side == 1);
+    }
+    EXPECT_EQ(rig.panel().labelRoundNumber, "Round 1 of 5");
+    EXPECT_TRUE(rig.panel().commandsEnabled);
+    EXPECT_FALSE(rig.view.inputHeld);
+    EXPECT_EQ(rig.battle.state().field.PieceX, (PerSide<int>{163, 863}));
+
+    // A box that closes over the battle activates it again.
+    rig.start();
+    EXPECT_EQ(rig.battle.state().RoundNumber, 1);
+}
+
+TEST(Miss, CostsTheShooterDesertersAndPassesTheTurn) {
+    BattleRig rig;
+    rig.random.script({0});
+    rig.start();
+    rig.random.script({0.999});
+    shoot(rig, kMiss);
+    EXPECT_EQ(rig.battle.state().MenLeft, (PerSide<int>{85, 100}));
+    EXPECT_EQ(rig.battle.state().Shooter, 2);
+    EXPECT_TRUE(rig.panel().side[2].enabled);
+    EXPECT_FALSE(rig.panel().side[1].enabled);
+    EXPECT_EQ(rig.panel().side[1].labelMenLeft, "Men Left: 85");
+    rig.random.script({0});
+    shoot(rig, kOutOfBounds);
+    EXPECT_EQ(rig.battle.state().MenLeft, (PerSide<int>{85, 99}));
+    EXPECT_EQ(rig.shared.RoundShots, (PerSide<int>{1, 1}));
+    EXPECT_EQ(rig.shared.RoundKills, (PerSide<int>{0, 0}));
+}
+
+TEST(DirectHit, CreditsTheEnemysMenAndLeavesThem) {
+    BattleRig rig;
+    rig.random.script({0});
+    rig.start();
+    shoot(rig, kMiss);  // 8 desert
+    shoot(rig, kMiss);
+    EXPECT_EQ(rig.battle.state().MenLeft, (PerSide<int>{92, 92}));
+    shoot(rig, kDirectHitBy[0]);
+    EXPECT_EQ(rig.battle.shots().back().landing, Landing::DirectHit);
+    EXPECT_EQ(rig.shared.TotalKills, (PerSide<int>{92, 0}));
+    EXPECT_EQ(rig.shared.RoundsWon, (PerSide<int>{1, 0}));
+    // The loser opens the next round, for which everything of the round starts afresh.
+    EXPECT_EQ(rig.battle.state().Shooter, 2);
+    EXPECT_EQ(rig.battle.state().RoundNumber, 2);
+    EXPECT_EQ(rig.battle.state().MenLeft, (PerSide<int>{100, 100}));
+    EXPECT_EQ(rig.shared.RoundKills, (PerSide<int>{0, 0}));
+    EXPECT_EQ(rig.shared.RoundShots, (PerSide<int>{0, 0}));
+    shoot(rig, kDirectHitBy[1]);
+    EXPECT_EQ(rig.shared.TotalKills, (PerSide<int>{92, 100}));
+    EXPECT_EQ(rig.battle.state().Shooter, 1);
+}
+
+TEST(SelfHit, CreditsTheOpponent) {
+    BattleRig rig;
+    rig.random.script({0.9});
+    rig.start();
+    shoot(rig, kSelfHit);
+    EXPECT_EQ(rig.battle.shots().back().landing, Landing::SelfHit);
+    EXPECT_EQ(rig.shared.TotalKills, (PerSide<int>{100, 0}));
+    EXPECT_EQ(rig.shared.RoundsWon, (PerSide<int>{1, 0}));
+    EXPECT_EQ(rig.battle.state().Shooter, 2);
+}
+
+TEST(NearMiss, KillsSomeAndIsForgottenByTheNextTurn) {
+    BattleRig rig;
+    rig.random.script({0});
+    rig.start();
+    shoot(rig, kNearMissBy[0]);
+    EXPECT_EQ(rig.battle.state().MenLeft, (PerSide<int>{92, 91}));  // 101 / 11 = 9.18
+    EXPECT_EQ(rig.shared.RoundKills, (PerSide<int>{9, 0}));
+    shoot(rig, kMiss);
+    EXPECT_EQ(rig.shared.RoundKills, (PerSide<int>{9, 0}));
+    EXPECT_EQ(rig.battle.state().MenLeft, (PerSide<int>{92, 83}));
+}
+
+TEST(NearMiss, BesideASideWithoutMenWinsTheRound) {
+    BattleRig rig;
+    rig.random.script({0});
+    rig.start();
+    for (int turn = 1; turn <= 12; ++turn) {
+        shoot(rig, kMiss);
+        shoot(rig, kMiss);
+    }
+    EXPECT_EQ(rig.battle.state().MenLeft, (PerSide<int>{4, 4}));
+    shoot(rig, kMiss);
+    EXPECT_EQ(rig.battle.state().MenLeft, (PerSide<int>{0, 4}));  // never below 0
+    shoot(rig, kNearMissBy[1]);
+    EXPECT_EQ(rig.shared.RoundsWon, (PerSide<int>{0, 1}));
+    EXPECT_EQ(rig.shared.TotalKills, (PerSide<int>{0, 0}));
+    EXPECT_TRUE(rig.boxes.shown.empty());
+}
+
+TEST(SideWithoutMen, LosesAtTheStartOfItsTurn) {
+    BattleRig rig;
+    rig.random.script({0});
+    rig.start();
+    for (int shot = 1; shot <= 25; ++shot) shoot(rig, kMiss);
+    EXPECT_EQ(rig.battle.state().MenLeft, (PerSide<int>{0, 4}));
+    rig.boxes.answers = {BoxAnswer::Ok};
+    shoot(rig, kMiss);
+    ASSERT_EQ(rig.boxes.shown.size(), 1u);
+    EXPECT_EQ(rig.boxes.shown[0].title, "Ann loses this round!");
+    EXPECT_EQ(rig.boxes.shown[0].text,
+              "Ann-\r\n\r\nYou can't shoot because you have no men left!");
+    EXPECT_EQ(rig.boxes.shown[0].icon, BoxIcon::Critical);
+    EXPECT_EQ(rig.shared.RoundsWon, (PerSide<int>{0, 1}));
+    EXPECT_EQ(rig.shared.TotalKills, (PerSide<int>{0, 0}));  // deserters are nobody's kills
+    EXPECT_EQ(rig.battle.state().RoundNumber, 2);
+    EXPECT_EQ(rig.battle.state().Shooter, 1);
+}
+
+TEST(Shot, DisablesEverythingAndHoldsInput) {
+    BattleRig rig;
+    rig.random.script({0});
+    rig.start();
+    rig.controls().chkSound_Click(true);
+    rig.log.clear();
+    bool seen = false;
+    rig.view.onShowField = [&] {
+        seen = true;
+        EXPECT_FALSE(rig.panel().commandsEnabled);
+        EXPECT_FALSE(rig.panel().side[1].enabled);
+        EXPECT_FALSE(rig.panel().timerMeteors);
+        EXPECT_FALSE(rig.panel().timerLightning);
+        EXPECT_TRUE(rig.view.inputHeld);
+        // Clicks that come through all the same do nothing.
+        rig.battle.FieldPiece_Click();
+        rig.controls().cmdQuit_Click();
+    };
+    rig.fire(300, 75);
+    EXPECT_TRUE(seen);
+    EXPECT_EQ(rig.log, (Log{"sound shot", "sound explosion", "release input"}));
+    EXPECT_EQ(rig.battle.shots().size(), 1u);
+    EXPECT_TRUE(rig.panel().timerMeteors);
+    EXPECT_TRUE(rig.panel().timerLightning);
+}
+
+TEST(LastRound, EndsTheSet) {
+    BattleRig rig{"Bob", 1};
+    rig.random.script({0});
+    rig.start();
+    rig.log.clear();
+    shoot(rig, kDirectHitBy[0]);
+    EXPECT_EQ(rig.log, (Log{"wait 1000", "summary Round", "hourglass", "wait 1000", "summary Set",
+                            "close"}));
+    EXPECT_TRUE(rig.shared.SetOver);
+    EXPECT_EQ(rig.shared.RoundsWon, (PerSide<int>{1, 0}));
+    EXPECT_EQ(rig.shared.Winner, 1);
+}
+
+TEST(ComputersTurn, PausesFiresAndQueuesTheNextTurn) {
+    BattleRig rig{"Computer"};
+    rig.start();
+    rig.controls().chkSound_Click(true);
+    rig.log.clear();
+    rig.fire(kMiss.speed, kMiss.angle);
+    // Four clicks: 15 up for the lower ground, 2 degrees flatter for the distance, and then the
+    // floor of 75 degrees, which is paid for with speed.
+    EXPECT_EQ(rig.log, (Log{"sound click", "sound shot", "sound explosion", "wait 1000",
+                            "sound click", "sound click", "sound click", "sound click", "yield",
+                            "wait 250", "sound shot", "sound explosion", "queue"}));
+    EXPECT_FALSE(rig.panel().commandsEnabled);
+    EXPECT_TRUE(rig.view.inputHeld);
+    EXPECT_EQ(rig.battle.state().LastImpactX, rig.battle.shots().back().landedAt.x);
+    rig.view.runQueue();
+    EXPECT_TRUE(rig.panel().commandsEnabled);
+    EXPECT_EQ(rig.battle.state().Shooter, 1);
+}
+
+TEST(WholeSet, AgainstTheComputerIsPinned) {
+    // Seed 7, "Fair", wind on; the human walks speed and angle through a fixed pattern. Worked
+    // out by a second program that shares no code with this one.
+    basSkylob players;
+    players.PlayerName = {"Ann", "Computer"};
+    players.NumRounds = 5;
+    players.SkillLevel = 5;
+    MemorySettings settings;
+    settings.save("WindSetting", "1");
+    HeadlessBattle set{players, 7, settings};
+    while (!set.isOver()) {
+        const int fired = set.battle().shared().RoundShots[1];
+        set.shoot(250 + 50 * (fired % 12), 75 - 3 * (fired % 5));
+    }
+    const basSkylob& result = set.battle().shared();
+    EXPECT_EQ(result.RoundsWon, (PerSide<int>{1, 4}));
+    EXPECT_EQ(result.TotalKills, (PerSide<int>{6, 200}));
+    EXPECT_EQ(set.battle().state().MenLeft, (PerSide<int>{34, 42}));
+    EXPECT_EQ(set.battle().state().LastImpactX, 345);
+    EXPECT_EQ(set.battle().state().AimDistance, -12);
+    EXPECT_EQ(set.battle().state().Wind, -9);
+
+    // The computer's shots: where it aimed and where they came down.
+    std::string landings;
+    for (const Shot& shot : set.battle().shots()) {
+        if (shot.side == 2) {
+            landings += std::to_string(shot.speed) + "/" + std::to_string(shot.angle) + ">" +
+                        std::to_string(shot.landedAt.x) + " ";
+        }
+    }
+    EXPECT_EQ(landings,
+              "262/70>363 284/70>273 296/70>213 302/70>187 308/70>151 309/70>144 325/70>66 "
+              "321/70>83 319/70>94 321/70>83 301/81>320 297/81>330 299/81>327 297/81>330 "
+              "297/81>330 297/81>330 299/81>327 297/81>330 282/75>148 283/81>404 304/70>270 "
+              "322/70>204 330/70>179 338/70>136 339/70>133 340/70>125 354/70>53 356/70>41 "
+              "352/70>64 300/80>596 301/76>708 341/76>103 342/81>294 328/81>329 326/81>332 "
+              "326/81>332 322/81>345 ");
+}
+
+}  // namespace
+}  // namespace skylob

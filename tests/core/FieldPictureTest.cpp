@@ -1,0 +1,125 @@
+#include "battle/FieldPicture.h"
+
+#include <gtest/gtest.h>
+
+namespace skylob {
+namespace {
+
+constexpr Colour kTan = 0x0087D0;
+
+FieldPicture pictureOf(int width, int height, int dotScale = 1) {
+    FieldPicture picture;
+    picture.resize(width, height, dotScale);
+    return picture;
+}
+
+/// How many device pixels of the screen picture are not black.
+int litPixels(const FieldPicture& picture) {
+    int lit = 0;
+    for (int i = 0; i < picture.width() * picture.height(); ++i)
+        lit += picture.screenPixels()[i] != 0xFF000000u;
+    return lit;
+}
+
+TEST(FieldPicture, MapsTheFieldsCornersToItsOwn) {
+    FieldPicture picture = pictureOf(984, 512);
+    picture.setPoint(1, 1, kRed);
+    picture.setPoint(1000, 1000, kTan);
+    EXPECT_EQ(picture.screenPixels()[511 * 984], 0xFFFF0000u);  // bottom left, red-green-blue
+    EXPECT_EQ(picture.screenPixels()[983], 0xFFD08700u);        // top right
+    EXPECT_EQ(picture.pixel(1000, 1000), kTan);
+    EXPECT_EQ(litPixels(picture), 2);
+}
+
+TEST(FieldPicture, DrawsDotsOfThePensWidth) {
+    struct Row {
+        int dotScale, penWidth, pixels;
+    };
+    // Pixel centres within the circle of that diameter, counted on squared paper.
+    for (const Row& row : {Row{1, 1, 1}, Row{1, 2, 4}, Row{1, 3, 9}, Row{1, 4, 12}, Row{1, 6, 32},
+                           Row{2, 1, 4}, Row{2, 2, 12}, Row{4, 1, 16}}) {
+        FieldPicture picture = pictureOf(100, 100, row.dotScale);
+        picture.setPenWidth(row.penWidth);
+        picture.setPoint(500, 500, kYellow);
+        EXPECT_EQ(litPixels(picture), row.pixels) << row.dotScale << " x " << row.penWidth;
+    }
+}
+
+TEST(FieldPicture, CutsOffWhatLiesOutside) {
+    FieldPicture picture = pictureOf(50, 40);
+    for (const int at : {-3'000'000, -30, 1030, 3'000'000}) {
+        picture.setPenWidth(at % 100 == 0 ? 23 : 1);
+        picture.setPoint(at, 500, kWhite);
+        picture.setPoint(500, at, kWhite);
+        picture.filledCircle(at, at, 40, kWhite);
+        picture.verticalLine(at, at, at, kWhite);
+        EXPECT_EQ(picture.pixel(at, at), kBlack);
+        picture.putBack(picture.liftPoint(at, at));
+        picture.putBack(picture.liftPoint(at, 500));
+    }
+    FieldPicture none;
+    none.setPoint(5, 5, kWhite);
+    none.filledCircle(5, 5, 40, kWhite);
+    none.verticalLine(5, 1, 900, kWhite);
+    none.refresh();
+    EXPECT_EQ(none.pixel(5, 5), kBlack);
+}
+
+TEST(FieldPicture, KeepsOnlyWhatIsDrawnPersistently) {
+    FieldPicture picture = pictureOf(100, 100);
+    picture.setPoint(100, 100, kRed);
+    picture.setPersistentDrawing(false);
+    picture.setPoint(200, 200, kYellow);
+    picture.setPoint(100, 100, kYellow);
+    EXPECT_EQ(picture.pixel(200, 200), kYellow);
+    EXPECT_EQ(picture.pixel(100, 100), kYellow);
+    picture.refresh();
+    EXPECT_EQ(picture.pixel(200, 200), kBlack);
+    EXPECT_EQ(picture.pixel(100, 100), kRed);
+}
+
+TEST(FieldPicture, LaysPiecesOverThePersistentPicture) {
+    FieldPicture picture = pictureOf(1000, 1000);
+    FieldPicture::PieceImage half{24, 46, std::vector<std::uint32_t>(24 * 46, 0x80800000u)};
+    picture.setPieceImage(1, half);
+    picture.placePiece(1, 500, 100);
+    picture.setPoint(500, 100, 0xFF0000);  // blue
+    EXPECT_EQ(picture.pixel(500, 101), kBlack);
+    picture.refresh();
+    EXPECT_EQ(picture.pixel(500, 101), 0x000080u);
+    EXPECT_EQ(picture.pixel(500, 100), 0x7F0080u);  // half the blue shines through
+    picture.setPersistentDrawing(false);
+    picture.setPoint(500, 101, kYellow);
+    EXPECT_EQ(picture.pixel(500, 101), kYellow);  // a shell is seen over the piece
+    picture.hidePieces();
+    picture.refresh();
+    EXPECT_EQ(picture.pixel(500, 101), kBlack);
+    EXPECT_TRUE(picture.pieceArea(1).isEmpty());
+}
+
+TEST(FieldPicture, PutsBackExactlyWhatItLifted) {
+    FieldPicture picture = pictureOf(200, 200, 2);
+    picture.setPersistentDrawing(false);
+    picture.filledCircle(503, 500, 1, kCyan);  // covers the dot below only in part
+    const std::vector<std::uint32_t> before(picture.screenPixels(),
+                                            picture.screenPixels() + 200 * 200);
+    const auto lifted = picture.liftPoint(500, 500);
+    picture.setPoint(500, 500, kYellow);
+    picture.putBack(lifted);
+    EXPECT_TRUE(std::equal(before.begin(), before.end(), picture.screenPixels()));
+    EXPECT_GT(litPixels(picture), 0);
+}
+
+TEST(FieldPicture, TellsWhatHasChanged) {
+    FieldPicture picture = pictureOf(1000, 1000, 2);
+    EXPECT_EQ(picture.takeDirty(), (PixelRect{0, 0, 1000, 1000}));
+    EXPECT_TRUE(picture.takeDirty().isEmpty());
+    picture.setPoint(11, 990, kRed);
+    picture.setPoint(21, 980, kRed);
+    EXPECT_EQ(picture.takeDirty(), (PixelRect{10, 10, 12, 12}));
+    picture.putBack(picture.liftPoint(11, 990));
+    EXPECT_EQ(picture.takeDirty(), (PixelRect{10, 10, 2, 2}));
+}
+
+}  // namespace
+}  // namespace skylob

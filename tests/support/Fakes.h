@@ -1,0 +1,175 @@
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "app/basSkylob.h"
+#include "battle/Battle.h"
+#include "battle/HeadlessBattle.h"
+
+namespace skylob::test {
+
+/// Gives the listed numbers in turn; then `rest` for ever, or an error when there is none.
+class ScriptedRandom : public RandomSource {
+  public:
+    explicit ScriptedRandom(std::deque<double> script, std::optional<double> rest = std::nullopt)
+        : m_script{std::move(script)}, m_rest{rest} {}
+
+    double next() override {
+        ++m_draws;
+        if (m_script.empty()) {
+            if (m_rest) return *m_rest;
+            throw std::logic_error("the script of chance has run dry");
+        }
+        const double r = m_script.front();
+        m_script.pop_front();
+        return r;
+    }
+
+    void script(std::deque<double> numbers) { m_script = std::move(numbers); }
+    int draws() const { return m_draws; }
+
+  private:
+    std::deque<double> m_script;
+    std::optional<double> m_rest;
+    int m_draws = 0;
+};
+
+class HandSetClock : public Clock {
+  public:
+    DateTime now() const override { return time; }
+    DateTime time{};
+};
+
+/// What happened in a battle, in order: one log that all the recorders below write into.
+using Log = std::vector<std::string>;
+
+class RecordingPacer : public Pacer {
+  public:
+    explicit RecordingPacer(Log& log) : m_log{log} {}
+
+    void startPacing() override { counts.clear(); }
+    void countedWait(std::int32_t count) override { counts.push_back(count); }
+    void Wait(float seconds) override {
+        m_log.push_back("wait " + std::to_string(waitMilliseconds(seconds)));
+    }
+    void yieldToEvents() override {
+        m_log.push_back("yield");
+        if (const auto action = std::exchange(onYield, {})) action();
+    }
+
+    std::vector<std::int32_t> counts;  ///< since the last startPacing()
+    std::function<void()> onYield;     ///< run once, at the next yield
+
+  private:
+    Log& m_log;
+};
+
+class RecordingSounds : public SoundPlayer {
+  public:
+    explicit RecordingSounds(Log& log) : m_log{log} {}
+    void PlaySound(std::string_view name) override { m_log.push_back("sound " + std::string{name}); }
+
+  private:
+    Log& m_log;
+};
+
+/// Answers from a queue; a box that nobody expected is an error.
+class QueuedBoxes : public MessageBoxes {
+  public:
+    explicit QueuedBoxes(Log& log) : m_log{log} {}
+
+    BoxAnswer show(const MessageBox& box) override {
+        m_log.push_back("box " + box.title);
+        if (answers.empty()) throw std::logic_error("unexpected box: " + box.title);
+        shown.push_back(box);
+        const BoxAnswer answer = answers.front();
+        answers.pop_front();
+        return answer;
+    }
+
+    std::deque<BoxAnswer> answers;
+    std::vector<MessageBox> shown;
+
+  private:
+    Log& m_log;
+};
+
+class RecordingView : public HeadlessView {
+  public:
+    explicit RecordingView(Log& log) : m_log{log} {}
+
+    void showField() override {
+        if (onShowField) onShowField();
+    }
+    void holdInput() override { inputHeld = true; }
+    void releaseInput() override {
+        inputHeld = false;
+        m_log.push_back("release input");
+    }
+    void queue(std::function<void()> task) override {
+        m_log.push_back("queue");
+        HeadlessView::queue(std::move(task));
+    }
+    void showSummary(SummaryKind kind) override {
+        m_log.push_back(kind == SummaryKind::Round ? "summary Round" : "summary Set");
+    }
+    void showCursor(BattleCursor cursor) override {
+        if (cursor == BattleCursor::Hourglass) m_log.push_back("hourglass");
+    }
+    void closeBattle() override {
+        m_log.push_back("close");
+        HeadlessView::closeBattle();
+    }
+
+    std::function<void()> onShowField;
+    bool inputHeld = false;
+
+  private:
+    Log& m_log;
+};
+
+/// A battle between "Ann" and "Bob" (or the computer) with every port in the test's hands.
+/// Chance is r = 0.5 unless the test scripts it. That makes, in every round, a field with
+/// level ground of height 105 up to column 325, a mountain with its top of 720 at 550, ground of
+/// 28 from column 725 to 878, and pieces in columns 163 and 863; a deserting side loses 8 men.
+struct BattleRig {
+    explicit BattleRig(std::string opponent = "Bob", int rounds = 5) {
+        shared.PlayerName = {"Ann", std::move(opponent)};
+        shared.NumRounds = rounds;
+        settings.save("SoundSetting", "0");
+        settings.save("GameSpeed", "99");
+    }
+
+    void start() { battle.Form_Activate(); }
+
+    /// Aims for the side whose turn it is, fires, and runs what that queued.
+    void shoot(int speed, int angle) {
+        fire(speed, angle);
+        view.runQueue();
+    }
+    void fire(int speed, int angle) {
+        battle.controls().setSpeed(battle.state().Shooter, speed);
+        battle.controls().setAngle(battle.state().Shooter, angle);
+        battle.cmdShoot_Click();
+    }
+
+    BattleControls& controls() { return battle.controls(); }
+    const BattlePanel& panel() { return battle.controls().panel(); }
+
+    Log log;
+    basSkylob shared;
+    ScriptedRandom random{{}, 0.5};
+    HandSetClock clock;
+    RecordingPacer pacer{log};
+    RecordingSounds sounds{log};
+    QueuedBoxes boxes{log};
+    MemorySettings settings;
+    RecordingView view{log};
+    Battle battle{shared, {random, clock, pacer, sounds, boxes, settings, view}};
+};
+
+}  // namespace skylob::test
