@@ -53,6 +53,8 @@ QScrollBar* makeScrollBar(const ScrollBar& bar, const QRect& place, QWidget* par
     widget->setPageStep(bar.largeChange);
     widget->setGeometry(place);
     widget->setFocusPolicy(Qt::StrongFocus);
+    // A scroll bar takes "right" and "up" for less, as it suits a document; here it sets a value.
+    widget->setInvertedControls(false);
     return widget;
 }
 
