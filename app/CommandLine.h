@@ -13,8 +13,8 @@ struct CommandLine {
     enum class Request { Play, Help, Version, Refused };
 
     Request request = Request::Play;
-    std::string error;                  ///< Refused: one line that says why
-    std::optional<std::uint64_t> seed;  ///< --seed: makes the run repeatable
+    std::string error;                   ///< Refused: one line that says why
+    std::optional<std::uint64_t> seed;   ///< --seed: makes the run repeatable
     std::optional<std::string> dataDir;  ///< --data-dir: the working directory
     bool userData = false;               ///< --user-data: the user's data folder instead
 };

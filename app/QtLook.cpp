@@ -47,8 +47,8 @@ QIcon programIcon() {
 
 void applyLook(QWidget& screen) {
     QFont font = screen.font();
-    font.setFamilies({QStringLiteral("Noto Sans"), QStringLiteral("Open Sans"),
-                      QStringLiteral("DejaVu Sans")});
+    font.setFamilies(
+        {QStringLiteral("Noto Sans"), QStringLiteral("Open Sans"), QStringLiteral("DejaVu Sans")});
     font.setPixelSize(13);
     screen.setFont(font);
     screen.setPalette(nightPalette());

@@ -10,9 +10,12 @@ namespace {
 
 QMessageBox::Icon qtIcon(BoxIcon icon) {
     switch (icon) {
-        case BoxIcon::Question: return QMessageBox::Question;
-        case BoxIcon::Critical: return QMessageBox::Critical;
-        case BoxIcon::Information: break;
+        case BoxIcon::Question:
+            return QMessageBox::Question;
+        case BoxIcon::Critical:
+            return QMessageBox::Critical;
+        case BoxIcon::Information:
+            break;
     }
     return QMessageBox::Information;
 }
@@ -30,7 +33,9 @@ void placeOver(QMessageBox& box, const QWidget* window) {
 BoxAnswer QtMessageBoxes::show(const MessageBox& box) {
     const bool question = box.buttons == BoxButtons::YesNo;
     // Player names are data: nothing in the text is markup.
-    QMessageBox widget{qtIcon(box.icon), QString::fromStdString(box.title), {},
+    QMessageBox widget{qtIcon(box.icon),
+                       QString::fromStdString(box.title),
+                       {},
                        question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok};
     widget.setTextFormat(Qt::PlainText);
     widget.setText(QString::fromStdString(box.text).remove(QLatin1Char{'\r'}));

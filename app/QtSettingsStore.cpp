@@ -18,7 +18,8 @@ QString path(std::string_view key) {
 
 QtSettingsStore::QtSettingsStore()
     : m_settings{QSettings::IniFormat, QSettings::UserScope, toQString(kProgramTitle),
-                 toQString(kProgramTitle)} {}
+                 toQString(kProgramTitle)} {
+}
 
 std::string QtSettingsStore::get(std::string_view key, std::string_view fallback) const {
     return m_settings.value(path(key), toQString(fallback)).toString().toStdString();

@@ -24,8 +24,7 @@ std::string lowerCase(std::string_view name) {
 }
 
 QByteArray waveResource(const std::string& name) {
-    QFile file{QStringLiteral(":/sounds/") + QString::fromStdString(name) +
-               QStringLiteral(".wav")};
+    QFile file{QStringLiteral(":/sounds/") + QString::fromStdString(name) + QStringLiteral(".wav")};
     if (!file.open(QIODevice::ReadOnly)) throw std::out_of_range("no sound named " + name);
     return file.readAll();
 }
@@ -75,12 +74,11 @@ Mix_Chunk* SdlSoundPlayer::chunk(const std::string& name) {
     const auto found = m_chunks.find(name);
     if (found != m_chunks.end()) return found->second.get();
     const QByteArray file = waveResource(name);
-    const auto bytes = playablePart(std::as_bytes(std::span{file.data(), static_cast<std::size_t>(
-                                                                             file.size())}));
+    const auto bytes =
+        playablePart(std::as_bytes(std::span{file.data(), static_cast<std::size_t>(file.size())}));
     Mix_Chunk* made = nullptr;
     if (openDevice()) {
-        made = Mix_LoadWAV_RW(
-            SDL_RWFromConstMem(bytes.data(), static_cast<int>(bytes.size())), 1);
+        made = Mix_LoadWAV_RW(SDL_RWFromConstMem(bytes.data(), static_cast<int>(bytes.size())), 1);
     }
     return m_chunks.emplace(name, Chunk{made}).first->second.get();
 }

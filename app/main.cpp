@@ -42,12 +42,17 @@ int main(int argc, char** argv) {
     const std::vector<std::string_view> arguments{argv + 1, argv + argc};
     const auto commandLine = skylob::parseCommandLine(arguments);
     switch (commandLine.request) {
-        case Request::Help: print(skylob::commandLineHelp()); return 0;
-        case Request::Version: print("Skylob " SKYLOB_VERSION "\n"); return 0;
+        case Request::Help:
+            print(skylob::commandLineHelp());
+            return 0;
+        case Request::Version:
+            print("Skylob " SKYLOB_VERSION "\n");
+            return 0;
         case Request::Refused:
             std::fprintf(stderr, "skylob: %s\n", commandLine.error.c_str());
             return kUnusableArguments;
-        case Request::Play: break;
+        case Request::Play:
+            break;
     }
     if (!enterDataFolder(commandLine)) return kUnusableArguments;
     if (!hasDisplay()) return EXIT_FAILURE;

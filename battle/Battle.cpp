@@ -13,7 +13,8 @@ Battle::Battle(basSkylob& shared, const BattlePorts& ports)
       m_ports{ports},
       m_animation{m_picture, ports.view, ports.pacer},
       m_controls{shared, m_state, ports},
-      m_computer{shared, m_state, m_controls, ports} {}
+      m_computer{shared, m_state, m_controls, ports} {
+}
 
 void Battle::Form_Activate() {
     if (m_activated) return;
@@ -112,15 +113,11 @@ void Battle::fire() {
 void Battle::FireShell() {
     const int shooter = m_state.Shooter, target = opponentOf(shooter);
     const PerSide<int>& pieceX = m_state.field.PieceX;
-    const Launch launch{shooter,
-                        m_controls.speed(shooter),
-                        m_controls.angle(shooter),
-                        pieceX[shooter],
-                        m_state.field.PieceY[shooter],
-                        m_state.Wind};
-    FieldPoint at = flyShell(launch, m_state.field,
-                             m_state.ShowTrajectory ? Trail::Coloured : Trail::None, m_animation,
-                             FlightDelayCount(m_shared.GameSpeed));
+    const Launch launch{shooter,         m_controls.speed(shooter),     m_controls.angle(shooter),
+                        pieceX[shooter], m_state.field.PieceY[shooter], m_state.Wind};
+    FieldPoint at =
+        flyShell(launch, m_state.field, m_state.ShowTrajectory ? Trail::Coloured : Trail::None,
+                 m_animation, FlightDelayCount(m_shared.GameSpeed));
     if (m_shared.PlayerName[shooter] == kComputerName) m_state.LastImpactX = at.x;
 
     const Landing landing = classifyLanding(at.x, pieceX[shooter], pieceX[target]);

@@ -25,7 +25,8 @@ std::string windCaption(int wind) {
 }  // namespace
 
 BattleControls::BattleControls(basSkylob& shared, BattleState& state, const BattlePorts& ports)
-    : m_shared{shared}, m_state{state}, m_ports{ports} {}
+    : m_shared{shared}, m_state{state}, m_ports{ports} {
+}
 
 void BattleControls::restoreOptions() {
     const SettingsStore& store = m_ports.settings;

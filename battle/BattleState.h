@@ -11,14 +11,14 @@ namespace skylob {
 struct BattleState {
     Battlefield field;
 
-    int Shooter = 1;           ///< the side whose turn it is
-    int RoundNumber = 0;       ///< 1-based; 0 before the first round
-    PerSide<int> MenLeft;      ///< 100 at the start of every round
-    int Wind = 0;              ///< 6..39 to the right, -6..-39 to the left, 0 when it is off
-    int NearMissKills = 0;     ///< men killed by the last near miss
-    int LastImpactX = 0;       ///< where the computer's last shell came down
-    int AimDistance = 0;       ///< the computer's last miss; 0: it has to measure the field
-    int ComputerAngle = 0;     ///< degrees; the computer never shoots flatter than that
+    int Shooter = 1;        ///< the side whose turn it is
+    int RoundNumber = 0;    ///< 1-based; 0 before the first round
+    PerSide<int> MenLeft;   ///< 100 at the start of every round
+    int Wind = 0;           ///< 6..39 to the right, -6..-39 to the left, 0 when it is off
+    int NearMissKills = 0;  ///< men killed by the last near miss
+    int LastImpactX = 0;    ///< where the computer's last shell came down
+    int AimDistance = 0;    ///< the computer's last miss; 0: it has to measure the field
+    int ComputerAngle = 0;  ///< degrees; the computer never shoots flatter than that
     bool ShowTrajectory = false;
     bool SoundOn = false;
     DateTime TurnStartTime{};  ///< when the human turn began or a control was last used

@@ -100,31 +100,45 @@ int SlopeStep(RandomSource& random, int kind) {
     // The falling kinds pass the larger bound first: RandomInt then reaches the lower values
     // only when r is exactly 0 or not at all, which makes a mountain's far side what it is.
     switch (kind) {
-        case 0: return RandomInt(random, 4, 7);
-        case 1: return RandomInt(random, 1, 4);
-        case 2: return RandomInt(random, -1, 3);
-        case 3: return RandomInt(random, -1, 1);
-        case 4: return RandomInt(random, -3, 1);
-        case 5: return RandomInt(random, -1, -4);
-        case 6: return RandomInt(random, -4, -7);
-        default: return 0;
+        case 0:
+            return RandomInt(random, 4, 7);
+        case 1:
+            return RandomInt(random, 1, 4);
+        case 2:
+            return RandomInt(random, -1, 3);
+        case 3:
+            return RandomInt(random, -1, 1);
+        case 4:
+            return RandomInt(random, -3, 1);
+        case 5:
+            return RandomInt(random, -1, -4);
+        case 6:
+            return RandomInt(random, -4, -7);
+        default:
+            return 0;
     }
 }
 
 Colour TerrainColours(int number) {
     switch (number) {
-        case 1: return paletteColour(2);  // green
-        case 2: return 0x800000;          // navy
-        case 3: return 0x000080;          // maroon
-        case 4: return 0x800080;          // purple
-        case 5: return 0x004080;          // brown
-        case 6: return 0x0087D0;          // tan
-        default: throw std::out_of_range("no such ground colour");
+        case 1:
+            return paletteColour(2);  // green
+        case 2:
+            return 0x800000;  // navy
+        case 3:
+            return 0x000080;  // maroon
+        case 4:
+            return 0x800080;  // purple
+        case 5:
+            return 0x004080;  // brown
+        case 6:
+            return 0x0087D0;  // tan
+        default:
+            throw std::out_of_range("no such ground colour");
     }
 }
 
-void generateBattlefield(Battlefield& field, RandomSource& random, int roundNumber,
-                         int numRounds) {
+void generateBattlefield(Battlefield& field, RandomSource& random, int roundNumber, int numRounds) {
     const int moonOffset = roundNumber == 1 ? 40 : field.MoonOffset - 4;
     field = Battlefield{};
     field.MoonOffset = moonOffset;
@@ -163,8 +177,7 @@ void drawBattlefield(const Battlefield& field, FieldPicture& picture, int ground
         picture.verticalLine(mirrored, 1, field.heightAt(mirrored), field.groundColour);
     }
     picture.setPenWidth(1);
-    for (const int side : {1, 2})
-        picture.placePiece(side, field.PieceX[side], field.PieceY[side]);
+    for (const int side : {1, 2}) picture.placePiece(side, field.PieceX[side], field.PieceY[side]);
     picture.refresh();
 }
 

@@ -28,8 +28,8 @@ struct Battlefield {
     PerSide<int> PieceX, PieceY;                    ///< a piece's column and the ground under it
 
     std::vector<Star> stars;
-    int MoonX = 0, moonY = 0;    ///< the moon's centre; MoonX is 0 when there is no moon
-    int MoonOffset = 0;          ///< kept from round to round: 40 in the first, then 4 less each
+    int MoonX = 0, moonY = 0;  ///< the moon's centre; MoonX is 0 when there is no moon
+    int MoonOffset = 0;        ///< kept from round to round: 40 in the first, then 4 less each
     Colour groundColour = kBlack;
 
     bool hasMoon() const { return MoonX != 0; }
@@ -48,8 +48,7 @@ Colour TerrainColours(int number);
 /// Makes `field` the battlefield of round `roundNumber` (1 or more) of `numRounds`. Only its
 /// MoonOffset is carried over from the round before. The last round has no moon. Draws from
 /// `random` in a fixed order, so that a seed makes a battlefield.
-void generateBattlefield(Battlefield& field, RandomSource& random, int roundNumber,
-                         int numRounds);
+void generateBattlefield(Battlefield& field, RandomSource& random, int roundNumber, int numRounds);
 
 /// Draws the battlefield as the persistent picture, with the two pieces standing on it.
 /// `groundLineWidth` is the pen width of the ground's columns.

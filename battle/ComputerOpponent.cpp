@@ -16,7 +16,8 @@ constexpr int kSide = 2;
 
 ComputerOpponent::ComputerOpponent(const basSkylob& shared, BattleState& state,
                                    BattleControls& controls, const BattlePorts& ports)
-    : m_shared{shared}, m_state{state}, m_controls{controls}, m_ports{ports} {}
+    : m_shared{shared}, m_state{state}, m_controls{controls}, m_ports{ports} {
+}
 
 void ComputerOpponent::ComputerTurn() {
     m_ports.pacer.Wait(1);

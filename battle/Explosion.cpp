@@ -12,11 +12,15 @@ bool isHit(Landing landing) {
 
 std::string_view landingSound(Landing landing) {
     switch (landing) {
-        case Landing::OutOfBounds: return "outofbounds";
+        case Landing::OutOfBounds:
+            return "outofbounds";
         case Landing::SelfHit:
-        case Landing::DirectHit: return "bullseye";
-        case Landing::NearMiss: return "nearmiss";
-        case Landing::Miss: break;
+        case Landing::DirectHit:
+            return "bullseye";
+        case Landing::NearMiss:
+            return "nearmiss";
+        case Landing::Miss:
+            break;
     }
     return "explosion";
 }

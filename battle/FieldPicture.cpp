@@ -145,13 +145,12 @@ void FieldPicture::refresh() {
     m_screen = m_persistent;
     for (const int side : {1, 2}) {
         const auto& [image, area] = m_pieces[side];
-        const PixelRect seen =
-            clipped({area.x, area.y, std::min(area.width, image.width),
-                     std::min(area.height, image.height)});
+        const PixelRect seen = clipped({area.x, area.y, std::min(area.width, image.width),
+                                        std::min(area.height, image.height)});
         for (int py = seen.y; py < seen.y + seen.height; ++py) {
             for (int px = seen.x; px < seen.x + seen.width; ++px) {
-                const auto from = static_cast<std::size_t>((py - area.y) * image.width +
-                                                           (px - area.x));
+                const auto from =
+                    static_cast<std::size_t>((py - area.y) * image.width + (px - area.x));
                 auto& pixel = m_screen[index(px, py)];
                 pixel = blend(pixel, image.pixels[from]);
             }
@@ -199,8 +198,7 @@ void FieldPicture::fillRow(int px, int py, int length, std::uint32_t value) {
 
 void FieldPicture::fill(const PixelRect& area, std::uint32_t value) {
     const PixelRect seen = clipped(area);
-    for (int py = seen.y; py < seen.y + seen.height; ++py)
-        fillRow(seen.x, py, seen.width, value);
+    for (int py = seen.y; py < seen.y + seen.height; ++py) fillRow(seen.x, py, seen.width, value);
     markDirty(seen);
 }
 

@@ -72,10 +72,14 @@ QString frmPlayGame::caption(int side) const {
     const QString name = QString::fromStdString(m_shared.PlayerName[side]);
     if (!m_shared.isComputer(side)) return name;
     switch (m_shared.SkillLevel) {
-        case 4: return name + QStringLiteral(" (Skill level: Good)");
-        case 5: return name + QStringLiteral(" (Skill level: Fair)");
-        case 6: return name + QStringLiteral(" (Skill level: Poor)");
-        default: return name;
+        case 4:
+            return name + QStringLiteral(" (Skill level: Good)");
+        case 5:
+            return name + QStringLiteral(" (Skill level: Fair)");
+        case 6:
+            return name + QStringLiteral(" (Skill level: Poor)");
+        default:
+            return name;
     }
 }
 
@@ -91,7 +95,8 @@ void frmPlayGame::makeButtons() {
     cmdShoot->setAccessibleName(tr("Shoot"));
     const QSize picture{m_layout.shootPicture, m_layout.shootPicture};
     const qreal ratio = devicePixelRatioF();
-    QImage shell = m_shapes.render(QStringLiteral("shell"), picture * ratio, QtShapes::Edges::Sharp);
+    QImage shell =
+        m_shapes.render(QStringLiteral("shell"), picture * ratio, QtShapes::Edges::Sharp);
     shell.setDevicePixelRatio(ratio);
     cmdShoot->setIcon(QPixmap::fromImage(shell));
     cmdShoot->setIconSize(picture);
@@ -107,7 +112,8 @@ void frmPlayGame::makeOptions() {
     strip->setObjectName(QStringLiteral("strip"));
     strip->setGeometry(m_layout.strip);
 
-    QWidget* const gameSpeedParent = m_layout.gameSpeedInStrip ? strip : static_cast<QWidget*>(this);
+    QWidget* const gameSpeedParent =
+        m_layout.gameSpeedInStrip ? strip : static_cast<QWidget*>(this);
     labelGameSpeed = new QLabel{gameSpeedParent};
     labelGameSpeed->setGeometry(m_layout.labelGameSpeed);
     if (!m_layout.gameSpeedInStrip) labelGameSpeed->setAlignment(Qt::AlignCenter);
@@ -236,9 +242,9 @@ void frmPlayGame::showPanel(const BattlePanel& panel) {
 void frmPlayGame::showCommands(const BattlePanel& panel) {
     const bool wereEnabled = cmdShoot->isEnabled();
     if (wereEnabled && !panel.commandsEnabled) m_focusStaysOnShoot = cmdShoot->hasFocus();
-    for (QWidget* command : std::initializer_list<QWidget*>{
-             cmdShoot, cmdQuit, scrollGameSpeed, chkSound, chkTrajectory, chkMeteors, chkLightning,
-             chkWind})
+    for (QWidget* command :
+         std::initializer_list<QWidget*>{cmdShoot, cmdQuit, scrollGameSpeed, chkSound,
+                                         chkTrajectory, chkMeteors, chkLightning, chkWind})
         command->setEnabled(panel.commandsEnabled);
     if (!wereEnabled && panel.commandsEnabled) moveFocusToTurn(panel.turn);
 }

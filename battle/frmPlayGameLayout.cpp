@@ -89,9 +89,12 @@ const frmPlayGameLayout kLarge{
 
 const frmPlayGameLayout& layoutForScreenSize(int screenSize) {
     switch (screenSize) {
-        case 1: return kSmall;
-        case 3: return kLarge;
-        default: return kNormal;
+        case 1:
+            return kSmall;
+        case 3:
+            return kLarge;
+        default:
+            return kNormal;
     }
 }
 

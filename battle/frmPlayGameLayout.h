@@ -14,13 +14,13 @@ struct SidePanelLayout {
 struct frmPlayGameLayout {
     QSize screen;
     QRect field;
-    QRect frame[2];         ///< the sides' frames; in the same place when only one is shown
+    QRect frame[2];  ///< the sides' frames; in the same place when only one is shown
     bool oneFrameAtATime;
     SidePanelLayout inFrame;
     QRect labelRoundNumber, cmdShoot, cmdQuit;
     bool shootHasCaption;
-    int shootPicture;       ///< the edge length of the shoot button's picture
-    QRect strip;            ///< the frame around the options; what follows is relative to it
+    int shootPicture;  ///< the edge length of the shoot button's picture
+    QRect strip;       ///< the frame around the options; what follows is relative to it
     QRect labelGameSpeed, scrollGameSpeed;
     bool gameSpeedInStrip;  ///< otherwise the two are relative to the screen, label centred
     QRect chkSound, chkTrajectory, chkMeteors, chkLightning, chkWind;

@@ -17,7 +17,38 @@ add_library(skylob_core STATIC
     battle/ShellFlight.cpp
     players/SetResult.cpp
 )
-target_include_directories(skylob_core PUBLIC ${PROJECT_SOURCE_DIR})
+target_sources(skylob_core PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR} FILES
+    app/Clock.h
+    app/Colour.h
+    app/CommandLine.h
+    app/CountedWait.h
+    app/MessageBoxes.h
+    app/Pacer.h
+    app/PerSide.h
+    app/RandomInt.h
+    app/Rounding.h
+    app/Settings.h
+    app/SettingsStore.h
+    app/SoundPlayer.h
+    app/WaveImage.h
+    app/basSkylob.h
+    battle/Battle.h
+    battle/BattleControls.h
+    battle/BattlePanel.h
+    battle/BattlePorts.h
+    battle/BattleState.h
+    battle/BattleView.h
+    battle/Battlefield.h
+    battle/ComputerOpponent.h
+    battle/Explosion.h
+    battle/FieldAnimation.h
+    battle/FieldPicture.h
+    battle/HeadlessBattle.h
+    battle/ShellFlight.h
+    players/SetResult.h
+)
+# Each header compiles by itself: a test builds the target that this makes.
+set_target_properties(skylob_core PROPERTIES VERIFY_INTERFACE_HEADER_SETS ON)
 target_link_libraries(skylob_core PRIVATE skylob_strict)
 
 # A flight is the same on every machine: no fused multiply-add where the rules round twice.

@@ -6,9 +6,12 @@ namespace {
 
 const char* roleName(GlintButton::Role role) {
     switch (role) {
-        case GlintButton::Role::Fire: return "fire";
-        case GlintButton::Role::Danger: return "danger";
-        case GlintButton::Role::Primary: break;
+        case GlintButton::Role::Fire:
+            return "fire";
+        case GlintButton::Role::Danger:
+            return "danger";
+        case GlintButton::Role::Primary:
+            break;
     }
     return "primary";
 }

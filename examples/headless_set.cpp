@@ -18,15 +18,14 @@ int main(int argc, char** argv) {
     while (!set.isOver()) {
         const int side = set.shooter();
         const int fired = set.battle().shared().RoundShots[side];
-        set.shoot(300 + 25 * (fired % 16), 72);
+        set.shoot(280 + 11 * (fired % 16), 74);
     }
 
     const std::array landings{"out of bounds", "self hit", "direct hit", "near miss", "miss"};
     for (const auto& shot : set.battle().shots()) {
-        std::cout << players.PlayerName[shot.side] << " fires at speed " << shot.speed
-                  << ", angle " << shot.angle << ": " << shot.landedAt.x << ", "
-                  << shot.landedAt.y << ", " << landings.at(static_cast<std::size_t>(shot.landing))
-                  << '\n';
+        std::cout << players.PlayerName[shot.side] << " fires at speed " << shot.speed << ", angle "
+                  << shot.angle << ": " << shot.landedAt.x << ", " << shot.landedAt.y << ", "
+                  << landings.at(static_cast<std::size_t>(shot.landing)) << '\n';
     }
     const auto& won = set.battle().shared().RoundsWon;
     std::cout << players.PlayerName[1] << " won " << won[1] << " rounds, " << players.PlayerName[2]

@@ -16,14 +16,15 @@ TEST(Settings, MakeSenseOfAnyText) {
         int gameSpeed, numRounds, screenSize;
         bool flagOrOn, flagOrOff;
     };
-    for (const Row& row : {Row{"", 50, 10, 2, true, false}, Row{"0", 50, 10, 2, false, false},
-                           Row{"1", 1, 5, 1, true, true}, Row{"2", 2, 10, 2, true, false},
-                           Row{"3", 3, 20, 3, true, false}, Row{" 1 ", 1, 5, 1, true, true},
-                           Row{"99", 99, 10, 2, true, false}, Row{"100", 99, 10, 2, true, false},
-                           Row{"-7", 1, 10, 2, true, false}, Row{"0.4", 50, 10, 2, true, false},
-                           Row{"98.5", 98, 10, 2, true, false}, Row{"1e300", 99, 10, 2, true, false},
-                           Row{"fast", 50, 10, 2, true, false}, Row{"60 mph", 50, 10, 2, true, false},
-                           Row{"nan", 50, 10, 2, true, false}}) {
+    for (const Row& row :
+         {Row{"", 50, 10, 2, true, false}, Row{"0", 50, 10, 2, false, false},
+          Row{"1", 1, 5, 1, true, true}, Row{"2", 2, 10, 2, true, false},
+          Row{"3", 3, 20, 3, true, false}, Row{" 1 ", 1, 5, 1, true, true},
+          Row{"99", 99, 10, 2, true, false}, Row{"100", 99, 10, 2, true, false},
+          Row{"-7", 1, 10, 2, true, false}, Row{"0.4", 50, 10, 2, true, false},
+          Row{"98.5", 98, 10, 2, true, false}, Row{"1e300", 99, 10, 2, true, false},
+          Row{"fast", 50, 10, 2, true, false}, Row{"60 mph", 50, 10, 2, true, false},
+          Row{"nan", 50, 10, 2, true, false}}) {
         SCOPED_TRACE(row.text);
         MemorySettings store;
         for (const char* key : {"GameSpeed", "NumRounds", "ScreenSize", "Flag"})
@@ -40,8 +41,8 @@ TEST(Wait, RoundsToMillisecondsHalvesToEven) {
     EXPECT_EQ(waitMilliseconds(0), 0);
     EXPECT_EQ(waitMilliseconds(0.25f), 250);
     EXPECT_EQ(waitMilliseconds(1), 1000);
-    EXPECT_EQ(waitMilliseconds(0.0625f), 62);    // 62.5
-    EXPECT_EQ(waitMilliseconds(0.1875f), 188);   // 187.5
+    EXPECT_EQ(waitMilliseconds(0.0625f), 62);   // 62.5
+    EXPECT_EQ(waitMilliseconds(0.1875f), 188);  // 187.5
 }
 
 TEST(SetScore, CountsRoundsAndKillsAndGivesTiesToSide2) {
@@ -71,7 +72,8 @@ TEST(CommandLine, TakesItsOptionsAndRefusesTheRest) {
     for (const auto& refused : std::initializer_list<CommandLine>{
              parse({"--seed"}), parse({"--seed", "-1"}), parse({"--seed", "1x"}),
              parse({"--seed", ""}), parse({"--data-dir"}), parse({"--data-dir", ""}),
-             parse({"--fast"}), parse({"file"}), parse({""}), parse({"--user-data", "--data-dir", "x"})}) {
+             parse({"--fast"}), parse({"file"}), parse({""}),
+             parse({"--user-data", "--data-dir", "x"})}) {
         EXPECT_EQ(refused.request, Request::Refused);
         EXPECT_FALSE(refused.error.empty());
         EXPECT_EQ(refused.error.find('\n'), std::string::npos);

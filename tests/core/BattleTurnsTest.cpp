@@ -145,8 +145,7 @@ TEST(SideWithoutMen, LosesAtTheStartOfItsTurn) {
     shoot(rig, kMiss);
     ASSERT_EQ(rig.boxes.shown.size(), 1u);
     EXPECT_EQ(rig.boxes.shown[0].title, "Ann loses this round!");
-    EXPECT_EQ(rig.boxes.shown[0].text,
-              "Ann-\r\n\r\nYou can't shoot because you have no men left!");
+    EXPECT_EQ(rig.boxes.shown[0].text, "Ann-\r\n\r\nYou can't shoot because you have no men left!");
     EXPECT_EQ(rig.boxes.shown[0].icon, BoxIcon::Critical);
     EXPECT_EQ(rig.shared.RoundsWon, (PerSide<int>{0, 1}));
     EXPECT_EQ(rig.shared.TotalKills, (PerSide<int>{0, 0}));  // deserters are nobody's kills

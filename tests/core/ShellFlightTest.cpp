@@ -41,8 +41,8 @@ TEST(ShellFlight, FliesTheTabledPaths) {
              Row{2, 300, 150, 45, 0, {4, 99}, 55, {251, 147}, {32, 124}},
              Row{1, 700, 150, 45, 0, {996, 99}, 55, {749, 147}, {968, 124}},
          }) {
-        SCOPED_TRACE(testing::Message() << row.side << " from " << row.pieceX << " at "
-                                        << row.speed << "/" << row.angle << ", " << row.wind);
+        SCOPED_TRACE(testing::Message() << row.side << " from " << row.pieceX << " at " << row.speed
+                                        << "/" << row.angle << ", " << row.wind);
         const Battlefield field = flatField();
         ShellFlight flight{{row.side, row.speed, row.angle, row.pieceX, 100, row.wind}};
         std::vector<FieldPoint> path{flight.position()};
@@ -67,15 +67,15 @@ TEST(Landing, IsDecidedByTheColumnAlone) {
         Landing expected;
     };
     for (const Row& row : {
-             Row{4, 300, 4, OutOfBounds},     Row{5, 300, 5, DirectHit},
-             Row{995, 991, 300, SelfHit},     Row{996, 996, 300, OutOfBounds},
-             Row{0, 300, 700, OutOfBounds},   Row{1001, 300, 700, OutOfBounds},
-             Row{304, 300, 700, SelfHit},     Row{296, 300, 700, SelfHit},
-             Row{305, 300, 700, Miss},        Row{295, 300, 700, Miss},
-             Row{705, 300, 700, DirectHit},   Row{695, 300, 700, DirectHit},
-             Row{706, 300, 700, NearMiss},    Row{713, 300, 700, NearMiss},
-             Row{687, 300, 700, NearMiss},    Row{714, 300, 700, Miss},
-             Row{686, 300, 700, Miss},        Row{504, 500, 504, SelfHit},
+             Row{4, 300, 4, OutOfBounds},   Row{5, 300, 5, DirectHit},
+             Row{995, 991, 300, SelfHit},   Row{996, 996, 300, OutOfBounds},
+             Row{0, 300, 700, OutOfBounds}, Row{1001, 300, 700, OutOfBounds},
+             Row{304, 300, 700, SelfHit},   Row{296, 300, 700, SelfHit},
+             Row{305, 300, 700, Miss},      Row{295, 300, 700, Miss},
+             Row{705, 300, 700, DirectHit}, Row{695, 300, 700, DirectHit},
+             Row{706, 300, 700, NearMiss},  Row{713, 300, 700, NearMiss},
+             Row{687, 300, 700, NearMiss},  Row{714, 300, 700, Miss},
+             Row{686, 300, 700, Miss},      Row{504, 500, 504, SelfHit},
              Row{505, 500, 505, DirectHit},
          }) {
         EXPECT_EQ(classifyLanding(row.x, row.shooterX, row.targetX), row.expected)
@@ -90,7 +90,8 @@ TEST(NearMiss, KillsTheFewerTheFartherHalvesToEven) {
     for (const Row& row :
          {Row{100, 6, 14}, Row{100, 7, 13}, Row{100, 13, 7}, Row{87, 9, 9}, Row{1, 6, 0},
           Row{0, 13, 0}, Row{3, 7, 0}, Row{11, 7, 2}, Row{19, 7, 2}, Row{27, 7, 4}, Row{94, 9, 10}})
-        EXPECT_EQ(nearMissKills(row.men, row.distance), row.kills) << row.men << "/" << row.distance;
+        EXPECT_EQ(nearMissKills(row.men, row.distance), row.kills)
+            << row.men << "/" << row.distance;
 }
 
 TEST(FlightDelayCount, IsTheContractOfTheGameSpeed) {
@@ -149,10 +150,9 @@ TEST(Explosion, GrowsInYellowAndWhiteAndLeavesABlackDot) {
         int y;
         std::string_view sound;
     };
-    for (const Row& row : {Row{Landing::DirectHit, 42, 516, "bullseye"},
-                           Row{Landing::SelfHit, 42, 516, "bullseye"},
-                           Row{Landing::NearMiss, 10, 500, "nearmiss"},
-                           Row{Landing::Miss, 10, 500, "explosion"}}) {
+    for (const Row& row :
+         {Row{Landing::DirectHit, 42, 516, "bullseye"}, Row{Landing::SelfHit, 42, 516, "bullseye"},
+          Row{Landing::NearMiss, 10, 500, "nearmiss"}, Row{Landing::Miss, 10, 500, "explosion"}}) {
         SCOPED_TRACE(row.sound);
         AnimatedField stage;
         stage.picture.filledCircle(500, row.y, 60, kCyan);

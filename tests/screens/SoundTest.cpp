@@ -66,8 +66,8 @@ class SoundTest : public QObject {
         QFile file{":/sounds/" + name + ".wav"};
         QVERIFY2(file.open(QIODevice::ReadOnly), qPrintable(name));
         const QByteArray bytes = file.readAll();
-        const auto image =
-            readWaveImage(std::as_bytes(std::span{bytes.data(), static_cast<std::size_t>(bytes.size())}));
+        const auto image = readWaveImage(
+            std::as_bytes(std::span{bytes.data(), static_cast<std::size_t>(bytes.size())}));
         QVERIFY(image);
         QCOMPARE(image->channels, 1);
         QCOMPARE(image->rate, rate);
@@ -106,7 +106,8 @@ class SoundTest : public QObject {
         QVERIFY(!player.isPlaying());
         const qint64 buffers = 4 * 1024;
         const qint64 last = lastLoudFrame(capture);
-        QVERIFY2(last < switched + kRate / 2 + buffers, qPrintable(QString::number(last - switched)));
+        QVERIFY2(last < switched + kRate / 2 + buffers,
+                 qPrintable(QString::number(last - switched)));
     }
 
     void refusesAnUnknownNameAndBearsAMissingDevice() {

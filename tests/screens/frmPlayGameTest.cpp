@@ -130,14 +130,17 @@ class frmPlayGameTest : public QObject {
         screen.pacer.duringFlight = [&] {
             if (++flights != 3) return;
             // Queued as the window system queues it: seen only when events are served again.
-            for (QWidget* target : {static_cast<QWidget*>(shoot), static_cast<QWidget*>(enemySpeed)}) {
+            for (QWidget* target :
+                 {static_cast<QWidget*>(shoot), static_cast<QWidget*>(enemySpeed)}) {
                 for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
                     QCoreApplication::postEvent(
-                        target, new QMouseEvent(type, QPointF{5, 5}, target->mapToGlobal(QPointF{5, 5}),
-                                                Qt::LeftButton, Qt::LeftButton, {}));
+                        target,
+                        new QMouseEvent(type, QPointF{5, 5}, target->mapToGlobal(QPointF{5, 5}),
+                                        Qt::LeftButton, Qt::LeftButton, {}));
                 }
             }
-            QCoreApplication::postEvent(screen.form.get(), new QKeyEvent(QEvent::KeyPress, Qt::Key_Escape, {}));
+            QCoreApplication::postEvent(screen.form.get(),
+                                        new QKeyEvent(QEvent::KeyPress, Qt::Key_Escape, {}));
             QVERIFY(!screen.form->close());
         };
         QTest::mouseClick(shoot, Qt::LeftButton);
@@ -175,7 +178,8 @@ class frmPlayGameTest : public QObject {
                      qPrintable(widget->accessibleName()));
             if (const auto* button = qobject_cast<const QAbstractButton*>(widget)) {
                 if (!button->shortcut().isEmpty()) keys << button->shortcut().toString();
-                QVERIFY2(button->sizeHint().width() <= button->width() + 16, qPrintable(button->text()));
+                QVERIFY2(button->sizeHint().width() <= button->width() + 16,
+                         qPrintable(button->text()));
             }
             if (const auto* label = qobject_cast<const QLabel*>(widget))
                 QVERIFY2(label->sizeHint().width() <= label->width(), qPrintable(label->text()));
@@ -183,14 +187,16 @@ class frmPlayGameTest : public QObject {
         QCOMPARE(keys.size(), 11);  // S Q O T M L, W P A G, Esc
         QCOMPARE(QSet<QString>(keys.begin(), keys.end()).size(), keys.size());
         QCOMPARE(screen.shoot()->text().isEmpty(), size == 1);
-        QCOMPARE(screen.shoot()->toolTip(), size == 1 ? QStringLiteral(" Shoot your Artillery Piece ") : QString{});
+        QCOMPARE(screen.shoot()->toolTip(),
+                 size == 1 ? QStringLiteral(" Shoot your Artillery Piece ") : QString{});
     }
 
     void losesTrailsWithTheWindow() {
         Screen screen;
         QTest::mouseClick(screen.shoot(), Qt::LeftButton);
         const auto redPixels = [&] {
-            const QImage image = screen.field()->grab().toImage().convertToFormat(QImage::Format_RGB32);
+            const QImage image =
+                screen.field()->grab().toImage().convertToFormat(QImage::Format_RGB32);
             int red = 0;
             for (int y = 0; y < image.height(); ++y)
                 for (int x = 0; x < image.width(); ++x) red += image.pixel(x, y) == 0xFFFF0000u;

@@ -71,7 +71,9 @@ class RecordingPacer : public Pacer {
 class RecordingSounds : public SoundPlayer {
   public:
     explicit RecordingSounds(Log& log) : m_log{log} {}
-    void PlaySound(std::string_view name) override { m_log.push_back("sound " + std::string{name}); }
+    void PlaySound(std::string_view name) override {
+        m_log.push_back("sound " + std::string{name});
+    }
 
   private:
     Log& m_log;

@@ -1,0 +1,164 @@
+// What the game's inner work costs, in one table; `run` starts it on a display of its own.
+
+#include <QApplication>
+#include <QResource>
+#include <QWindow>
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <random>
+#include <vector>
+
+#include "FigureTable.h"
+#include "app/CountedWait.h"
+#include "app/QtLook.h"
+#include "app/QtPacer.h"
+#include "app/QtShapes.h"
+#include "battle/HeadlessBattle.h"
+#include "battle/frmPlayGameLayout.h"
+#include "battle/picGameField.h"
+
+namespace skylob {
+
+namespace {
+
+constexpr int kWidth = 984, kHeight = 512;  // the field on the screen of normal size
+constexpr int kGroundLineWidth = 2;
+constexpr int kRounds = 10;
+constexpr int kGameSpeed = 50;
+constexpr int kManyCounts = 10'000'000;
+constexpr double kCount = 0.5e-9;  // the seconds that a count lasts
+
+void fillPixels(benchmark::State& state) {
+    std::vector<std::uint32_t> pixels(kWidth * kHeight);
+    std::uint32_t value = 0;
+    for (auto _ : state) {
+        std::fill(pixels.begin(), pixels.end(), ++value);
+        benchmark::ClobberMemory();
+    }
+}
+
+void turnGenerator(benchmark::State& state) {
+    std::mt19937_64 engine{1};
+    for (auto _ : state)
+        for (int turn = 0; turn < 1'000'000; ++turn) benchmark::DoNotOptimize(engine());
+}
+
+void newBattlefield(benchmark::State& state) {
+    SeededRandom random{1};
+    Battlefield field;
+    for (auto _ : state) generateBattlefield(field, random, 1, kRounds);
+}
+
+template <int dotScale>
+void drawnBattlefield(benchmark::State& state) {
+    SeededRandom random{1};
+    Battlefield field;
+    FieldPicture picture;
+    picture.resize(kWidth * dotScale, kHeight * dotScale, dotScale);
+    const auto [width, height] = picture.pieceSize();
+    const auto pixels = static_cast<std::size_t>(width * height);
+    // Half transparent all over, the dearest kind of piece.
+    for (const int side : {1, 2})
+        picture.setPieceImage(side, {width, height, std::vector(pixels, 0x80406080u)});
+    for (auto _ : state) {
+        generateBattlefield(field, random, 1, kRounds);
+        drawBattlefield(field, picture, kGroundLineWidth);
+    }
+}
+
+void headlessSet(benchmark::State& state) {
+    basSkylob players;
+    players.PlayerName = {"Ada", std::string{kComputerName}};
+    players.NumRounds = kRounds;
+    std::uint64_t seed = 0;
+    for (auto _ : state) {
+        // No set is like another: the figure is the mean of many.
+        HeadlessBattle set{players, ++seed};
+        while (!set.isOver()) set.shoot(300 + 25 * (set.battle().shared().RoundShots[1] % 16), 72);
+    }
+}
+
+/// A shell over a battlefield in a window of the normal size, on the present display. Every
+/// flight is the same.
+class Flight : private HeadlessView {
+  public:
+    Flight() {
+        const frmPlayGameLayout& layout = layoutForScreenSize(2);
+        applyLook(m_window);
+        m_window.setFixedSize(layout.screen);
+        m_widget.setGeometry(layout.field);
+        m_window.show();
+        while (!m_window.windowHandle()->isExposed())
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        m_widget.fitPicture();
+        SeededRandom random{1};
+        generateBattlefield(m_field, random, 1, kRounds);
+        drawBattlefield(m_field, m_picture, kGroundLineWidth);
+        showField();
+        QCoreApplication::processEvents();
+    }
+
+    /// Returns the number of half steps.
+    int fly(Pacer& pacer) {
+        m_shows = 0;
+        FieldAnimation animation{m_picture, *this, pacer};
+        const Launch launch{1, 330, 75, m_field.PieceX[1], m_field.PieceY[1], 0};
+        flyShell(launch, m_field, Trail::None, animation, FlightDelayCount(kGameSpeed));
+        return m_shows - 1;  // the landing is shown but not held
+    }
+
+  private:
+    void showField() override {
+        ++m_shows;
+        m_widget.showChanges();
+    }
+
+    int m_shows = 0;
+    QtShapes m_shapes{QResource{QStringLiteral(":/pictures/shapes.txt")}.uncompressedData()};
+    FieldPicture m_picture;
+    Battlefield m_field;
+    QWidget m_window;
+    picGameField m_widget{m_picture, m_shapes, &m_window};
+};
+
+template <typename AnyPacer>
+void halfStep(benchmark::State& state) {
+    Flight flight;
+    InstantPacer instant;
+    const int halfSteps = flight.fly(instant);
+    AnyPacer pacer;
+    while (state.KeepRunningBatch(halfSteps)) flight.fly(pacer);
+}
+
+void lateCount(benchmark::State& state) {
+    // Without a start every wait is late, and nothing is left of it but the counting.
+    while (state.KeepRunningBatch(kManyCounts)) CountedWait{}.run(kManyCounts);
+}
+
+const Figure kFigures[] = {
+    {"fill 984 x 512 pixels", fillPixels},
+    {"1,000,000 turns of the generator", turnGenerator},
+    {"new battlefield, rules only", newBattlefield, Time::Spent, 60e-6},
+    {"new battlefield, drawn", drawnBattlefield<1>, Time::Spent, 3e-3},
+    {"new battlefield, drawn at pixel ratio 2", drawnBattlefield<2>},
+    {"half step of flight: plot, show, restore", halfStep<InstantPacer>, Time::GoneBy, 60e-6},
+    {"ten rounds without a screen", headlessSet, Time::Spent, 5e-3},
+    {"one count, not held back by the clock", lateCount, Time::Spent, kCount},
+    {"paced flight, of its nominal time", halfStep<QtPacer>, Time::GoneBy, 1.05, 0.98,
+     FlightDelayCount(kGameSpeed) * kCount},
+};
+
+}  // namespace
+
+}  // namespace skylob
+
+int main(int argc, char** argv) {
+    QApplication application{argc, argv};
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv)) return EXIT_FAILURE;
+    const auto& load = benchmark::CPUInfo::Get().load_avg;
+    std::printf("On platform %s, with a load of %.2f from before:\n",
+                qPrintable(QGuiApplication::platformName()), load.empty() ? 0 : load.front());
+    return skylob::printFigures(skylob::kFigures) ? EXIT_SUCCESS : EXIT_FAILURE;
+}

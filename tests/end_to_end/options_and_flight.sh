@@ -1,0 +1,39 @@
+#!/usr/bin/env bash
+# Usage: options_and_flight.sh PROGRAM
+# A shell is seen flying while the program is busy with it; options are saved by quitting and
+# read at the next start; the window's frame and Esc leave the set.
+source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
+
+expect_setting() { grep -qxF "$1" "$settings" || fail "no $1 in: $(<"$settings")"; }
+battle() { press "Skylob - Battlefield" "$@"; }
+
+printf '[Defaults]\nGameSpeed=20\nSoundSetting=maybe\n' >"$settings"
+start_display
+start_game --seed 5
+before=0
+battle alt+s
+for i in 1 2 3; do
+    sleep 0.6
+    import -window "$(window "Skylob - Battlefield")" "$work/flight$i.png"
+    red=$(pixels_of "$work/flight$i.png" '#FF0000')
+    ((red > before)) || fail "the trail does not grow in flight: $red pixels after $before"
+    before=$red
+done
+# Pressed in flight: neither leaves the set nor fires again.
+battle Escape alt+s
+sleep 6
+is_over && fail "a key pressed in flight was obeyed"
+battle alt+t alt+w
+sleep 0.5 # a box shows for a moment that it is pressed
+battle Escape
+expect_exit 10
+expect_setting TrajectorySetting=0
+expect_setting WindSetting=1
+expect_setting SoundSetting=1
+expect_setting GameSpeed=20
+
+start_game
+xdotool windowfocus --sync "$(window "Skylob - Battlefield")" key alt+F4
+expect_exit 10
+expect_setting TrajectorySetting=0
+expect_setting WindSetting=1
