@@ -67,11 +67,14 @@ void FieldPicture::setPoint(int x, int y, Colour colour) {
         fill(dot, value);
         return;
     }
-    const double radius = dot.width / 2.0;
+    // Dots of odd and of even size cannot stand on quite the same centre. The odd ones are a
+    // little fuller, so that each covers the smaller ones that were drawn before it.
+    const double size = dot.width;
+    const double squaredRadius = (size * size + (dot.width % 2 == 1 ? size : 0)) / 4;
     for (int line = 0; line < dot.height; ++line) {
-        const double dy = line + 0.5 - radius;
-        const double half = std::sqrt(radius * radius - dy * dy);
-        const int left = static_cast<int>(std::ceil(radius - half - 0.5));
+        const double dy = line + 0.5 - size / 2;
+        const double half = std::sqrt(squaredRadius - dy * dy);
+        const int left = static_cast<int>(std::ceil(size / 2 - half - 0.5));
         fillRow(dot.x + left, dot.y + line, dot.width - 2 * left, value);
     }
     markDirty(dot);

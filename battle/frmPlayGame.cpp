@@ -87,7 +87,7 @@ void frmPlayGame::makeButtons() {
     labelRoundNumber = new QLabel{this};
     labelRoundNumber->setGeometry(m_layout.labelRoundNumber);
     labelRoundNumber->setAlignment(Qt::AlignCenter);
-    labelRoundNumber->setProperty("role", "round");
+    labelRoundNumber->setProperty("role", m_layout.oneFrameAtATime ? "round-small" : "round");
 
     cmdShoot = new GlintButton{GlintButton::Role::Fire,
                                m_layout.shootHasCaption ? tr("&Shoot") : QString{}, this};

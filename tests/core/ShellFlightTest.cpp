@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "battle/Explosion.h"
 #include "tests/support/Fakes.h"
 
@@ -167,6 +169,8 @@ TEST(Explosion, GrowsInYellowAndWhiteAndLeavesABlackDot) {
         const int reach = row.holds == 42 ? 11 : 3;  // of a dot 23 or 7 wide
         EXPECT_EQ(stage.picture.pixel(500 + reach, row.y), kBlack);
         EXPECT_EQ(stage.picture.pixel(500 + reach + 1, row.y), kCyan);
+        const auto* pixels = stage.picture.screenPixels();
+        EXPECT_EQ(std::count(pixels, pixels + 1'000'000, 0xFFFFFFFFu), 0);  // no spark is left
         EXPECT_EQ(stage.picture.penWidth(), 1);
         EXPECT_EQ(landingSound(row.landing), row.sound);
     }
