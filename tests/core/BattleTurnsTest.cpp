@@ -118,6 +118,20 @@ TEST(NearMiss, KillsSomeAndIsForgottenByTheNextTurn) {
     EXPECT_EQ(rig.battle.state().MenLeft, (PerSide<int>{92, 83}));
 }
 
+TEST(NearMiss, ExplodesOnTheTarget) {
+    BattleRig rig;
+    FieldPicture& picture = rig.battle.picture();
+    picture.resize(1000, 1000, 1);
+    rig.random.script({0});
+    rig.start();
+    const Colour ground = picture.pixel(853, 26);
+    shoot(rig, kNearMissBy[0]);
+    EXPECT_EQ(rig.battle.shots()[0].landedAt, (FieldPoint{853, 28}));
+    EXPECT_NE(ground, kBlack);
+    EXPECT_EQ(picture.pixel(853, 26), ground);
+    EXPECT_EQ(picture.pixel(863, 26), kBlack);  // the dot that a blast leaves
+}
+
 TEST(NearMiss, BesideASideWithoutMenWinsTheRound) {
     BattleRig rig;
     rig.random.script({0});
@@ -188,6 +202,7 @@ TEST(LastRound, EndsTheSet) {
     EXPECT_EQ(rig.log, (Log{"wait 1000", "summary Round", "hourglass", "wait 1000", "summary Set",
                             "close"}));
     EXPECT_TRUE(rig.shared.SetOver);
+    EXPECT_EQ(rig.settings.get("MeteorsSetting", "none"), "none");  // only leaving saves them
     EXPECT_EQ(rig.shared.RoundsWon, (PerSide<int>{1, 0}));
     EXPECT_EQ(rig.shared.Winner, 1);
 }
