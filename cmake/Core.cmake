@@ -15,6 +15,11 @@ add_library(skylob_core STATIC
     battle/FieldPicture.cpp
     battle/HeadlessBattle.cpp
     battle/ShellFlight.cpp
+    controls/GlintDesign.cpp
+    controls/GlintInteraction.cpp
+    controls/GlintLayout.cpp
+    controls/GlintPalette.cpp
+    controls/TransferPicture.cpp
     players/SetResult.cpp
 )
 target_sources(skylob_core PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR} FILES
@@ -45,6 +50,14 @@ target_sources(skylob_core PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DI
     battle/FieldPicture.h
     battle/HeadlessBattle.h
     battle/ShellFlight.h
+    controls/GlintDesign.h
+    controls/GlintInteraction.h
+    controls/GlintLayout.h
+    controls/GlintPalette.h
+    controls/GlintState.h
+    controls/GlintSurface.h
+    controls/PropertyBag.h
+    controls/TransferPicture.h
     players/SetResult.h
 )
 # Each header compiles by itself: a test builds the target that this makes.

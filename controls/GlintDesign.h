@@ -1,0 +1,71 @@
+#pragma once
+
+#include "controls/GlintSurface.h"
+#include "controls/PropertyBag.h"
+
+namespace skylob {
+
+/// A button's public properties: what setting each of them sets off, in that order, and how they
+/// come from a form and go back to it. Reading a property is reading the state.
+///
+/// "Mark" below means that the surface hears the key under which the form has to be saved.
+/// Nothing is validated: any number is stored.
+class GlintDesign {
+  public:
+    /// Both must outlive this object.
+    GlintDesign(GlintState& button, GlintSurface& surface);
+
+    /// A button newly placed on a form: style 14 with colours of its own, which come out black
+    /// on black because the palette is made before there are any.
+    void initialiseProperties();
+    /// A form that holds the button is loaded. A bag without entries gives style 2 and the
+    /// system's colours.
+    void readProperties(const PropertyBag& bag);
+    /// The form is saved: all 22 entries, in the order in which they are read.
+    void writeProperties(PropertyBag& bag) const;
+
+    void setBackColor(ColourReference value);
+    void setBackOver(ColourReference value);
+    void setForeColor(ColourReference value);
+    void setForeOver(ColourReference value);
+    void setMaskColor(ColourReference value);
+    void setButtonType(std::int32_t value);
+    void setCaption(const std::string& value);
+    void setEnabled(bool value);
+    void setFont(const GlintFont& value);
+    void setFontBold(bool value);
+    void setFontItalic(bool value);
+    void setFontUnderline(bool value);
+    void setFontSize(float value);
+    void setFontName(const std::string& value);
+    void setColorScheme(std::int32_t value);
+    void setShowFocusRect(bool value);
+    void setMousePointer(std::int16_t value);
+    void setMouseIcon(const PictureReference& value);
+    void setSoftBevel(bool value);
+    void setPictureNormal(const PictureReference& value);
+    void setPictureOver(const PictureReference& value);
+    void setPicturePosition(std::int32_t value);
+    void setUseMaskColor(bool value);
+    void setUseGreyscale(bool value);
+    void setSpecialEffect(std::int32_t value);
+    void setCheckBoxBehaviour(bool value);
+    void setValue(bool value);
+
+    static constexpr const char* Version = "w2005.08.15";
+
+    /// Makes the palette anew from the properties.
+    void recalcColours();
+
+  private:
+    void redrawCurrent();
+    void redrawNormal();
+    void changeFont(const GlintFont& font);
+    void measurePictureNormal();
+    void mark(std::string_view key);
+
+    GlintState& m_button;
+    GlintSurface& m_surface;
+};
+
+}  // namespace skylob

@@ -1,0 +1,133 @@
+#include "controls/GlintInteraction.h"
+
+#include "controls/GlintLayout.h"
+
+namespace skylob {
+
+namespace {
+
+constexpr std::int16_t kLeft = 1, kRight = 2;
+constexpr std::int16_t kSpace = 32;
+
+}  // namespace
+
+GlintInteraction::GlintInteraction(GlintState& button, GlintSurface& surface,
+                                   GlintPointer& pointer, GlintEvents& events)
+    : m_button{button}, m_surface{surface}, m_pointer{pointer}, m_events{events} {}
+
+void GlintInteraction::mouseDown(const GlintMouse& mouse) {
+    m_events.raiseMouseDown(mouse);
+    m_button.LastButton = static_cast<std::uint8_t>(mouse.button);
+    if (mouse.button != kRight) redraw(kStatePressed, false);
+}
+
+void GlintInteraction::mouseUp(const GlintMouse& mouse) {
+    m_events.raiseMouseUp(mouse);
+    if (mouse.button != kRight) redraw(kStateUp, false);
+}
+
+void GlintInteraction::mouseMove(const GlintMouse& mouse) {
+    m_events.raiseMouseMove(mouse);
+    if (mouse.button >= kRight) return;
+    if (!m_pointer.IsPointerInside()) {
+        redraw(kStateUp, false);
+        return;
+    }
+    // The timer does not run while the left button is held, so this repeats on every move then.
+    if (!m_pointer.isOverTimerRunning()) m_events.raiseMouseIn();
+    if (mouse.button == 0 && !m_button.IsOver) {
+        m_pointer.runOverTimer(true);
+        m_button.IsOver = true;
+        redraw(kStateUp, true);
+        m_events.raiseMouseOver();
+    } else if (mouse.button == kLeft) {
+        // Pressed, but in the colours of hovering.
+        m_button.IsOver = true;
+        redraw(kStatePressed, false);
+        m_button.IsOver = false;
+    }
+}
+
+void GlintInteraction::overTimerTick() {
+    if (m_pointer.IsPointerInside()) return;
+    m_pointer.runOverTimer(false);
+    m_button.IsOver = false;
+    redraw(kStateUp, true);
+    m_events.raiseMouseOut();
+}
+
+void GlintInteraction::click() {
+    if (m_button.LastButton != kLeft || !m_button.Enabled) return;
+    toggle();
+    redraw(kStateUp, true);
+    m_events.raiseClick();
+}
+
+void GlintInteraction::doubleClick() {
+    if (m_button.LastButton != kLeft) return;
+    mouseDown({kLeft, 0, 0, 0});
+    m_pointer.captureMouse();
+}
+
+void GlintInteraction::accessKey() {
+    m_button.LastButton = kLeft;
+    click();
+}
+
+void GlintInteraction::keyDown(std::int16_t keyCode, std::int16_t shift) {
+    m_events.raiseKeyDown(keyCode, shift);
+    m_button.LastKeyDown = static_cast<std::uint8_t>(keyCode);
+    if (keyCode == kSpace) redraw(kStatePressed, false);
+}
+
+void GlintInteraction::keyUp(std::int16_t keyCode, std::int16_t shift) {
+    m_events.raiseKeyUp(keyCode, shift);
+    if (keyCode != kSpace || m_button.LastKeyDown != kSpace) return;
+    toggle();
+    redraw(kStateUp, false);
+    m_events.raiseClick();
+}
+
+void GlintInteraction::keyPress(std::int16_t keyAscii) {
+    m_events.raiseKeyPress(keyAscii);
+}
+
+void GlintInteraction::gotFocus() {
+    m_button.HasFocus = true;
+    redraw(m_button.currentState, true);
+}
+
+void GlintInteraction::lostFocus() {
+    m_button.HasFocus = false;
+    redraw(m_button.currentState, true);
+}
+
+void GlintInteraction::ambientChanged() {
+    m_button.palette = RecalcColours(m_button, m_surface.containerColours());
+    redraw(m_button.currentState, true);
+}
+
+void GlintInteraction::initialise() {
+    m_button.IsShown = true;
+}
+
+void GlintInteraction::show() {
+    if (m_button.ButtonType == 11) captureBackground(m_button, m_surface);
+    m_button.IsShown = true;
+    m_button.palette = RecalcColours(m_button, m_surface.containerColours());
+    redraw(kStateUp, true);
+}
+
+void GlintInteraction::hide() {
+    m_button.IsShown = false;
+}
+
+void GlintInteraction::redraw(int state, bool flag) {
+    Redraw(m_button, m_surface, state, flag);
+}
+
+void GlintInteraction::toggle() {
+    if (m_button.CheckBoxBehaviour) m_button.Value = !m_button.Value;
+}
+
+}  // namespace skylob

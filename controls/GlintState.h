@@ -1,0 +1,100 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "app/Colour.h"
+
+namespace skylob {
+
+/// A colour as a property holds it: a literal 0x00BBGGRR, or 0x800000nn for system colour nn.
+using ColourReference = std::uint32_t;
+
+/// A rectangle by its edges in pixels; right and bottom are the first column and row outside.
+struct GlintRect {
+    int left = 0, top = 0, right = 0, bottom = 0;
+
+    int width() const { return right - left; }
+    int height() const { return bottom - top; }
+    GlintRect moved(int dx, int dy) const { return {left + dx, top + dy, right + dx, bottom + dy}; }
+    bool operator==(const GlintRect&) const = default;
+};
+
+struct GlintSize {
+    int width = 0, height = 0;
+
+    bool operator==(const GlintSize&) const = default;
+};
+
+/// A typeface as a button knows it; sizes are logical pixels.
+struct GlintFont {
+    std::string name;
+    float size = 0;
+    bool bold = false, italic = false, underline = false;
+
+    bool operator==(const GlintFont&) const = default;
+};
+
+/// The name under which the surface finds a picture; empty for none.
+using PictureReference = std::string;
+
+/// The values that a form is designed with, and that the host may change at any time.
+struct GlintProperties {
+    std::int32_t ButtonType = 0;       ///< drawing style: 3, 11, 14, or anything else
+    std::int32_t ColorScheme = 0;      ///< 2 own colours, 3 grey, 4 container, else system
+    std::int32_t PicturePosition = 0;  ///< 0 left, 1 right, 2 above, 3 below, 4 behind
+    std::int32_t SpecialEffect = 0;    ///< caption: 1 raised, 2 engraved, 3 shadow, else none
+    ColourReference BackColor = 0, BackOver = 0;  ///< face; face under the pointer
+    ColourReference ForeColor = 0, ForeOver = 0;  ///< caption; caption under the pointer
+    ColourReference MaskColor = 0;                ///< what is transparent in pictures
+    bool UseMaskColor = false;
+    bool UseGreyscale = false;
+    PictureReference PictureNormal, PictureOver;
+    std::string Caption;  ///< UTF-8; an ampersand marks the access key
+    bool Enabled = false;
+    bool SoftBevel = false;  ///< halves every colour shift
+    bool ShowFocusRect = false;
+    bool CheckBoxBehaviour = false;  ///< each click inverts Value
+    bool Value = false;
+};
+
+/// What a button is drawn with; all are literal colours.
+struct GlintPalette {
+    Colour FaceColour = 0, FaceOverColour = 0;
+    Colour TextColour = 0, TextOverColour = 0;
+    Colour ShadowColour = 0;         ///< inner dark bevel line
+    Colour LightColour = 0;          ///< inner light bevel line
+    Colour HighlightColour = 0;      ///< outer light bevel line
+    Colour DarkShadowColour = 0;     ///< outer dark bevel line
+    Colour HotBorderColour = 0;      ///< border of the hover highlight
+    Colour HotFillColour = 0;        ///< fill of the hover highlight
+    Colour MaskRGB = 0;
+    Colour FaceLightColour = 0;
+
+    bool operator==(const GlintPalette&) const = default;
+};
+
+/// The states that the painter draws.
+constexpr int kStateUp = 0, kStatePressed = 2;
+
+/// Everything that one button is and knows.
+struct GlintState : GlintProperties {
+    int currentState = kStateUp;  ///< the state drawn last
+    bool IsOver = false;          ///< the pointer is over the button
+
+    std::uint8_t LastButton = 0;   ///< of the last mouse-down: 1 left, 2 right
+    std::uint8_t LastKeyDown = 0;  ///< low byte of the last key-down
+    bool HasFocus = false;
+    bool IsShown = false;
+    bool CaptureBusy = false;  ///< a background capture is in progress
+
+    GlintPalette palette;
+
+    GlintSize client;               ///< the button's size
+    GlintRect content;              ///< the client rectangle less the bevel
+    GlintSize picture;              ///< of PictureNormal, 0 x 0 without one
+    GlintRect text, textPressed;    ///< the caption, and the same moved by 1, 1
+    GlintRect picturePlace;
+};
+
+}  // namespace skylob

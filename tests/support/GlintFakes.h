@@ -1,0 +1,142 @@
+#pragma once
+
+#include <map>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "controls/GlintDesign.h"
+#include "controls/GlintInteraction.h"
+#include "controls/GlintLayout.h"
+
+namespace skylob::test {
+
+/// A button of 100 x 40 pixels whose surface, pointer and form write all that happens into one
+/// log. A caption takes 7 pixels for each of its bytes in one line of 10.
+class GlintRig : public GlintSurface, public GlintPointer, public GlintEvents {
+  public:
+    using Log = std::vector<std::string>;
+
+    void paint(int state, bool flag) override {
+        note("Redraw(" + std::to_string(state) + (flag ? ", true)" : ", false)"));
+        drawnOver = button.IsOver;
+    }
+    void propertyChanged(std::string_view key) override { note("mark " + std::string{key}); }
+    bool isUserMode() const override { return userMode; }
+    std::string displayName() const override { return "cmdNew"; }
+    GlintFont ambientFont() const override { return {.name = "Ambient", .size = 13}; }
+    ContainerColours containerColours() const override { return {0x302010, 0xFFFFFF}; }
+    GlintFont font() const override { return surfaceFont; }
+    void setFont(const GlintFont& font) override {
+        note("font");
+        surfaceFont = font;
+    }
+    void setEnabled(bool enabled) override { note(enabled ? "enabled" : "disabled"); }
+    std::int16_t mousePointer() const override { return pointerShape; }
+    void setMousePointer(std::int16_t shape) override { pointerShape = shape; }
+    PictureReference mouseIcon() const override { return icon; }
+    void setMouseIcon(const PictureReference& picture) override { icon = picture; }
+    void setAccessKeyFrom(const std::string&) override { note("access key"); }
+    GlintSize measurePicture(const PictureReference& picture) const override {
+        return picture.empty() ? GlintSize{} : GlintSize{16, 12};
+    }
+    GlintRect measureCaption(const std::string& caption, const GlintRect& bounds) const override {
+        note("layout");
+        const int width = 7 * static_cast<int>(caption.size());
+        return {bounds.left, bounds.top, bounds.left + width, bounds.top + 10};
+    }
+    GlintSize clientSize() const override { return client; }
+    void setRegion(const std::vector<GlintPixel>& removed) override {
+        note("region " + std::to_string(removed.size()));
+    }
+    void captureBackground() override {
+        note("capture background");
+        resize(button, *this);
+    }
+
+    bool IsPointerInside() const override { return inside; }
+    bool isOverTimerRunning() const override { return timerRuns; }
+    void runOverTimer(bool run) override {
+        note(run ? "timer on" : "timer off");
+        timerRuns = run;
+    }
+    void captureMouse() override { note("capture mouse"); }
+
+    void raiseClick() override { note("Click"); }
+    void raiseMouseDown(const GlintMouse& mouse) override { note("MouseDown" + text(mouse)); }
+    void raiseMouseMove(const GlintMouse& mouse) override { note("MouseMove" + text(mouse)); }
+    void raiseMouseUp(const GlintMouse& mouse) override { note("MouseUp" + text(mouse)); }
+    void raiseKeyPress(std::int16_t key) override { note("KeyPress " + std::to_string(key)); }
+    void raiseKeyDown(std::int16_t key, std::int16_t shift) override {
+        note("KeyDown " + std::to_string(key) + " " + std::to_string(shift));
+    }
+    void raiseKeyUp(std::int16_t key, std::int16_t shift) override {
+        note("KeyUp " + std::to_string(key) + " " + std::to_string(shift));
+    }
+    void raiseMouseOver() override { note("MouseOver"); }
+    void raiseMouseIn() override { note("MouseIn"); }
+    void raiseMouseOut() override { note("MouseOut"); }
+
+    /// What has been logged since the last call.
+    Log taken() { return std::exchange(log, {}); }
+
+    GlintState button;
+    bool userMode = true, inside = true, timerRuns = false;
+    bool drawnOver = false;  ///< whether the last drawing was one under the pointer
+    GlintSize client{100, 40};
+    GlintFont surfaceFont;
+    std::int16_t pointerShape = 0;
+    PictureReference icon;
+    GlintDesign design{button, *this};
+    GlintInteraction interaction{button, *this, *this, *this};
+
+  private:
+    static std::string text(const GlintMouse& mouse) {
+        return " " + std::to_string(mouse.button) + " " + std::to_string(mouse.shift) + " " +
+               std::to_string(static_cast<int>(mouse.x)) + " " +
+               std::to_string(static_cast<int>(mouse.y));
+    }
+    void note(const std::string& what) const { log.push_back(what); }
+
+    mutable Log log;
+};
+
+/// A bag in memory that also tells in which order its keys were read or written.
+class MemoryBag : public PropertyBag {
+  public:
+    using Value = std::variant<std::int32_t, bool, std::string, GlintFont>;
+
+    std::int32_t readInteger(std::string_view key, std::int32_t fallback) const override {
+        return read(key, fallback);
+    }
+    bool readBoolean(std::string_view key, bool fallback) const override {
+        return read(key, fallback);
+    }
+    std::string readText(std::string_view key, const std::string& fallback) const override {
+        return read(key, fallback);
+    }
+    GlintFont readFont(std::string_view key, const GlintFont& fallback) const override {
+        return read(key, fallback);
+    }
+    void writeInteger(std::string_view key, std::int32_t value) override { write(key, value); }
+    void writeBoolean(std::string_view key, bool value) override { write(key, value); }
+    void writeText(std::string_view key, const std::string& value) override { write(key, value); }
+    void writeFont(std::string_view key, const GlintFont& value) override { write(key, value); }
+
+    std::map<std::string, Value, std::less<>> values;
+    mutable std::string keys;
+
+  private:
+    template <typename Type>
+    Type read(std::string_view key, const Type& fallback) const {
+        keys += std::string{key} + " ";
+        const auto found = values.find(key);
+        return found == values.end() ? fallback : std::get<Type>(found->second);
+    }
+    void write(std::string_view key, Value value) {
+        keys += std::string{key} + " ";
+        values.insert_or_assign(std::string{key}, std::move(value));
+    }
+};
+
+}  // namespace skylob::test
