@@ -2,6 +2,8 @@
 
 #include <SDL.h>
 #include <SDL_mixer.h>
+#include <fcntl.h>
+#include <unistd.h>
 
 #include <QFile>
 #include <cstdio>
@@ -35,6 +37,39 @@ std::span<const std::byte> playablePart(std::span<const std::byte> file) {
     return image && image->formatTag == WaveImage::kMpegLayer3 ? image->data : file;
 }
 
+/// Keeps the standard error empty while it lives: sound systems that find no device complain
+/// there at length, from within the library.
+class SilencedErrors {
+  public:
+    SilencedErrors() : m_saved{dup(STDERR_FILENO)} {
+        const int nowhere = open("/dev/null", O_WRONLY | O_CLOEXEC);
+        if (m_saved < 0 || nowhere < 0) return;
+        std::fflush(stderr);
+        dup2(nowhere, STDERR_FILENO);
+        close(nowhere);
+    }
+    ~SilencedErrors() {
+        if (m_saved < 0) return;
+        dup2(m_saved, STDERR_FILENO);
+        close(m_saved);
+    }
+
+    SilencedErrors(const SilencedErrors&) = delete;
+    SilencedErrors& operator=(const SilencedErrors&) = delete;
+
+  private:
+    int m_saved;
+};
+
+bool openAudio() {
+    const SilencedErrors silenced;
+    if (SDL_InitSubSystem(SDL_INIT_AUDIO) != 0) return false;
+    if (Mix_OpenAudioDevice(kRate, AUDIO_S16SYS, kChannels, kBufferFrames, nullptr, 0) == 0)
+        return true;
+    SDL_QuitSubSystem(SDL_INIT_AUDIO);
+    return false;
+}
+
 }  // namespace
 
 SdlSoundPlayer::SdlSoundPlayer() {
@@ -57,15 +92,12 @@ void SdlSoundPlayer::FreeChunk::operator()(Mix_Chunk* chunk) const {
 
 bool SdlSoundPlayer::openDevice() {
     if (m_device != Device::Unopened) return m_device == Device::Open;
-    m_device = Device::Missing;
-    if (SDL_InitSubSystem(SDL_INIT_AUDIO) == 0) {
-        if (Mix_OpenAudioDevice(kRate, AUDIO_S16SYS, kChannels, kBufferFrames, nullptr, 0) == 0) {
-            Mix_AllocateChannels(1);
-            m_device = Device::Open;
-            return true;
-        }
-        SDL_QuitSubSystem(SDL_INIT_AUDIO);
+    if (openAudio()) {
+        Mix_AllocateChannels(1);
+        m_device = Device::Open;
+        return true;
     }
+    m_device = Device::Missing;
     std::fprintf(stderr, "skylob: no sound: %s\n", SDL_GetError());
     return false;
 }
