@@ -4,13 +4,15 @@
 
 #include "app/Settings.h"
 #include "battle/frmPlayGame.h"
+#include "controls/GlintButtonAccessible.h"
 #include "players/SetResult.h"
 #include "players/frmSummary.h"
 
 namespace skylob {
 
 Application::Application(int& argc, char** argv, const CommandLine& commandLine)
-    : QApplication{argc, argv}, m_random{commandLine.seed} {
+    : QApplication{argc, argv}, m_random{commandLine.seed}, m_shapes{programDrawings()} {
+    GlintButtonAccessible::install();
     setApplicationName(QStringLiteral("Skylob"));
     // One screen may close before the next is shown.
     setQuitOnLastWindowClosed(false);
@@ -29,7 +31,7 @@ int Application::run() {
 void Application::showBattle() {
     m_battle = std::make_unique<frmPlayGame>(
         m_shared, frmPlayGamePorts{m_random, m_clock, m_pacer, m_sounds, m_boxes, m_settings,
-                                   [this](SummaryKind kind) { showSummary(kind); }});
+                                   m_shapes, [this](SummaryKind kind) { showSummary(kind); }});
     connect(m_battle.get(), &frmPlayGame::battleClosed, this, &Application::quit,
             Qt::QueuedConnection);
     m_battle->show();
@@ -37,7 +39,7 @@ void Application::showBattle() {
 
 void Application::showSummary(SummaryKind kind) {
     if (kind == SummaryKind::Set) m_shared.Winner = setWinner(m_shared);
-    frmSummary{m_shared, kind}.exec();
+    frmSummary{m_shared, kind, m_shapes}.exec();
 }
 
 bool Application::notify(QObject* receiver, QEvent* event) {

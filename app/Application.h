@@ -8,6 +8,7 @@
 #include "app/QtMessageBoxes.h"
 #include "app/QtPacer.h"
 #include "app/QtSettingsStore.h"
+#include "app/QtShapes.h"
 #include "app/RandomInt.h"
 #include "app/SdlSoundPlayer.h"
 #include "app/basSkylob.h"
@@ -45,6 +46,7 @@ class Application : public QApplication {
     SdlSoundPlayer m_sounds;
     QtMessageBoxes m_boxes;
     QtSettingsStore m_settings;
+    QtShapes m_shapes;
     basSkylob m_shared;
     std::unique_ptr<frmPlayGame> m_battle;
 };

@@ -1,5 +1,6 @@
 #include "app/QtShapes.h"
 
+#include <QFile>
 #include <QPainter>
 #include <QPainterPathStroker>
 #include <QPolygonF>
@@ -169,6 +170,12 @@ QImage QtShapes::render(const QString& name, QSize pixels, Edges edges) const {
     QPainter painter(&image);
     paint(painter, name, QRectF(QPointF(0, 0), QSizeF(pixels)), edges);
     return image;
+}
+
+QByteArray programDrawings() {
+    QFile file{QStringLiteral(":/pictures/shapes.txt")};
+    if (!file.open(QIODevice::ReadOnly)) throw std::runtime_error("the drawings are missing");
+    return file.readAll();
 }
 
 }  // namespace skylob

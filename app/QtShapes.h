@@ -61,4 +61,7 @@ class QtShapes {
     QHash<QString, Picture> m_pictures;
 };
 
+/// The text of the program's own drawings, compiled into it.
+QByteArray programDrawings();
+
 }  // namespace skylob

@@ -3,7 +3,6 @@
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QCoreApplication>
-#include <QFile>
 #include <QFrame>
 #include <QLabel>
 #include <QPainter>
@@ -19,20 +18,19 @@
 #include "battle/frmPlayGameLayout.h"
 #include "battle/picGameField.h"
 #include "controls/GlintButton.h"
+#include "controls/QtPropertyBagFile.h"
 
 namespace skylob {
 
 namespace {
 
-QByteArray shapesText() {
-    QFile file{QStringLiteral(":/pictures/shapes.txt")};
-    if (!file.open(QIODevice::ReadOnly)) qFatal("the drawings are missing");
-    return file.readAll();
-}
-
 void showTicked(QCheckBox& box, bool ticked) {
     const QSignalBlocker quiet{box};
     box.setChecked(ticked);
+}
+
+void enable(GlintButton& button, bool enabled) {
+    if (button.state().Enabled != enabled) button.design().setEnabled(enabled);
 }
 
 }  // namespace
@@ -44,7 +42,7 @@ frmPlayGame::frmPlayGame(basSkylob& shared, const frmPlayGamePorts& ports)
       m_battle{shared,
                {ports.random, ports.clock, ports.pacer, ports.sounds, ports.boxes, ports.settings,
                 *this}},
-      m_shapes{shapesText()},
+      m_shapes{ports.shapes},
       m_gate{new QtInputGate{this}},
       m_field{new picGameField{m_battle.picture(), m_shapes, this}} {
     setWindowTitle(QStringLiteral(" Skylob - Battlefield"));
@@ -89,22 +87,20 @@ void frmPlayGame::makeButtons() {
     labelRoundNumber->setAlignment(Qt::AlignCenter);
     labelRoundNumber->setProperty("role", m_layout.oneFrameAtATime ? "round-small" : "round");
 
-    cmdShoot = new GlintButton{GlintButton::Role::Fire,
-                               m_layout.shootHasCaption ? tr("&Shoot") : QString{}, this};
-    cmdShoot->setGeometry(m_layout.cmdShoot);
-    cmdShoot->setAccessibleName(tr("Shoot"));
-    const QSize picture{m_layout.shootPicture, m_layout.shootPicture};
-    const qreal ratio = devicePixelRatioF();
-    QImage shell =
-        m_shapes.render(QStringLiteral("shell"), picture * ratio, QtShapes::Edges::Sharp);
-    shell.setDevicePixelRatio(ratio);
-    cmdShoot->setIcon(QPixmap::fromImage(shell));
-    cmdShoot->setIconSize(picture);
-    if (!m_layout.shootHasCaption) cmdShoot->setToolTip(tr(" Shoot your Artillery Piece "));
+    cmdShoot = makeButton(QStringLiteral("cmdShoot"), m_layout.cmdShoot);
+    if (!m_layout.shootHasCaption) {
+        cmdShoot->design().setCaption({});
+        cmdShoot->design().setPictureNormal("shell " + std::to_string(m_layout.shootPicture));
+        cmdShoot->setToolTip(tr(" Shoot your Artillery Piece "));
+    }
+    cmdQuit = makeButton(QStringLiteral("cmdQuit"), m_layout.cmdQuit);
+}
 
-    cmdQuit = new GlintButton{GlintButton::Role::Danger, tr("&Quit\n(Esc)"), this};
-    cmdQuit->setGeometry(m_layout.cmdQuit);
-    cmdQuit->setAccessibleName(tr("Quit"));
+GlintButton* frmPlayGame::makeButton(const QString& name, const QRect& place) {
+    auto* button = new GlintButton{name, m_shapes, this};
+    button->design().readProperties(formBags(QStringLiteral("frmPlayGame")).bag(name));
+    button->setGeometry(place);
+    return button;
 }
 
 void frmPlayGame::makeOptions() {
@@ -153,8 +149,8 @@ void frmPlayGame::connectControls() {
     onToggle(chkMeteors, &BattleControls::chkMeteors_Click);
     onToggle(chkLightning, &BattleControls::chkLightning_Click);
     onToggle(chkWind, &BattleControls::chkWind_Click);
-    connect(cmdShoot, &GlintButton::clicked, this, [this] { m_battle.cmdShoot_Click(); });
-    connect(cmdQuit, &GlintButton::clicked, this, [&controls] { controls.cmdQuit_Click(); });
+    connect(cmdShoot, &GlintButton::Click, this, [this] { m_battle.cmdShoot_Click(); });
+    connect(cmdQuit, &GlintButton::Click, this, [&controls] { controls.cmdQuit_Click(); });
     connect(m_field, &picGameField::pieceClicked, this, [this] { m_battle.FieldPiece_Click(); });
 }
 
@@ -242,9 +238,9 @@ void frmPlayGame::showPanel(const BattlePanel& panel) {
 void frmPlayGame::showCommands(const BattlePanel& panel) {
     const bool wereEnabled = cmdShoot->isEnabled();
     if (wereEnabled && !panel.commandsEnabled) m_focusStaysOnShoot = cmdShoot->hasFocus();
-    for (QWidget* command :
-         std::initializer_list<QWidget*>{cmdShoot, cmdQuit, scrollGameSpeed, chkSound,
-                                         chkTrajectory, chkMeteors, chkLightning, chkWind})
+    for (GlintButton* button : {cmdShoot, cmdQuit}) enable(*button, panel.commandsEnabled);
+    for (QWidget* command : std::initializer_list<QWidget*>{
+             scrollGameSpeed, chkSound, chkTrajectory, chkMeteors, chkLightning, chkWind})
         command->setEnabled(panel.commandsEnabled);
     if (!wereEnabled && panel.commandsEnabled) moveFocusToTurn(panel.turn);
 }

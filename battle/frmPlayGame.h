@@ -27,6 +27,7 @@ struct frmPlayGamePorts {
     SoundPlayer& sounds;
     MessageBoxes& boxes;
     SettingsStore& settings;
+    const QtShapes& shapes;
     /// Shows the summary of a round or set and returns when the user has closed it.
     std::function<void(SummaryKind)> showSummary;
 };
@@ -65,6 +66,7 @@ class frmPlayGame : public QWidget, private BattleView {
 
     void makeSidePanels();
     void makeButtons();
+    GlintButton* makeButton(const QString& name, const QRect& place);
     void makeOptions();
     QCheckBox* makeBox(const QString& caption, const QRect& place, QWidget* strip);
     void connectControls();
@@ -80,7 +82,7 @@ class frmPlayGame : public QWidget, private BattleView {
     std::function<void(SummaryKind)> m_showSummary;
     basSkylob& m_shared;
     Battle m_battle;
-    QtShapes m_shapes;
+    const QtShapes& m_shapes;
     QtInputGate* m_gate;
     picGameField* m_field;
     PerSide<QtSidePanel*> m_side;

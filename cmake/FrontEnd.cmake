@@ -18,6 +18,11 @@ add_library(skylob_ui STATIC
     battle/frmPlayGameLayout.cpp
     battle/picGameField.cpp
     controls/GlintButton.cpp
+    controls/GlintButtonAccessible.cpp
+    controls/GlintButtonInput.cpp
+    controls/GlintButtonPictures.cpp
+    controls/GlintPainter.cpp
+    controls/QtPropertyBagFile.cpp
     players/frmSummary.cpp
 )
 set_target_properties(skylob_ui PROPERTIES AUTOMOC ON)
@@ -26,7 +31,7 @@ target_link_libraries(skylob_ui
     PRIVATE PkgConfig::SDL2_MIXER skylob_strict)
 target_compile_definitions(skylob_ui PRIVATE QT_NO_CAST_TO_ASCII)
 
-# Sounds and pictures are part of the program. They hang on the executables that use them: in a
+# Sounds, pictures and forms are part of the program. They hang on the executables that use them: in a
 # static library the linker would drop them.
 function(skylob_add_resources target)
     file(GLOB sounds CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/resources/sounds/*.wav)
@@ -34,6 +39,9 @@ function(skylob_add_resources target)
         ${PROJECT_SOURCE_DIR}/resources/look/*.qss)
     file(GLOB pictures CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/resources/pictures/*.png
         ${PROJECT_SOURCE_DIR}/resources/pictures/*.txt)
+    file(GLOB forms CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/resources/forms/*.json)
+    qt_add_resources(${target} forms PREFIX /forms
+        BASE ${PROJECT_SOURCE_DIR}/resources/forms FILES ${forms})
     qt_add_resources(${target} sounds PREFIX /sounds
         BASE ${PROJECT_SOURCE_DIR}/resources/sounds FILES ${sounds})
     qt_add_resources(${target} look PREFIX /look

@@ -19,7 +19,8 @@ ColourReference readColour(const PropertyBag& bag, std::string_view key, ColourR
 }  // namespace
 
 GlintDesign::GlintDesign(GlintState& button, GlintSurface& surface)
-    : m_button{button}, m_surface{surface} {}
+    : m_button{button}, m_surface{surface} {
+}
 
 void GlintDesign::initialiseProperties() {
     m_button.Enabled = m_button.ShowFocusRect = m_button.UseMaskColor = true;

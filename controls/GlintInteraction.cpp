@@ -11,9 +11,10 @@ constexpr std::int16_t kSpace = 32;
 
 }  // namespace
 
-GlintInteraction::GlintInteraction(GlintState& button, GlintSurface& surface,
-                                   GlintPointer& pointer, GlintEvents& events)
-    : m_button{button}, m_surface{surface}, m_pointer{pointer}, m_events{events} {}
+GlintInteraction::GlintInteraction(GlintState& button, GlintSurface& surface, GlintPointer& pointer,
+                                   GlintEvents& events)
+    : m_button{button}, m_surface{surface}, m_pointer{pointer}, m_events{events} {
+}
 
 void GlintInteraction::mouseDown(const GlintMouse& mouse) {
     m_events.raiseMouseDown(mouse);

@@ -12,12 +12,18 @@ enum PicturePlace { Left = 0, Right = 1, Above = 2, Below = 3, Behind = 4 };
 GlintRect captionBounds(int picturePosition, GlintSize client, GlintSize picture) {
     const auto [w, h] = client;
     switch (picturePosition) {
-        case Left: return {picture.width + 4, 4, w - 8, h - 8};
-        case Right: return {4, 4, w - picture.width - 8, h - 8};
-        case Above: return {4, picture.height + 4, w - 8, h - 8};
-        case Below: return {4, 4, w - 8, h - picture.height - 8};
-        case Behind: return {4, 1, w - 8, h - 4};
-        default: return {};
+        case Left:
+            return {picture.width + 4, 4, w - 8, h - 8};
+        case Right:
+            return {4, 4, w - picture.width - 8, h - 8};
+        case Above:
+            return {4, picture.height + 4, w - 8, h - 8};
+        case Below:
+            return {4, 4, w - 8, h - picture.height - 8};
+        case Behind:
+            return {4, 1, w - 8, h - 4};
+        default:
+            return {};
     }
 }
 
@@ -29,10 +35,14 @@ GlintSize captionShift(int picturePosition, GlintSize client, GlintSize picture,
     switch (picturePosition) {
         case Left:
         case Above:
-        case Behind: return {dx, dy};
-        case Right: return {(client.width - picture.width - measured.right - 4) / 2, dy};
-        case Below: return {dx, (client.height - picture.height - measured.bottom - 4) / 2};
-        default: return {};
+        case Behind:
+            return {dx, dy};
+        case Right:
+            return {(client.width - picture.width - measured.right - 4) / 2, dy};
+        case Below:
+            return {dx, (client.height - picture.height - measured.bottom - 4) / 2};
+        default:
+            return {};
     }
 }
 
@@ -43,11 +53,20 @@ GlintRect picturePlace(int picturePosition, GlintSize client, GlintSize picture,
     int y = middle.top + (middle.height() - picture.height) / 2;
     if (hasCaption) {
         switch (picturePosition) {
-            case Left: x = text.left - kPictureGap - picture.width; break;
-            case Right: x = text.right + kPictureGap; break;
-            case Above: y = text.top - kPictureGap - picture.height; break;
-            case Below: y = text.bottom + kPictureGap; break;
-            default: break;
+            case Left:
+                x = text.left - kPictureGap - picture.width;
+                break;
+            case Right:
+                x = text.right + kPictureGap;
+                break;
+            case Above:
+                y = text.top - kPictureGap - picture.height;
+                break;
+            case Below:
+                y = text.bottom + kPictureGap;
+                break;
+            default:
+                break;
         }
     }
     return {x, y, x + picture.width, y + picture.height};
@@ -60,8 +79,8 @@ void layOut(GlintState& button, const GlintSurface& surface) {
     const auto [dx, dy] = captionShift(position, button.client, button.picture, measured);
     button.text = measured.moved(dx, dy);
     button.textPressed = button.text.moved(1, 1);
-    button.picturePlace = picturePlace(position, button.client, button.picture, button.text,
-                                       !button.Caption.empty());
+    button.picturePlace =
+        picturePlace(position, button.client, button.picture, button.text, !button.Caption.empty());
 }
 
 GlintRect contentRectangle(int buttonType, GlintSize client) {
@@ -69,10 +88,14 @@ GlintRect contentRectangle(int buttonType, GlintSize client) {
         return GlintRect{by, by, client.width - by, client.height - by};
     };
     switch (buttonType) {
-        case 3: return shrunk(4);
-        case 11: return shrunk(3);
-        case 14: return shrunk(5).moved(1, 1);
-        default: return shrunk(0);
+        case 3:
+            return shrunk(4);
+        case 11:
+            return shrunk(3);
+        case 14:
+            return shrunk(5).moved(1, 1);
+        default:
+            return shrunk(0);
     }
 }
 
@@ -80,12 +103,16 @@ std::vector<GlintPixel> pixelsOutside(int buttonType, GlintSize client) {
     const int right = client.width - 1, bottom = client.height - 1;
     switch (buttonType) {
         case 3:
-            return {{0, 0},          {1, 0},           {0, 1},
-                    {right - 1, 0},  {right, 0},       {right, 1},
-                    {0, bottom},     {1, bottom},      {0, bottom - 1},
-                    {right - 1, bottom}, {right, bottom}, {right, bottom - 1}};
-        case 14: return {{0, bottom}, {right, 0}};
-        default: return {};
+            return {{0, 0},          {1, 0},
+                    {0, 1},          {right - 1, 0},
+                    {right, 0},      {right, 1},
+                    {0, bottom},     {1, bottom},
+                    {0, bottom - 1}, {right - 1, bottom},
+                    {right, bottom}, {right, bottom - 1}};
+        case 14:
+            return {{0, bottom}, {right, 0}};
+        default:
+            return {};
     }
 }
 

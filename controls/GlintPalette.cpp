@@ -85,13 +85,16 @@ GlintPalette systemColours() {
     return palette;
 }
 
-GlintPalette coloursOfScheme(const GlintProperties& properties,
-                             const ContainerColours& container) {
+GlintPalette coloursOfScheme(const GlintProperties& properties, const ContainerColours& container) {
     switch (properties.ColorScheme) {
-        case 2: return ownColours(properties);
-        case 3: return greyColours();
-        case 4: return containerColours(properties, container);
-        default: return systemColours();
+        case 2:
+            return ownColours(properties);
+        case 3:
+            return greyColours();
+        case 4:
+            return containerColours(properties, container);
+        default:
+            return systemColours();
     }
 }
 
@@ -99,14 +102,22 @@ GlintPalette coloursOfScheme(const GlintProperties& properties,
 
 Colour systemColour(int number) {
     switch (number) {
-        case systemcolour::kSelection: return 0x800000;
-        case systemcolour::kButtonFace: return 0xC0C0C0;
-        case systemcolour::kButtonShadow: return 0x808080;
-        case systemcolour::kButtonText: return 0x000000;
-        case systemcolour::kButtonHighlight: return 0xFFFFFF;
-        case systemcolour::kDarkShadow: return 0x000000;
-        case systemcolour::kLight: return 0xDFDFDF;
-        default: return 0;
+        case systemcolour::kSelection:
+            return 0x800000;
+        case systemcolour::kButtonFace:
+            return 0xC0C0C0;
+        case systemcolour::kButtonShadow:
+            return 0x808080;
+        case systemcolour::kButtonText:
+            return 0x000000;
+        case systemcolour::kButtonHighlight:
+            return 0xFFFFFF;
+        case systemcolour::kDarkShadow:
+            return 0x000000;
+        case systemcolour::kLight:
+            return 0xDFDFDF;
+        default:
+            return 0;
     }
 }
 
@@ -141,8 +152,7 @@ GlintPalette RecalcColours(const GlintProperties& properties, const ContainerCol
     GlintPalette palette = coloursOfScheme(properties, container);
     palette.MaskRGB = TranslateColour(properties.MaskColor);
     const BlueShift blue = properties.ButtonType == 3 ? BlueShift::Scaled : BlueShift::Flat;
-    palette.FaceLightColour =
-        ShiftColour(palette.FaceColour, 48, blue, bevelOf(properties));
+    palette.FaceLightColour = ShiftColour(palette.FaceColour, 48, blue, bevelOf(properties));
     return palette;
 }
 

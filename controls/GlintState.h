@@ -62,12 +62,12 @@ struct GlintProperties {
 struct GlintPalette {
     Colour FaceColour = 0, FaceOverColour = 0;
     Colour TextColour = 0, TextOverColour = 0;
-    Colour ShadowColour = 0;         ///< inner dark bevel line
-    Colour LightColour = 0;          ///< inner light bevel line
-    Colour HighlightColour = 0;      ///< outer light bevel line
-    Colour DarkShadowColour = 0;     ///< outer dark bevel line
-    Colour HotBorderColour = 0;      ///< border of the hover highlight
-    Colour HotFillColour = 0;        ///< fill of the hover highlight
+    Colour ShadowColour = 0;      ///< inner dark bevel line
+    Colour LightColour = 0;       ///< inner light bevel line
+    Colour HighlightColour = 0;   ///< outer light bevel line
+    Colour DarkShadowColour = 0;  ///< outer dark bevel line
+    Colour HotBorderColour = 0;   ///< border of the hover highlight
+    Colour HotFillColour = 0;     ///< fill of the hover highlight
     Colour MaskRGB = 0;
     Colour FaceLightColour = 0;
 
@@ -90,10 +90,10 @@ struct GlintState : GlintProperties {
 
     GlintPalette palette;
 
-    GlintSize client;               ///< the button's size
-    GlintRect content;              ///< the client rectangle less the bevel
-    GlintSize picture;              ///< of PictureNormal, 0 x 0 without one
-    GlintRect text, textPressed;    ///< the caption, and the same moved by 1, 1
+    GlintSize client;             ///< the button's size
+    GlintRect content;            ///< the client rectangle less the bevel
+    GlintSize picture;            ///< of PictureNormal, 0 x 0 without one
+    GlintRect text, textPressed;  ///< the caption, and the same moved by 1, 1
     GlintRect picturePlace;
 };
 

@@ -26,10 +26,10 @@ struct PixelArray {
 
 /// How a picture is merged into the face below it.
 struct TransferEffects {
-    bool ghost = false;      ///< one of the next two, greyscale first; else a plain copy
+    bool ghost = false;  ///< one of the next two, greyscale first; else a plain copy
     bool greyscale = false;
-    bool blend = false;      ///< two thirds picture, one third face
-    bool darkOnly = false;   ///< without ghost: only pixels whose channels sum up to 384 or less
+    bool blend = false;     ///< two thirds picture, one third face
+    bool darkOnly = false;  ///< without ghost: only pixels whose channels sum up to 384 or less
 };
 
 /// Maps a colour to the nearest one that the surface can show.

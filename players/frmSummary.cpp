@@ -5,6 +5,7 @@
 
 #include "app/QtLook.h"
 #include "controls/GlintButton.h"
+#include "controls/QtPropertyBagFile.h"
 
 namespace skylob {
 
@@ -25,7 +26,7 @@ void addRow(QGridLayout& grid, const QString& text, const PerSide<int>& figures)
 
 }  // namespace
 
-frmSummary::frmSummary(const basSkylob& shared, SummaryKind kind) {
+frmSummary::frmSummary(const basSkylob& shared, SummaryKind kind, const QtShapes& shapes) {
     const QString word = kind == SummaryKind::Round ? tr("Round") : tr("Set");
     setWindowTitle(QStringLiteral(" Skylob - %1 Summary").arg(word));
     applyLook(*this);
@@ -33,9 +34,11 @@ frmSummary::frmSummary(const basSkylob& shared, SummaryKind kind) {
     auto* heading = plainLabel(QString::fromStdString(shared.PlayerName[shared.Winner]) +
                                QStringLiteral(" wins this ") + word + QLatin1Char{'!'});
     heading->setProperty("role", "heading");
-    auto* okay = new GlintButton{GlintButton::Role::Primary, tr("&Okay"), this};
-    okay->setMinimumSize(144, 52);
-    connect(okay, &GlintButton::clicked, this, &QDialog::accept);
+    auto* cmdOkay = new GlintButton{QStringLiteral("cmdOkay"), shapes, this};
+    cmdOkay->design().readProperties(formBags(QStringLiteral("frmSummary")).bag("cmdOkay"));
+    cmdOkay->setFixedSize(144, 52);
+    cmdOkay->setFocus();
+    connect(cmdOkay, &GlintButton::Click, this, &QDialog::accept);
 
     auto* grid = new QGridLayout{this};
     grid->setContentsMargins(16, 16, 16, 16);
@@ -49,7 +52,7 @@ frmSummary::frmSummary(const basSkylob& shared, SummaryKind kind) {
     addRow(*grid, tr("Rounds won"), shared.RoundsWon);
     addRow(*grid, tr("Enemy killed this round"), shared.RoundKills);
     addRow(*grid, tr("Enemy killed this set"), shared.TotalKills);
-    grid->addWidget(okay, grid->rowCount(), 0, 1, 3, Qt::AlignCenter);
+    grid->addWidget(cmdOkay, grid->rowCount(), 0, 1, 3, Qt::AlignCenter);
 }
 
 }  // namespace skylob

@@ -7,12 +7,15 @@
 
 namespace skylob {
 
+class QtShapes;
+
 /// What a round or a set came to: a heading and both players' figures. Run it with exec().
 class frmSummary : public QDialog {
     Q_OBJECT
 
   public:
-    frmSummary(const basSkylob& shared, SummaryKind kind);
+    /// `shapes` must outlive the screen.
+    frmSummary(const basSkylob& shared, SummaryKind kind, const QtShapes& shapes);
 };
 
 }  // namespace skylob

@@ -33,7 +33,8 @@ TEST(GlintInteraction, ShowsNothingOfTheRightButton) {
     rig.interaction.mouseUp(kRight);
     rig.interaction.click();
     rig.interaction.doubleClick();
-    EXPECT_EQ(rig.taken(), (Log{"MouseDown 2 0 30 10", "MouseMove 2 0 30 10", "MouseUp 2 0 30 10"}));
+    EXPECT_EQ(rig.taken(),
+              (Log{"MouseDown 2 0 30 10", "MouseMove 2 0 30 10", "MouseUp 2 0 30 10"}));
     // Other buttons press, but do not click.
     rig.interaction.mouseDown({4, 0, 1, 1});
     rig.interaction.click();
@@ -43,8 +44,8 @@ TEST(GlintInteraction, ShowsNothingOfTheRightButton) {
 TEST(GlintInteraction, HoversWhileThePointerIsInside) {
     GlintRig rig;
     rig.interaction.mouseMove(kNone);
-    EXPECT_EQ(rig.taken(), (Log{"MouseMove 0 0 30 10", "MouseIn", "timer on", "Redraw(0, true)",
-                                "MouseOver"}));
+    EXPECT_EQ(rig.taken(),
+              (Log{"MouseMove 0 0 30 10", "MouseIn", "timer on", "Redraw(0, true)", "MouseOver"}));
     EXPECT_TRUE(rig.drawnOver);
     rig.interaction.mouseMove(kNone);
     rig.interaction.overTimerTick();
@@ -104,8 +105,7 @@ TEST(GlintInteraction, TakesOnlyAWholeSpace) {
     rig.interaction.keyDown(32, 0);
     rig.interaction.keyDown(65, 0);
     rig.interaction.keyUp(32, 0);
-    EXPECT_EQ(rig.taken(),
-              (Log{"KeyDown 32 0", "Redraw(2, false)", "KeyDown 65 0", "KeyUp 32 0"}));
+    EXPECT_EQ(rig.taken(), (Log{"KeyDown 32 0", "Redraw(2, false)", "KeyDown 65 0", "KeyUp 32 0"}));
     rig.interaction.keyDown(256 + 32, 0);  // its low byte is a space's, it is none itself
     rig.interaction.keyUp(32, 0);
     EXPECT_EQ(rig.taken(), (Log{"KeyDown 288 0", "KeyUp 32 0", "Redraw(0, false)", "Click"}));

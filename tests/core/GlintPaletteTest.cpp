@@ -17,8 +17,8 @@ TEST(ShiftColour, MovesEachChannelAndScalesBlueOnDemand) {
     for (const Row& row : {
              Row{0x102030, 48, Scaled, Bevel::Hard, 0x145060},
              Row{0x102030, 48, Flat, Bevel::Hard, 0x405060},
-             Row{0x102030, 31, Flat, Bevel::Soft, 0x1F2F3F},    // 15, not 16
-             Row{0x505050, -31, Flat, Bevel::Soft, 0x414141},   // -15, not -16
+             Row{0x102030, 31, Flat, Bevel::Soft, 0x1F2F3F},   // 15, not 16
+             Row{0x505050, -31, Flat, Bevel::Soft, 0x414141},  // -15, not -16
              Row{0xFFFFFF, 47, Flat, Bevel::Hard, 0xFFFFFF},
              Row{0x000000, -64, Flat, Bevel::Hard, 0x000000},
              Row{0xF01020, 48, Scaled, Bevel::Hard, 0xFF4050},
@@ -62,12 +62,18 @@ GlintProperties grey(int scheme) {
 
 TEST(RecalcColours, Scheme2TakesTheButtonsOwnColours) {
     GlintProperties properties = grey(2);
-    GlintPalette expected{.FaceColour = 0xC0C0C0, .FaceOverColour = 0x800000,
-                          .TextColour = 0x010203, .TextOverColour = 0x040506,
-                          .ShadowColour = 0x808080, .LightColour = 0xDFDFDF,
-                          .HighlightColour = 0xEFEFEF, .DarkShadowColour = 0x000000,
-                          .HotBorderColour = 0x404040, .HotFillColour = 0xC0C0C0,
-                          .MaskRGB = 0xFFFFFF, .FaceLightColour = 0xF0F0F0};
+    GlintPalette expected{.FaceColour = 0xC0C0C0,
+                          .FaceOverColour = 0x800000,
+                          .TextColour = 0x010203,
+                          .TextOverColour = 0x040506,
+                          .ShadowColour = 0x808080,
+                          .LightColour = 0xDFDFDF,
+                          .HighlightColour = 0xEFEFEF,
+                          .DarkShadowColour = 0x000000,
+                          .HotBorderColour = 0x404040,
+                          .HotFillColour = 0xC0C0C0,
+                          .MaskRGB = 0xFFFFFF,
+                          .FaceLightColour = 0xF0F0F0};
     EXPECT_EQ(RecalcColours(properties, {}), expected);
     properties.SoftBevel = true;
     expected.ShadowColour = 0xA0A0A0;
@@ -84,21 +90,32 @@ TEST(RecalcColours, Scheme2TakesTheButtonsOwnColours) {
 }
 
 TEST(RecalcColours, TheOtherSchemesIgnoreThem) {
-    const GlintPalette fixed{.FaceColour = 0xC0C0C0, .FaceOverColour = 0xC0C0C0,
-                             .ShadowColour = 0x808080, .LightColour = 0xDFDFDF,
-                             .HighlightColour = 0xFFFFFF, .DarkShadowColour = 0x000000,
-                             .HotBorderColour = 0x800000, .HotFillColour = 0xD1ADAD,
-                             .MaskRGB = 0xFFFFFF, .FaceLightColour = 0xF0F0F0};
+    const GlintPalette fixed{.FaceColour = 0xC0C0C0,
+                             .FaceOverColour = 0xC0C0C0,
+                             .ShadowColour = 0x808080,
+                             .LightColour = 0xDFDFDF,
+                             .HighlightColour = 0xFFFFFF,
+                             .DarkShadowColour = 0x000000,
+                             .HotBorderColour = 0x800000,
+                             .HotFillColour = 0xD1ADAD,
+                             .MaskRGB = 0xFFFFFF,
+                             .FaceLightColour = 0xF0F0F0};
     EXPECT_EQ(RecalcColours(grey(3), {}), fixed);
     GlintPalette system = fixed;
     system.HotFillColour = 0xD7B0B0;
     for (const int scheme : {1, 0, 5, -2}) EXPECT_EQ(RecalcColours(grey(scheme), {}), system);
-    const GlintPalette container{.FaceColour = 0x302010, .FaceOverColour = 0x302010,
-                                 .TextColour = 0xF0E0D0, .TextOverColour = 0xF0E0D0,
-                                 .ShadowColour = 0x000000, .LightColour = 0x4F3F2F,
-                                 .HighlightColour = 0x5F4F3F, .DarkShadowColour = 0x000000,
-                                 .HotBorderColour = 0x800000, .HotFillColour = 0xD7B0B0,
-                                 .MaskRGB = 0xFFFFFF, .FaceLightColour = 0x605040};
+    const GlintPalette container{.FaceColour = 0x302010,
+                                 .FaceOverColour = 0x302010,
+                                 .TextColour = 0xF0E0D0,
+                                 .TextOverColour = 0xF0E0D0,
+                                 .ShadowColour = 0x000000,
+                                 .LightColour = 0x4F3F2F,
+                                 .HighlightColour = 0x5F4F3F,
+                                 .DarkShadowColour = 0x000000,
+                                 .HotBorderColour = 0x800000,
+                                 .HotFillColour = 0xD7B0B0,
+                                 .MaskRGB = 0xFFFFFF,
+                                 .FaceLightColour = 0x605040};
     EXPECT_EQ(RecalcColours(grey(4), {0x302010, 0xF0E0D0}), container);
 }
 

@@ -50,8 +50,8 @@ TEST(TransferPicture, HasItsEffects) {
 }
 
 TEST(TransferPicture, KeepsToItsRows) {
-    const Bytes picture{1, 1, 1, 0, 2, 2, 2, 0};               // 1 x 2, rows of 4 bytes
-    Bytes target{9, 9, 9, 8, 8, 9, 9, 9, 8, 8};                // 1 x 2, rows of 5 bytes
+    const Bytes picture{1, 1, 1, 0, 2, 2, 2, 0};  // 1 x 2, rows of 4 bytes
+    Bytes target{9, 9, 9, 8, 8, 9, 9, 9, 8, 8};   // 1 x 2, rows of 5 bytes
     TransferPicture({picture, 1, 2, 4}, {target, 1, 2, 5}, {}, {});
     EXPECT_EQ(target, (Bytes{1, 1, 1, 8, 8, 2, 2, 2, 8, 8}));
 }

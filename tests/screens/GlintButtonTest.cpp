@@ -1,0 +1,271 @@
+#include "controls/GlintButton.h"
+
+#include <unistd.h>
+#include <QAccessible>
+#include <QCursor>
+#include <QKeyEvent>
+#include <QSignalSpy>
+#include <QTemporaryFile>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include "app/QtShapes.h"
+#include "controls/GlintButtonAccessible.h"
+#include "controls/QtPropertyBagFile.h"
+
+using namespace skylob;
+
+namespace {
+
+/// A window with two buttons, the first of which writes its events down.
+struct Form {
+    Form() {
+        window.setFixedSize(300, 200);
+        window.move(100, 100);
+        for (GlintButton* button : {&first, &second}) {
+            button->design().initialiseProperties();
+            button->design().setBackColor(0x735F16);
+            button->design().setForeColor(0xFFFFFF);
+        }
+        first.setGeometry(20, 20, 100, 40);
+        first.design().setCaption("&First");
+        second.setGeometry(20, 100, 100, 40);
+        second.design().setCaption("Second");
+        note(&GlintButton::Click, "Click");
+        note(&GlintButton::MouseDown, "MouseDown");
+        note(&GlintButton::MouseUp, "MouseUp");
+        note(&GlintButton::MouseIn, "MouseIn");
+        note(&GlintButton::MouseOver, "MouseOver");
+        note(&GlintButton::MouseOut, "MouseOut");
+        note(&GlintButton::KeyPress, "KeyPress");
+        window.show();
+        window.activateWindow();
+        (void)QTest::qWaitForWindowActive(&window);
+    }
+
+    template <typename Signal>
+    void note(Signal signal, const QString& name) {
+        QObject::connect(&first, signal, &window, [this, name] { events << name; });
+    }
+    /// Moves the pointer for real, as far as the platform has one.
+    void moveTo(QWidget& widget, QPoint place, Qt::MouseButtons held = {}) {
+        QCursor::setPos(widget.mapToGlobal(place));
+        const QPoint inFirst = first.mapFromGlobal(QCursor::pos());
+        QMouseEvent move{
+            QEvent::MouseMove, QPointF{inFirst}, QPointF{QCursor::pos()}, Qt::NoButton, held, {}};
+        QApplication::sendEvent(&first, &move);
+    }
+    QString taken() { return std::exchange(events, {}).join(' '); }
+    QRgb faceColour() { return first.grab().toImage().pixel(50, 35); }
+
+    const QtShapes shapes{programDrawings()};
+    QStringList events;
+    QWidget window;
+    GlintButton first{"cmdFirst", shapes, &window}, second{"cmdSecond", shapes, &window};
+};
+
+}  // namespace
+
+class GlintButtonTest : public QObject {
+    Q_OBJECT
+
+  private slots:
+    void clicksOnceForEachPressAndRelease() {
+        Form form;
+        QTest::mouseClick(&form.first, Qt::LeftButton);
+        QCOMPARE(form.taken(), QString{"MouseDown MouseUp Click"});
+        QTest::mouseClick(&form.first, Qt::RightButton);
+        QCOMPARE(form.taken(), QString{"MouseDown MouseUp"});
+        // The second press of a double click arrives as such, and its release ends in a click.
+        QTest::mouseClick(&form.first, Qt::LeftButton);
+        form.taken();
+        QTest::mouseDClick(&form.first, Qt::LeftButton);
+        QCOMPARE(form.taken(), QString{"MouseDown"});
+        QTest::mouseRelease(&form.first, Qt::LeftButton);
+        QCOMPARE(form.taken(), QString{"MouseUp Click"});
+        form.first.design().setEnabled(false);
+        form.taken();
+        QTest::mouseClick(&form.first, Qt::LeftButton);
+        form.first.press();
+        QCOMPARE(form.taken(), QString{});
+    }
+
+    void comesUpWhenDraggedOff() {
+        Form form;
+        QTest::mousePress(&form.first, Qt::LeftButton);
+        QCOMPARE(form.first.state().currentState, kStatePressed);
+        form.moveTo(form.first, {50, 20}, Qt::LeftButton);
+        QCOMPARE(form.first.state().currentState, kStatePressed);
+        form.moveTo(form.second, {50, 20}, Qt::LeftButton);
+        QCOMPARE(form.first.state().currentState, kStateUp);
+        form.taken();
+        QTest::mouseRelease(&form.first, Qt::LeftButton, {}, {50, 100});
+        QCOMPARE(form.taken(), QString{"MouseUp"});
+    }
+
+    void hoversUntilThePointerLeaves() {
+        Form form;
+        form.moveTo(form.second, {5, 5});
+        const QRgb up = form.faceColour();
+        form.first.design().setBackOver(0xFFFFFF);
+        form.first.hide();
+        form.first.show();  // makes the palette anew
+        form.taken();
+        form.moveTo(form.first, {50, 20});
+        QCOMPARE(form.taken(), QString{"MouseIn MouseOver"});
+        QVERIFY(form.faceColour() != up);
+        QTest::qWait(30);
+        QCOMPARE(form.taken(), QString{});
+        QCursor::setPos(form.second.mapToGlobal(QPoint{5, 5}));
+        QTRY_VERIFY(form.events.contains("MouseOut"));
+        QCOMPARE(form.faceColour(), up);
+    }
+
+    void countsACoveredPartAsOutside() {
+        Form form;
+        QWidget cover;
+        cover.setWindowFlag(Qt::FramelessWindowHint);
+        cover.setGeometry(QRect{form.first.mapToGlobal(QPoint{0, 0}), QSize{50, 40}});
+        cover.show();
+        cover.raise();
+        (void)QTest::qWaitForWindowExposed(&cover);
+        form.taken();
+        form.moveTo(form.first, {20, 20});
+        QCOMPARE(form.taken(), QString{});
+        form.moveTo(form.first, {80, 20});
+        QCOMPARE(form.taken(), QString{"MouseIn MouseOver"});
+    }
+
+    void takesSpaceAndAccessKeyButNotEnter() {
+        Form form;
+        form.first.setFocus();
+        QTest::keyClick(&form.first, Qt::Key_Return);
+        QCOMPARE(form.taken(), QString{"KeyPress"});
+        QTest::keyPress(&form.first, Qt::Key_Space);
+        QCOMPARE(form.first.state().currentState, kStatePressed);
+        QTest::keyRelease(&form.first, Qt::Key_Space);
+        QCOMPARE(form.taken(), QString{"KeyPress Click"});
+        form.second.setFocus();
+        QTest::keyClick(&form.window, Qt::Key_F, Qt::AltModifier);
+        QCOMPARE(form.taken(), QString{"Click"});
+        form.first.design().setCaption("Fi&rst");
+        QTest::keyClick(&form.window, Qt::Key_F, Qt::AltModifier);
+        QCOMPARE(form.taken(), QString{});
+        QTest::keyClick(&form.window, Qt::Key_R, Qt::AltModifier);
+        QCOMPARE(form.taken(), QString{"Click"});
+    }
+
+    void showsItsFocus() {
+        Form form;
+        form.second.setFocus();
+        const auto dots = [&] {
+            const QImage image = form.first.grab().toImage();
+            int white = 0;
+            for (int x = 0; x < image.width(); ++x) white += image.pixel(x, 6) == 0xFFFFFFFF;
+            return white;
+        };
+        QCOMPARE(dots(), 0);
+        form.first.setFocus();
+        QCOMPARE(dots(), 45);  // every other one of the 90 along the top
+        form.first.design().setShowFocusRect(false);
+        form.first.update();
+        QCOMPARE(dots(), 0);
+    }
+
+    void isCutToItsStyle() {
+        Form form;
+        QVERIFY(!form.first.mask().contains(QPoint{99, 0}));
+        QVERIFY(form.first.mask().contains(QPoint{0, 0}));
+        form.first.design().setButtonType(3);
+        QVERIFY(!form.first.mask().contains(QPoint{0, 1}));
+        QVERIFY(form.first.mask().contains(QPoint{1, 1}));
+        form.first.design().setButtonType(2);
+        QVERIFY(form.first.mask().isEmpty());
+    }
+
+    void showsGlassOverWhatLiesBehind() {
+        Form form;
+        QPalette palette;
+        palette.setColor(QPalette::Window, Qt::red);
+        form.window.setPalette(palette);
+        form.first.design().setCaption("");
+        form.first.design().setBackColor(0);
+        form.first.design().setButtonType(11);
+        // Black with an opacity of 96 / 255 over red.
+        QVERIFY(std::abs(qRed(form.faceColour()) - 159) <= 1);
+        QCOMPARE(qGreen(form.faceColour()), 0);
+    }
+
+    void tellsScreenReaders() {
+        GlintButtonAccessible::install();
+        Form form;
+        form.first.setToolTip(" Go ");
+        form.first.design().setCaption("&Rock && Roll\nNow");
+        form.first.design().setCheckBoxBehaviour(true);
+        QAccessibleInterface* reader = QAccessible::queryAccessibleInterface(&form.first);
+        QVERIFY(reader);
+        QCOMPARE(reader->role(), QAccessible::Button);
+        QCOMPARE(reader->text(QAccessible::Name), QString{"Rock & Roll Now"});
+        QCOMPARE(reader->text(QAccessible::Description), QString{"Go"});
+        QVERIFY(reader->state().checkable && !reader->state().checked);
+        reader->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        QCOMPARE(form.taken(), QString{"Click"});
+        QVERIFY(reader->state().checked);
+        form.first.design().setEnabled(false);
+        QVERIFY(reader->state().disabled);
+    }
+
+    void keepsItsPropertiesInABag() {
+        const QByteArray stored =
+            "{\n    \"cmdOne\": {\n        \"BTYPE\": 3,\n        \"TX\": \"&Größe\\n2\"\n    "
+            "}\n}\n";
+        QtPropertyBagFile file{stored, "stored"};
+        QCOMPARE(file.toJson(), stored);
+        const QtShapes shapes{programDrawings()};
+        GlintButton button{"cmdOne", shapes, nullptr};
+        button.design().readProperties(file.bag("cmdOne"));
+        QCOMPARE(button.plainCaption(), QString{"Größe 2"});
+        auto bag = file.bag("cmdOne");
+        button.design().writeProperties(bag);
+        const QByteArray written = file.toJson();
+        QtPropertyBagFile again{written, "again"};
+        auto secondBag = again.bag("cmdOne");
+        button.design().readProperties(secondBag);
+        button.design().writeProperties(secondBag);
+        QCOMPARE(again.toJson(), written);
+        for (const char* form : {"frmPlayGame", "frmSummary"}) {
+            QFile resource{QStringLiteral(":/forms/%1.json").arg(form)};
+            QVERIFY(resource.open(QIODevice::ReadOnly));
+            const QByteArray bytes = resource.readAll();
+            const QtPropertyBagFile bags{bytes, form};
+            QCOMPARE(bags.toJson(), bytes);
+        }
+    }
+
+    void reportsAWrongTypeOnce() {
+        QTemporaryFile errors;
+        QVERIFY(errors.open());
+        const int saved = dup(STDERR_FILENO);
+        dup2(errors.handle(), STDERR_FILENO);
+        QtPropertyBagFile file{R"({"b": {"BTYPE": 2.5, "TX": 7, "ENAB": 1, "FONT": "x"}})", "bad"};
+        const auto bag = file.bag("b");
+        for (int times = 0; times < 2; ++times) {
+            QCOMPARE(bag.readInteger("BTYPE", 14), 14);
+            QCOMPARE(bag.readText("TX", "none"), std::string{"none"});
+            QCOMPARE(bag.readBoolean("ENAB", true), true);
+            QCOMPARE(bag.readFont("FONT", {.name = "Sans"}).name, std::string{"Sans"});
+            QCOMPARE(bag.readInteger("FX", 9), 9);
+        }
+        const QtPropertyBagFile none{"[", "none"};
+        std::fflush(stderr);
+        dup2(saved, STDERR_FILENO);
+        close(saved);
+        QFile read{errors.fileName()};
+        QVERIFY(read.open(QIODevice::ReadOnly));
+        const QByteArray said = read.readAll();
+        QVERIFY2(said.count('\n') == 5, said.constData());
+    }
+};
+
+QTEST_MAIN(GlintButtonTest)
+#include "GlintButtonTest.moc"
