@@ -1,7 +1,6 @@
 // What the game's inner work costs, in one table; `run` starts it on a display of its own.
 
 #include <QApplication>
-#include <QResource>
 #include <QWindow>
 #include <algorithm>
 #include <cstdio>
@@ -17,6 +16,9 @@
 #include "battle/HeadlessBattle.h"
 #include "battle/frmPlayGameLayout.h"
 #include "battle/picGameField.h"
+#include "controls/GlintButton.h"
+#include "controls/QtPropertyBagFile.h"
+#include "controls/TransferPicture.h"
 
 namespace skylob {
 
@@ -115,7 +117,7 @@ class Flight : private HeadlessView {
     }
 
     int m_shows = 0;
-    QtShapes m_shapes{QResource{QStringLiteral(":/pictures/shapes.txt")}.uncompressedData()};
+    QtShapes m_shapes{programDrawings()};
     FieldPicture m_picture;
     Battlefield m_field;
     QWidget m_window;
@@ -136,6 +138,27 @@ void lateCount(benchmark::State& state) {
     while (state.KeepRunningBatch(kManyCounts)) CountedWait{}.run(kManyCounts);
 }
 
+void pictureTransfer(benchmark::State& state) {
+    constexpr int kEdge = 64;
+    const std::vector<std::uint8_t> picture(kEdge * kEdge * 3, 0x55);
+    std::vector<std::uint8_t> face(picture.size(), 0xAA);
+    for (auto _ : state) {
+        // Grey is the dearest of the effects.
+        TransferPicture({picture, kEdge, kEdge, kEdge * 3}, {face, kEdge, kEdge, kEdge * 3},
+                        {.ghost = true, .greyscale = true}, 0xC0C0C0);
+        benchmark::ClobberMemory();
+    }
+}
+
+void buttonRedraw(benchmark::State& state) {
+    const QtShapes shapes{programDrawings()};
+    GlintButton button{QStringLiteral("cmdShoot"), shapes, nullptr};
+    button.design().readProperties(formBags(QStringLiteral("frmPlayGame")).bag("cmdShoot"));
+    button.setFixedSize(layoutForScreenSize(2).cmdShoot.size());
+    QImage screen{button.size(), QImage::Format_RGB32};
+    for (auto _ : state) button.render(&screen);
+}
+
 const Figure kFigures[] = {
     {"fill 984 x 512 pixels", fillPixels},
     {"1,000,000 turns of the generator", turnGenerator},
@@ -144,6 +167,8 @@ const Figure kFigures[] = {
     {"new battlefield, drawn at pixel ratio 2", drawnBattlefield<2>},
     {"half step of flight: plot, show, restore", halfStep<InstantPacer>, Time::GoneBy, 60e-6},
     {"ten rounds without a screen", headlessSet, Time::Spent, 5e-3},
+    {"merging a 64 x 64 picture, grey", pictureTransfer, Time::Spent, 60e-6},
+    {"redraw of the shoot button", buttonRedraw, Time::Spent, 150e-6},
     {"one count, not held back by the clock", lateCount, Time::Spent, kCount},
     {"paced flight, of its nominal time", halfStep<QtPacer>, Time::GoneBy, 1.05, 0.98,
      FlightDelayCount(kGameSpeed) * kCount},
