@@ -87,18 +87,20 @@ void frmPlayGame::makeButtons() {
     labelRoundNumber->setAlignment(Qt::AlignCenter);
     labelRoundNumber->setProperty("role", m_layout.oneFrameAtATime ? "round-small" : "round");
 
-    cmdShoot = makeButton(QStringLiteral("cmdShoot"), m_layout.cmdShoot);
+    QtPropertyBagFile bags = formBags(QStringLiteral("frmPlayGame"));
+    cmdShoot = makeButton(QStringLiteral("cmdShoot"), m_layout.cmdShoot, bags);
     if (!m_layout.shootHasCaption) {
         cmdShoot->design().setCaption({});
         cmdShoot->design().setPictureNormal("shell " + std::to_string(m_layout.shootPicture));
         cmdShoot->setToolTip(tr(" Shoot your Artillery Piece "));
     }
-    cmdQuit = makeButton(QStringLiteral("cmdQuit"), m_layout.cmdQuit);
+    cmdQuit = makeButton(QStringLiteral("cmdQuit"), m_layout.cmdQuit, bags);
 }
 
-GlintButton* frmPlayGame::makeButton(const QString& name, const QRect& place) {
+GlintButton* frmPlayGame::makeButton(const QString& name, const QRect& place,
+                                     QtPropertyBagFile& bags) {
     auto* button = new GlintButton{name, m_shapes, this};
-    button->design().readProperties(formBags(QStringLiteral("frmPlayGame")).bag(name));
+    button->design().readProperties(bags.bag(name));
     button->setGeometry(place);
     return button;
 }

@@ -15,6 +15,7 @@ namespace skylob {
 
 class GlintButton;
 class QtInputGate;
+class QtPropertyBagFile;
 class QtSidePanel;
 class picGameField;
 struct frmPlayGameLayout;
@@ -66,7 +67,7 @@ class frmPlayGame : public QWidget, private BattleView {
 
     void makeSidePanels();
     void makeButtons();
-    GlintButton* makeButton(const QString& name, const QRect& place);
+    GlintButton* makeButton(const QString& name, const QRect& place, QtPropertyBagFile& bags);
     void makeOptions();
     QCheckBox* makeBox(const QString& caption, const QRect& place, QWidget* strip);
     void connectControls();

@@ -96,7 +96,8 @@ void GlintButton::hideEvent(QHideEvent*) {
 
 void GlintButton::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange) m_interaction.ambientChanged();
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange)
+        m_interaction.ambientChanged();
 }
 
 void GlintButton::enterEvent(QEnterEvent*) {
@@ -119,6 +120,7 @@ void GlintButton::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void GlintButton::mouseMoveEvent(QMouseEvent* event) {
+    m_entered = rect().contains(event->pos());  // no leave event comes while a button is held
     m_interaction.mouseMove(glintMouse(*event, glintButtons(event->buttons())));
 }
 

@@ -60,20 +60,12 @@ GlintProperties grey(int scheme) {
     return properties;
 }
 
+// Palettes in the order of their fields: face, hovering face, text, hovering text; shadow, light,
+// highlight, dark shadow; hot border, hot fill; mask, light face.
 TEST(RecalcColours, Scheme2TakesTheButtonsOwnColours) {
     GlintProperties properties = grey(2);
-    GlintPalette expected{.FaceColour = 0xC0C0C0,
-                          .FaceOverColour = 0x800000,
-                          .TextColour = 0x010203,
-                          .TextOverColour = 0x040506,
-                          .ShadowColour = 0x808080,
-                          .LightColour = 0xDFDFDF,
-                          .HighlightColour = 0xEFEFEF,
-                          .DarkShadowColour = 0x000000,
-                          .HotBorderColour = 0x404040,
-                          .HotFillColour = 0xC0C0C0,
-                          .MaskRGB = 0xFFFFFF,
-                          .FaceLightColour = 0xF0F0F0};
+    GlintPalette expected{0xC0C0C0, 0x800000, 0x010203, 0x040506, 0x808080, 0xDFDFDF,
+                          0xEFEFEF, 0x000000, 0x404040, 0xC0C0C0, 0xFFFFFF, 0xF0F0F0};
     EXPECT_EQ(RecalcColours(properties, {}), expected);
     properties.SoftBevel = true;
     expected.ShadowColour = 0xA0A0A0;
@@ -90,32 +82,14 @@ TEST(RecalcColours, Scheme2TakesTheButtonsOwnColours) {
 }
 
 TEST(RecalcColours, TheOtherSchemesIgnoreThem) {
-    const GlintPalette fixed{.FaceColour = 0xC0C0C0,
-                             .FaceOverColour = 0xC0C0C0,
-                             .ShadowColour = 0x808080,
-                             .LightColour = 0xDFDFDF,
-                             .HighlightColour = 0xFFFFFF,
-                             .DarkShadowColour = 0x000000,
-                             .HotBorderColour = 0x800000,
-                             .HotFillColour = 0xD1ADAD,
-                             .MaskRGB = 0xFFFFFF,
-                             .FaceLightColour = 0xF0F0F0};
+    const GlintPalette fixed{0xC0C0C0, 0xC0C0C0, 0,        0,        0x808080, 0xDFDFDF,
+                             0xFFFFFF, 0x000000, 0x800000, 0xD1ADAD, 0xFFFFFF, 0xF0F0F0};
     EXPECT_EQ(RecalcColours(grey(3), {}), fixed);
     GlintPalette system = fixed;
     system.HotFillColour = 0xD7B0B0;
     for (const int scheme : {1, 0, 5, -2}) EXPECT_EQ(RecalcColours(grey(scheme), {}), system);
-    const GlintPalette container{.FaceColour = 0x302010,
-                                 .FaceOverColour = 0x302010,
-                                 .TextColour = 0xF0E0D0,
-                                 .TextOverColour = 0xF0E0D0,
-                                 .ShadowColour = 0x000000,
-                                 .LightColour = 0x4F3F2F,
-                                 .HighlightColour = 0x5F4F3F,
-                                 .DarkShadowColour = 0x000000,
-                                 .HotBorderColour = 0x800000,
-                                 .HotFillColour = 0xD7B0B0,
-                                 .MaskRGB = 0xFFFFFF,
-                                 .FaceLightColour = 0x605040};
+    const GlintPalette container{0x302010, 0x302010, 0xF0E0D0, 0xF0E0D0, 0x000000, 0x4F3F2F,
+                                 0x5F4F3F, 0x000000, 0x800000, 0xD7B0B0, 0xFFFFFF, 0x605040};
     EXPECT_EQ(RecalcColours(grey(4), {0x302010, 0xF0E0D0}), container);
 }
 
