@@ -1,6 +1,7 @@
 #pragma once
 
 #include <map>
+#include <sstream>
 #include <string>
 #include <variant>
 #include <vector>
@@ -92,9 +93,9 @@ class GlintRig : public GlintSurface, public GlintPointer, public GlintEvents {
 
   private:
     static std::string text(const GlintMouse& mouse) {
-        return " " + std::to_string(mouse.button) + " " + std::to_string(mouse.shift) + " " +
-               std::to_string(static_cast<int>(mouse.x)) + " " +
-               std::to_string(static_cast<int>(mouse.y));
+        std::ostringstream text;
+        text << ' ' << mouse.button << ' ' << mouse.shift << ' ' << mouse.x << ' ' << mouse.y;
+        return text.str();
     }
     void note(const std::string& what) const { log.push_back(what); }
 
