@@ -35,6 +35,8 @@ TEST(GlintInteraction, ShowsNothingOfTheRightButton) {
     rig.interaction.doubleClick();
     EXPECT_EQ(rig.taken(),
               (Log{"MouseDown 2 0 30 10", "MouseMove 2 0 30 10", "MouseUp 2 0 30 10"}));
+    rig.interaction.mouseMove({1 + 2, 0, 1, 1});
+    EXPECT_EQ(rig.taken(), Log{"MouseMove 3 0 1 1"});
     // Other buttons press, but do not click.
     rig.interaction.mouseDown({4, 0, 1, 1});
     rig.interaction.click();
