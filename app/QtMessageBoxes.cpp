@@ -20,6 +20,11 @@ QMessageBox::Icon qtIcon(BoxIcon icon) {
     return QMessageBox::Information;
 }
 
+/// In a window's title "[*]" would stand for an unsaved document.
+QString plainTitle(const std::string& title) {
+    return QString::fromStdString(title).replace(QLatin1String{"[*]"}, QLatin1String{"[*][*]"});
+}
+
 /// Keeps the box over the window in use without making it that window's child, whose style
 /// sheet it would then wear.
 void placeOver(QMessageBox& box, const QWidget* window) {
@@ -34,7 +39,7 @@ BoxAnswer QtMessageBoxes::show(const MessageBox& box) {
     const bool question = box.buttons == BoxButtons::YesNo;
     // Player names are data: nothing in the text is markup.
     QMessageBox widget{qtIcon(box.icon),
-                       QString::fromStdString(box.title),
+                       plainTitle(box.title),
                        {},
                        question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok};
     widget.setTextFormat(Qt::PlainText);

@@ -1,5 +1,6 @@
 #include <QDir>
 #include <QStandardPaths>
+#include <QtGlobal>
 #include <cstdio>
 #include <cstdlib>
 #include <string_view>
@@ -35,6 +36,14 @@ bool hasDisplay() {
     return false;
 }
 
+/// While the toolkit starts: what it has to say is worth a line only when it gives up, and then
+/// one line is enough.
+void endWhereThereIsNoDisplay(QtMsgType type, const QMessageLogContext&, const QString&) {
+    if (type != QtFatalMsg) return;
+    std::fputs("skylob: the display cannot be used\n", stderr);
+    std::_Exit(EXIT_FAILURE);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -57,6 +66,8 @@ int main(int argc, char** argv) {
     if (!enterDataFolder(commandLine)) return kUnusableArguments;
     if (!hasDisplay()) return EXIT_FAILURE;
     int toolkitArguments = 1;  // the arguments are ours alone
+    const auto usualHandler = qInstallMessageHandler(endWhereThereIsNoDisplay);
     skylob::Application application{toolkitArguments, argv, commandLine};
+    qInstallMessageHandler(usualHandler);
     return application.run();
 }

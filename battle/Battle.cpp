@@ -62,11 +62,19 @@ void Battle::GenerateBattlefield() {
     m_ports.view.showCursor(BattleCursor::Hourglass);
     m_ports.view.holdInput();
     generateBattlefield(m_state.field, m_ports.random, m_state.RoundNumber, m_shared.NumRounds);
-    redrawField();
+    m_starWidth = m_picture.penWidth();
+    drawField();
     m_ports.view.showCursor(BattleCursor::Normal);
 }
 
 void Battle::redrawField() {
+    const int penWidth = m_picture.penWidth();
+    m_picture.setPenWidth(m_starWidth);
+    drawField();
+    m_picture.setPenWidth(penWidth);
+}
+
+void Battle::drawField() {
     const int groundLineWidth = m_ports.view.displayWidth() <= 800 ? 1 : 2;
     drawBattlefield(m_state.field, m_picture, groundLineWidth);
     m_ports.view.showField();

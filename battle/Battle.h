@@ -59,6 +59,7 @@ class Battle {
     void StartRound();
     void chooseFirstShooter();
     void GenerateBattlefield();
+    void drawField();
     void BeginTurn();
     void loseWithoutMen();
     void fire();
@@ -80,6 +81,7 @@ class Battle {
     BattleControls m_controls;
     ComputerOpponent m_computer;
     std::vector<Shot> m_shots;
+    int m_starWidth = 1;  ///< the pen width that this round's stars were drawn with
     bool m_activated = false;
 };
 

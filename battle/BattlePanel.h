@@ -16,7 +16,7 @@ struct ScrollBar {
 struct SidePanel {
     ScrollBar scrollSpeed{100, 999, 10};
     ScrollBar scrollAngle{10, 90, 5};
-    std::string labelSpeed, labelAngle, labelMenLeft;
+    std::string labelSpeed = "Speed: 100", labelAngle = "Angle:   10", labelMenLeft;
     int menLeft = 0;       ///< what labelMenLeft says, for a gauge beside it
     bool enabled = false;  ///< the frame and everything in it
 };
@@ -27,7 +27,7 @@ struct BattlePanel {
     int turn = 0;  ///< the side whose turn is marked, 0 before the first turn
 
     ScrollBar scrollGameSpeed{1, 99, 10};
-    std::string labelGameSpeed, labelRoundNumber;
+    std::string labelGameSpeed = "Game Speed: 1", labelRoundNumber;
 
     bool chkSound = false, chkTrajectory = false, chkMeteors = false;
     bool chkLightning = false, chkWind = false;

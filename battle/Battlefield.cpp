@@ -176,7 +176,6 @@ void drawBattlefield(const Battlefield& field, FieldPicture& picture, int ground
         picture.verticalLine(x, 1, field.heightAt(x), field.groundColour);
         picture.verticalLine(mirrored, 1, field.heightAt(mirrored), field.groundColour);
     }
-    picture.setPenWidth(1);
     for (const int side : {1, 2}) picture.placePiece(side, field.PieceX[side], field.PieceY[side]);
     picture.refresh();
 }

@@ -50,8 +50,9 @@ Colour TerrainColours(int number);
 /// `random` in a fixed order, so that a seed makes a battlefield.
 void generateBattlefield(Battlefield& field, RandomSource& random, int roundNumber, int numRounds);
 
-/// Draws the battlefield as the persistent picture, with the two pieces standing on it.
-/// `groundLineWidth` is the pen width of the ground's columns.
+/// Draws the battlefield as the persistent picture, with the two pieces standing on it. The stars
+/// have the picture's present pen width; the ground's columns have `groundLineWidth`, which stays
+/// the pen's width afterwards.
 void drawBattlefield(const Battlefield& field, FieldPicture& picture, int groundLineWidth);
 
 }  // namespace skylob

@@ -41,8 +41,6 @@ class QtSidePanel : public QGroupBox {
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    void setCaption(const QString& caption);
-
     int m_side;
     bool m_isTurn = false;
     QLabel *m_labelSpeed, *m_labelAngle, *m_labelMenLeft;

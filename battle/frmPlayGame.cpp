@@ -11,6 +11,8 @@
 #include <QShortcut>
 #include <QSignalBlocker>
 #include <QWindow>
+#include <algorithm>
+#include <utility>
 
 #include "app/QtLook.h"
 #include "battle/QtInputGate.h"
@@ -191,7 +193,10 @@ void frmPlayGame::Form_Activate() {
 }
 
 void frmPlayGame::fitField() {
-    if (m_field->fitPicture() && m_battle.state().RoundNumber > 0) m_battle.redrawField();
+    const bool refitted = m_field->fitPicture();
+    const int width = displayWidth();
+    const bool anotherDisplay = std::exchange(m_displayWidth, width) != width;
+    if ((refitted || anotherDisplay) && m_battle.state().RoundNumber > 0) m_battle.redrawField();
 }
 
 void frmPlayGame::showEvent(QShowEvent* event) {
@@ -199,6 +204,7 @@ void frmPlayGame::showEvent(QShowEvent* event) {
     fitField();
     // What is not in the persistent picture, such as a shell's trail, is lost with the window.
     m_battle.picture().refresh();
+    m_field->update();
     connect(windowHandle(), &QWindow::screenChanged, this, &frmPlayGame::fitField,
             Qt::UniqueConnection);
     queue([this] { Form_Activate(); });
@@ -206,7 +212,7 @@ void frmPlayGame::showEvent(QShowEvent* event) {
 
 void frmPlayGame::closeEvent(QCloseEvent* event) {
     event->ignore();
-    if (!m_gate->isClosed()) m_battle.controls().cmdQuit_Click();
+    m_battle.controls().cmdQuit_Click();
 }
 
 void frmPlayGame::paintEvent(QPaintEvent* event) {

@@ -91,6 +91,7 @@ class frmPlayGame : public QWidget, private BattleView {
     QScrollBar* scrollGameSpeed;
     GlintButton *cmdShoot, *cmdQuit;
     QCheckBox *chkSound, *chkTrajectory, *chkMeteors, *chkLightning, *chkWind;
+    int m_displayWidth = 0;  ///< that the field was drawn for
     bool m_focusStaysOnShoot = false;
 };
 

@@ -5,7 +5,7 @@
 #include <QPainter>
 #include <QToolTip>
 #include <algorithm>
-#include <cstring>
+#include <utility>
 
 #include "app/QtShapes.h"
 

@@ -1,12 +1,13 @@
 #include "controls/GlintButton.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QCursor>
 #include <QFontMetrics>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QShortcutEvent>
-#include <utility>
+#include <algorithm>
 
 #include "controls/GlintButtonInput.h"
 #include "controls/GlintButtonPictures.h"
@@ -39,7 +40,6 @@ GlintButton::GlintButton(const QString& name, const QtShapes& shapes, QWidget* p
     setObjectName(name);
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
-    setAttribute(Qt::WA_OpaquePaintEvent);
     OverTimer.setInterval(kOverInterval);
     OverTimer.setTimerType(Qt::PreciseTimer);
     connect(&OverTimer, &QTimer::timeout, this, [this] { m_interaction.overTimerTick(); });
@@ -79,7 +79,9 @@ void GlintButton::paintEvent(QPaintEvent*) {
                              .picture = shownPicture(),
                              .backdrop = m_backdrop,
                              .ratio = devicePixelRatioF()};
-    QPainter{this}.drawImage(rect(), paintGlintButton(canvas));
+    QImage image = paintGlintButton(canvas);
+    image.setDevicePixelRatio(canvas.ratio);
+    QPainter{this}.drawImage(0, 0, image);
 }
 
 void GlintButton::resizeEvent(QResizeEvent*) {
@@ -91,6 +93,7 @@ void GlintButton::showEvent(QShowEvent*) {
 }
 
 void GlintButton::hideEvent(QHideEvent*) {
+    m_pressedButton = Qt::NoButton;
     m_interaction.hide();
 }
 
@@ -98,6 +101,7 @@ void GlintButton::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange)
         m_interaction.ambientChanged();
+    if (event->type() == QEvent::EnabledChange) m_pressedButton = Qt::NoButton;
 }
 
 void GlintButton::enterEvent(QEnterEvent*) {
@@ -109,12 +113,13 @@ void GlintButton::leaveEvent(QEvent*) {
 }
 
 void GlintButton::mousePressEvent(QMouseEvent* event) {
-    m_clickPending = true;
+    m_pressedButton = event->button();
     m_interaction.mouseDown(glintMouse(*event, glintButton(event->button())));
 }
 
 void GlintButton::mouseReleaseEvent(QMouseEvent* event) {
-    const bool clicked = std::exchange(m_clickPending, false) && rect().contains(event->pos());
+    const bool clicked = event->button() == m_pressedButton && rect().contains(event->pos());
+    if (event->button() == m_pressedButton) m_pressedButton = Qt::NoButton;
     m_interaction.mouseUp(glintMouse(*event, glintButton(event->button())));
     if (clicked) m_interaction.click();
 }
@@ -155,6 +160,16 @@ void GlintButton::paint(int state, bool) {
     m_drawnState = state;
     m_drawnOver = m_state.IsOver;
     update();
+    tellScreenReaders();
+}
+
+void GlintButton::tellScreenReaders() {
+    if (m_state.Value == m_toldValue) return;
+    m_toldValue = m_state.Value;
+    QAccessible::State changed;
+    changed.checked = true;
+    QAccessibleStateChangeEvent event{this, changed};
+    QAccessible::updateAccessibility(&event);
 }
 
 void GlintButton::propertyChanged(std::string_view key) {
@@ -202,7 +217,12 @@ void GlintButton::setMouseIcon(const PictureReference& picture) {
 }
 
 void GlintButton::updateMousePointer() {
-    const QImage icon = glintPicture(m_mouseIcon, m_shapes, devicePixelRatioF());
+    if (m_pointerShape == 0) {
+        unsetCursor();  // whatever the form shows
+        return;
+    }
+    QImage icon = glintPicture(m_mouseIcon, m_shapes, devicePixelRatioF());
+    icon.setDevicePixelRatio(devicePixelRatioF());
     setCursor(glintCursor(m_pointerShape, icon));
 }
 
@@ -210,6 +230,8 @@ void GlintButton::setAccessKeyFrom(const std::string& caption) {
     if (m_shortcut != 0) releaseShortcut(m_shortcut);
     const auto key = QKeySequence::mnemonic(QString::fromStdString(caption));
     m_shortcut = key.isEmpty() ? 0 : grabShortcut(key);
+    QAccessibleEvent renamed{this, QAccessible::NameChanged};
+    QAccessible::updateAccessibility(&renamed);
 }
 
 GlintSize GlintButton::measurePicture(const PictureReference& picture) const {
@@ -246,7 +268,8 @@ void GlintButton::captureBackground() {
 }
 
 bool GlintButton::IsPointerInside() const {
-    return isPointerPlaceKnown() ? QApplication::widgetAt(QCursor::pos()) == this : m_entered;
+    return isPointerPlaceKnown() ? QApplication::widgetAt(QCursor::pos()) == this
+                                 : m_entered && isVisible();
 }
 
 void GlintButton::runOverTimer(bool run) {

@@ -98,7 +98,7 @@ class GlintButton : public QWidget,
     bool IsPointerInside() const override;
     bool isOverTimerRunning() const override { return OverTimer.isActive(); }
     void runOverTimer(bool run) override;
-    void captureMouse() override { m_clickPending = true; }
+    void captureMouse() override { m_pressedButton = Qt::LeftButton; }
 
     void raiseClick() override { emit Click(); }
     void raiseMouseDown(const GlintMouse& mouse) override { emit MouseDown(mouse); }
@@ -114,6 +114,7 @@ class GlintButton : public QWidget,
     QFont qFont() const;
     QImage shownPicture() const;
     void updateMousePointer();
+    void tellScreenReaders();
 
     GlintState m_state;
     const QtShapes& m_shapes;
@@ -127,8 +128,9 @@ class GlintButton : public QWidget,
     int m_shortcut = 0;
     int m_drawnState = kStateUp;
     bool m_drawnOver = false;
+    bool m_toldValue = false;  ///< what screen readers know of Value
     bool m_entered = false;
-    bool m_clickPending = false;
+    Qt::MouseButton m_pressedButton = Qt::NoButton;  ///< whose release makes a click
 };
 
 }  // namespace skylob

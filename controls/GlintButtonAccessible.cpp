@@ -54,10 +54,10 @@ QStringList GlintButtonAccessible::actionNames() const {
 }
 
 void GlintButtonAccessible::doAction(const QString& name) {
-    if (name == pressAction())
-        button()->press();
-    else
+    if (name != pressAction())
         QAccessibleWidget::doAction(name);
+    else if (button()->isEnabled() && button()->isVisible())
+        button()->press();
 }
 
 }  // namespace skylob

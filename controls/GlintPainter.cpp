@@ -31,6 +31,8 @@ QColor withAlpha(QColor colour, int alpha) {
 /// The colours of one drawing: the palette as hovering, being disabled and so on change it.
 struct Shades {
     QColor face, text, highlight, light, shadow, darkShadow, hotBorder, faceLight, flat;
+    QColor onHighlight;  // what a toggled-on face leans to
+    QColor bevelFace;    // what a bevel line that is softened leans to
 
     explicit Shades(const GlintCanvas& canvas) {
         const GlintPalette& palette = canvas.button.palette;
@@ -44,6 +46,8 @@ struct Shades {
         hotBorder = toQColor(palette.HotBorderColour);
         faceLight = toQColor(palette.FaceLightColour);
         flat = mix(toQColor(palette.FaceColour), hotBorder, 0.55);
+        onHighlight = highlight;
+        bevelFace = canvas.enabled ? face : flat;
         if (hover) highlight = mix(highlight, Qt::white, 0.25);
         if (!canvas.enabled) {
             highlight = mix(light, flat, 0.4);
@@ -66,10 +70,10 @@ class Drawing {
           m_height{qRound(m_button.client.height * canvas.ratio)},
           m_pressed{canvas.state == kStatePressed},
           m_on{m_button.Value && m_button.CheckBoxBehaviour && !m_pressed},
-          m_image{m_width, m_height, QImage::Format_RGB32} {}
+          m_image{m_width, m_height, QImage::Format_ARGB32_Premultiplied} {}
 
     QImage run() {
-        m_image.fill(m_shades.darkShadow);
+        m_image.fill(Qt::transparent);
         m_painter.begin(&m_image);
         drawFace();
         m_painter.end();
@@ -127,15 +131,15 @@ class Drawing {
         const QColor top = isSunken() ? s.shadow : s.highlight;
         const QColor low = isSunken() ? s.light : s.shadow;
         fill({2 * u, u, m_width - 4 * u, u}, top);
-        fill({u, 2 * u, u, m_height - 4 * u}, mix(top, s.face, 0.45));
+        fill({u, 2 * u, u, m_height - 4 * u}, mix(top, s.bevelFace, 0.45));
         fill({2 * u, bottom - u, m_width - 4 * u, u}, low);
-        fill({right - u, 2 * u, u, m_height - 4 * u}, mix(low, s.face, 0.35));
+        fill({right - u, 2 * u, u, m_height - 4 * u}, mix(low, s.bevelFace, 0.35));
     }
 
     void drawGlassFace() {
         const Shades& s = m_shades;
         const QRect all{0, 0, m_width, m_height};
-        if (!m_canvas.backdrop.isNull()) m_painter.drawImage(all, m_canvas.backdrop);
+        if (!m_canvas.backdrop.isNull()) m_painter.drawImage(0, 0, m_canvas.backdrop);
         const int u = m_line;
         fill(all.adjusted(u, u, -u, -u), glassTint());
         const QColor black = withAlpha(Qt::black, 70), gleam = withAlpha(s.highlight, 120);
@@ -155,14 +159,17 @@ class Drawing {
 
     void drawDroppedFace() {
         const Shades& s = m_shades;
-        // The drop is what the picture was filled with; a pressed body covers it.
         QRect body{0, 0, m_width - m_line, m_height - m_line};
-        if (m_pressed) body.translate(m_line, m_line);
+        const QRect drop = body.translated(m_line, m_line);
+        if (m_pressed)
+            body = drop;
+        else
+            fill(drop, s.darkShadow);
         fillGradient(body);
         if (isSunken())
-            drawBevels(body, {s.darkShadow, s.light}, {s.shadow, mix(s.light, s.face, 0.5)});
+            drawBevels(body, {s.darkShadow, s.light}, {s.shadow, mix(s.light, s.bevelFace, 0.5)});
         else
-            drawBevels(body, {s.highlight, s.shadow}, {s.light, mix(s.shadow, s.face, 0.5)});
+            drawBevels(body, {s.highlight, s.shadow}, {s.light, mix(s.shadow, s.bevelFace, 0.5)});
     }
 
     void fillGradient(const QRect& area) {
@@ -174,8 +181,8 @@ class Drawing {
             top = mix(s.face, s.hotBorder, 0.22);
             bottom = mix(s.face, s.hotBorder, 0.08);
         } else if (m_on) {
-            top = mix(s.face, s.highlight, 0.30);
-            bottom = mix(s.face, s.highlight, 0.55);
+            top = mix(s.face, s.onHighlight, 0.30);
+            bottom = mix(s.face, s.onHighlight, 0.55);
         }
         const int last = std::max(1, area.height() - 1);
         for (int y = 0; y < area.height(); ++y) {

@@ -25,6 +25,8 @@ std::optional<std::int32_t> wholeNumber(const QJsonValue& value) {
 std::optional<GlintFont> font(const QJsonValue& value) {
     const QJsonObject object = value.toObject();
     if (!object["name"].isString() || !object["size"].isDouble()) return std::nullopt;
+    for (const char* flag : {"bold", "italic", "underline"})
+        if (object.contains(QLatin1String{flag}) && !object[flag].isBool()) return std::nullopt;
     return GlintFont{.name = object["name"].toString().toStdString(),
                      .size = static_cast<float>(object["size"].toDouble()),
                      .bold = object["bold"].toBool(),
@@ -37,10 +39,10 @@ std::optional<GlintFont> font(const QJsonValue& value) {
 QtPropertyBagFile::QtPropertyBagFile(const QByteArray& json, const QString& name) : m_name{name} {
     QJsonParseError error{};
     const QJsonDocument document = QJsonDocument::fromJson(json, &error);
-    if (document.isObject())
-        m_controls = document.object();
-    else
-        report(QStringLiteral("no controls: ") + error.errorString());
+    m_controls = document.object();
+    if (!document.isObject()) report(QStringLiteral("no controls: ") + error.errorString());
+    for (auto control = m_controls.begin(); control != m_controls.end(); ++control)
+        if (!control.value().isObject()) report(control.key() + QStringLiteral(" is no control"));
 }
 
 QByteArray QtPropertyBagFile::toJson() const {

@@ -145,9 +145,10 @@ TEST(Quit, StaysOnNo) {
     const auto rig = startedRig();
     rig->shoot(100, 90);
     rig->boxes.answers = {BoxAnswer::No};
-    rig->clock.time = at(99);
     rig->controls().chkSound_Click(true);
+    rig->clock.time = at(99);
     rig->controls().cmdQuit_Click();
+    EXPECT_EQ(rig->battle.state().TurnStartTime, at(99));
     ASSERT_EQ(rig->boxes.shown.size(), 1u);
     EXPECT_EQ(rig->boxes.shown[0].title, "Skylob");
     EXPECT_EQ(rig->boxes.shown[0].text, "Are you sure you want to quit this set?");
@@ -194,6 +195,14 @@ TEST(Quit, LetsNoSecondCommandInAtItsYield) {
     rig->controls().cmdQuit_Click();
     EXPECT_EQ(rig->log, (Log{"yield", "close"}));
     EXPECT_TRUE(rig->battle.shots().empty());
+}
+
+TEST(Options, ShowEvenTheSlowestSpeed) {
+    BattleRig rig;
+    rig.settings.save("GameSpeed", "1");  // where the bar stands by itself
+    rig.start();
+    EXPECT_EQ(rig.panel().labelGameSpeed, "Game Speed: 1");
+    EXPECT_EQ(rig.shared.GameSpeed, 1);
 }
 
 TEST(Options, AreRestoredWithTheirDefaults) {

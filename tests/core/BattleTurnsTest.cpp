@@ -193,6 +193,52 @@ TEST(Shot, DisablesEverythingAndHoldsInput) {
     EXPECT_TRUE(rig.panel().timerLightning);
 }
 
+TEST(Shot, IsPacedByTheGameSpeedAndTracedOnDemand) {
+    BattleRig rig;
+    FieldPicture& picture = rig.battle.picture();
+    picture.resize(1000, 1000, 1);
+    rig.random.script({0});
+    rig.start();
+    rig.controls().setGameSpeed(60);
+    for (const bool traced : {false, true}) {
+        rig.controls().chkTrajectory_Click(traced);
+        const int side = rig.battle.state().Shooter;
+        rig.fire(kOutOfBounds.speed, kOutOfBounds.angle);
+        EXPECT_EQ(rig.pacer.counts.at(1), 19'500'001);
+        // Its muzzle is 8 above the ground, and it climbs from there.
+        const bool left = picture.pixel(side == 1 ? 163 : 863, side == 1 ? 113 : 36) != kBlack;
+        EXPECT_EQ(left, traced);
+    }
+    rig.fire(kMiss.speed, kMiss.angle);
+    EXPECT_EQ(rig.pacer.counts.at(1), 19'500'001);  // of the explosion
+}
+
+TEST(Shot, StopsOnlyTimersWhoseBoxesAreTicked) {
+    BattleRig rig;
+    rig.start();
+    rig.controls().chkMeteors_Click(false);  // the timer goes on: the lightning box is ticked
+    rig.view.onShowField = [&] {
+        EXPECT_TRUE(rig.panel().timerMeteors);
+        EXPECT_FALSE(rig.panel().timerLightning);
+    };
+    rig.fire(100, 75);
+    rig.view.onShowField = {};
+    rig.controls().chkLightning_Click(false);
+    rig.controls().chkMeteors_Click(true);
+    rig.fire(100, 75);
+    EXPECT_TRUE(rig.panel().timerMeteors);
+    EXPECT_FALSE(rig.panel().timerLightning);
+}
+
+TEST(Ground, IsDrawnForTheDisplaysWidth) {
+    for (const int width : {800, 801}) {
+        BattleRig rig;
+        rig.view.width = width;
+        rig.start();
+        EXPECT_EQ(rig.battle.picture().penWidth(), width == 800 ? 1 : 2);
+    }
+}
+
 TEST(LastRound, EndsTheSet) {
     BattleRig rig{"Bob", 1};
     rig.random.script({0});

@@ -119,6 +119,9 @@ TEST(FieldPicture, TellsWhatHasChanged) {
     EXPECT_EQ(picture.takeDirty(), (PixelRect{10, 10, 12, 12}));
     picture.putBack(picture.liftPoint(11, 990));
     EXPECT_EQ(picture.takeDirty(), (PixelRect{10, 10, 2, 2}));
+    picture.setPenWidth(4);
+    picture.setPoint(11, 990, kRed);
+    EXPECT_EQ(picture.takeDirty(), (PixelRect{7, 7, 8, 8}));
 }
 
 }  // namespace

@@ -26,9 +26,9 @@ TEST(GlintDesign, SetsOffItsEffectsInOrder) {
     };
     const std::string redraw = "Redraw(2, true)", normal = "Redraw(0, true)";
     for (const Row& row : std::initializer_list<Row>{
-             {"BackColor", [](auto& d) { d.setBackColor(1); }, {redraw, "mark BCOL"}},
+             {"BackColor", [](auto& d) { d.setBackColor(1); }, {"palette", redraw, "mark BCOL"}},
              {"BackOver", [](auto& d) { d.setBackOver(1); }, {redraw, "mark BCOLO"}},
-             {"ForeColor", [](auto& d) { d.setForeColor(1); }, {redraw, "mark FCOL"}},
+             {"ForeColor", [](auto& d) { d.setForeColor(1); }, {"palette", redraw, "mark FCOL"}},
              {"ForeOver", [](auto& d) { d.setForeOver(1); }, {redraw, "mark FCOLO"}},
              {"MaskColor", [](auto& d) { d.setMaskColor(1); }, {redraw, "mark MCOL"}},
              {"ButtonType",
@@ -49,10 +49,12 @@ TEST(GlintDesign, SetsOffItsEffectsInOrder) {
               {"font", "layout", redraw}},
              {"FontSize", [](auto& d) { d.setFontSize(9); }, {"font", "layout", redraw}},
              {"FontName", [](auto& d) { d.setFontName("x"); }, {"font", "layout", redraw}},
-             {"ColorScheme", [](auto& d) { d.setColorScheme(3); }, {normal, "mark COLTYPE"}},
+             {"ColorScheme",
+              [](auto& d) { d.setColorScheme(3); },
+              {"palette", normal, "mark COLTYPE"}},
              {"ShowFocusRect", [](auto& d) { d.setShowFocusRect(true); }, {"mark FOCUSR"}},
-             {"MousePointer", [](auto& d) { d.setMousePointer(2); }, {"mark MPTR"}},
-             {"MouseIcon", [](auto& d) { d.setMouseIcon("x"); }, {"mark MICON"}},
+             {"MousePointer", [](auto& d) { d.setMousePointer(2); }, {"pointer", "mark MPTR"}},
+             {"MouseIcon", [](auto& d) { d.setMouseIcon("x"); }, {"icon", "mark MICON"}},
              {"SoftBevel", [](auto& d) { d.setSoftBevel(true); }, {redraw, "mark SOFT"}},
              {"UseMaskColor without a picture",
               [](auto& d) { d.setUseMaskColor(true); },
@@ -63,7 +65,7 @@ TEST(GlintDesign, SetsOffItsEffectsInOrder) {
              {"PictureOver while away", [](auto& d) { d.setPictureOver("x"); }, {"mark PICO"}},
              {"PictureNormal",
               [](auto& d) { d.setPictureNormal("x"); },
-              {"layout", redraw, "mark PICN"}},
+              {"measure", "layout", redraw, "mark PICN"}},
              {"PicturePosition",
               [](auto& d) { d.setPicturePosition(1); },
               {"mark PICPOS", "layout", redraw}},
@@ -139,7 +141,7 @@ TEST(GlintDesign, PlacesANewButtonBlackOnBlack) {
     EXPECT_EQ(b.BackColor | b.BackOver | b.ForeColor | b.ForeOver, 0u);
     EXPECT_EQ(b.MaskColor, 0xC0C0C0u);
     EXPECT_EQ(b.palette.MaskRGB, 0u);
-    EXPECT_EQ(rig.taken(), (Log{"font", "layout"}));
+    EXPECT_EQ(rig.taken(), (Log{"font", "palette", "layout"}));
 }
 
 TEST(GlintDesign, ReadsAnEmptyBagWithItsDefaults) {
@@ -158,7 +160,8 @@ TEST(GlintDesign, ReadsAnEmptyBagWithItsDefaults) {
     EXPECT_EQ(b.ForeColor | b.ForeOver, 0u);
     EXPECT_EQ(b.MaskColor, 0xC0C0C0u);
     EXPECT_EQ(rig.surfaceFont.name, "Ambient");
-    EXPECT_EQ(rig.taken(), (Log{"font", "enabled", "layout", "access key"}));
+    EXPECT_EQ(rig.taken(),
+              (Log{"font", "pointer", "icon", "enabled", "measure", "layout", "access key"}));
     EXPECT_EQ(b.palette, GlintPalette{});
 }
 

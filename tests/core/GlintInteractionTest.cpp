@@ -121,7 +121,8 @@ TEST(GlintInteraction, RedrawsForFocusAndColoursAsItIs) {
     rig.interaction.lostFocus();
     EXPECT_FALSE(rig.button.HasFocus);
     rig.interaction.ambientChanged();
-    EXPECT_EQ(rig.taken(), (Log{"Redraw(2, true)", "Redraw(2, true)", "Redraw(2, true)"}));
+    EXPECT_EQ(rig.taken(),
+              (Log{"Redraw(2, true)", "Redraw(2, true)", "palette", "Redraw(2, true)"}));
     EXPECT_EQ(rig.button.palette.FaceColour, 0xC0C0C0u);
 }
 
@@ -130,7 +131,7 @@ TEST(GlintInteraction, ShowsUpWithAPaletteOfItsOwn) {
     rig.button.ColorScheme = 4;
     rig.button.currentState = kStatePressed;
     rig.interaction.show();
-    EXPECT_EQ(rig.taken(), (Log{"Redraw(0, true)"}));
+    EXPECT_EQ(rig.taken(), (Log{"palette", "Redraw(0, true)"}));
     EXPECT_EQ(rig.button.palette.FaceColour, 0x302010u);
     rig.timerRuns = true;
     rig.interaction.hide();
@@ -138,7 +139,7 @@ TEST(GlintInteraction, ShowsUpWithAPaletteOfItsOwn) {
     EXPECT_TRUE(rig.timerRuns);
     rig.button.ButtonType = 11;
     rig.interaction.show();  // the resize that the capture causes has no effect
-    EXPECT_EQ(rig.taken(), (Log{"capture background", "Redraw(0, true)"}));
+    EXPECT_EQ(rig.taken(), (Log{"capture background", "palette", "Redraw(0, true)"}));
     EXPECT_TRUE(rig.button.IsShown);
     EXPECT_FALSE(rig.button.CaptureBusy);
 }

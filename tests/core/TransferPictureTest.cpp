@@ -35,8 +35,9 @@ TEST(TransferPicture, HasItsEffects) {
     EXPECT_EQ(transferred({129, 128, 128}, face, {.darkOnly = true}), face);
     EXPECT_EQ(transferred({30, 20, 10}, face, {.ghost = true, .greyscale = true}),
               (Bytes{18, 18, 18}));
-    // Red 15 * 0.3 = 4.5 rounds to 4 by itself, 4 + 0.59 = 4.59 to 5; in one sum 5.09 would, too;
-    // red 5 * 0.3 = 1.5 to 2, 2 + 0.59 = 2.59 to 3, where one sum of 2.09 gives 2.
+    // Red 15 * 0.3 = 4.5 goes to 4. Red 5 * 0.3 = 1.5 goes to 2 by itself, 2 + 0.59 = 2.59 to 3,
+    // where one sum of 2.09 would give 2.
+    EXPECT_EQ(transferred({0, 0, 15}, face, {.ghost = true, .greyscale = true}), (Bytes{4, 4, 4}));
     EXPECT_EQ(transferred({0, 1, 5}, face, {.ghost = true, .greyscale = true}), (Bytes{3, 3, 3}));
     EXPECT_EQ(transferred({255, 255, 255}, face, {.ghost = true, .blend = true}),
               (Bytes{170, 170, 170}));

@@ -38,5 +38,6 @@ expect 2 --data-dir file
 expect 2 --data-dir file/below
 expect 1 --data-dir new/folder # nothing to show it on, but the folder is made
 [[ -d new/folder ]] || fail "--data-dir makes no folder"
+DISPLAY=:9999 XDG_RUNTIME_DIR=$work expect 1
 XDG_DATA_HOME=$work/own expect 1 --user-data
 [[ -d own/Skylob ]] || fail "--user-data makes no folder"

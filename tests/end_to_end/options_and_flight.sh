@@ -11,6 +11,8 @@ printf '[Defaults]\nGameSpeed=20\nSoundSetting=maybe\n' >"$settings"
 start_display
 start_game --seed 5
 before=0
+import -window "$(window "Skylob - Battlefield")" "$work/idle.png"
+(($(pixels_of "$work/idle.png" '#F2B92E') > 0)) || fail "the shoot button is not golden"
 battle alt+s
 for i in 1 2 3; do
     sleep 0.6
@@ -18,6 +20,8 @@ for i in 1 2 3; do
     red=$(pixels_of "$work/flight$i.png" '#FF0000')
     ((red > before)) || fail "the trail does not grow in flight: $red pixels after $before"
     before=$red
+    # The shoot button has lost its gold.
+    (($(pixels_of "$work/flight$i.png" '#F2B92E') == 0)) || fail "the controls look usable in flight"
 done
 # Pressed in flight: neither leaves the set nor fires again.
 battle Escape alt+s

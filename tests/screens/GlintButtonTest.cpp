@@ -196,6 +196,24 @@ class GlintButtonTest : public QObject {
         QCOMPARE(qGreen(form.faceColour()), 0);
     }
 
+    void greysAndBlendsItsPicture() {
+        Form form;
+        form.first.design().setCaption("");
+        form.first.design().setPictureNormal("ok 16");  // #E8FDFF at 48, 23
+        const auto middle = [&] { return QColor{form.first.grab().toImage().pixel(48, 23)}; };
+        QCOMPARE(middle(), QColor{0xE8FDFF});
+        form.first.design().setUseGreyscale(true);
+        QCOMPARE(middle(), QColor(247, 247, 247));  // 70 + 149.27 + 28.05
+        form.moveTo(form.first, {5, 20});
+        QCOMPARE(middle(), QColor{0xE8FDFF});
+        form.moveTo(form.second, {5, 5});
+        form.first.design().setUseGreyscale(false);
+        form.first.design().setEnabled(false);
+        const QColor blended = middle();  // over a dark face, and under the veil
+        QVERIFY(blended.green() > 40 && blended.green() < 200);
+        QVERIFY(blended.red() < blended.blue());
+    }
+
     void tellsScreenReaders() {
         GlintButtonAccessible::install();
         Form form;

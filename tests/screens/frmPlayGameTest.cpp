@@ -140,8 +140,7 @@ class frmPlayGameTest : public QObject {
                                         Qt::LeftButton, Qt::LeftButton, {}));
                 }
             }
-            QCoreApplication::postEvent(screen.form.get(),
-                                        new QKeyEvent(QEvent::KeyPress, Qt::Key_Escape, {}));
+            QTest::keyClick(screen.form.get(), Qt::Key_Escape);
             QVERIFY(!screen.form->close());
         };
         QTest::mouseClick(shoot, Qt::LeftButton);

@@ -107,6 +107,7 @@ class RecordingView : public HeadlessView {
     void showField() override {
         if (onShowField) onShowField();
     }
+    int displayWidth() const override { return width; }
     void holdInput() override { inputHeld = true; }
     void releaseInput() override {
         inputHeld = false;
@@ -129,6 +130,7 @@ class RecordingView : public HeadlessView {
 
     std::function<void()> onShowField;
     bool inputHeld = false;
+    int width = 1024;
 
   private:
     Log& m_log;

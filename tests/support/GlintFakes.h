@@ -26,7 +26,10 @@ class GlintRig : public GlintSurface, public GlintPointer, public GlintEvents {
     bool isUserMode() const override { return userMode; }
     std::string displayName() const override { return "cmdNew"; }
     GlintFont ambientFont() const override { return {.name = "Ambient", .size = 13}; }
-    ContainerColours containerColours() const override { return {0x302010, 0xFFFFFF}; }
+    ContainerColours containerColours() const override {
+        note("palette");
+        return {0x302010, 0xFFFFFF};
+    }
     GlintFont font() const override { return surfaceFont; }
     void setFont(const GlintFont& font) override {
         note("font");
@@ -34,11 +37,18 @@ class GlintRig : public GlintSurface, public GlintPointer, public GlintEvents {
     }
     void setEnabled(bool enabled) override { note(enabled ? "enabled" : "disabled"); }
     std::int16_t mousePointer() const override { return pointerShape; }
-    void setMousePointer(std::int16_t shape) override { pointerShape = shape; }
+    void setMousePointer(std::int16_t shape) override {
+        note("pointer");
+        pointerShape = shape;
+    }
     PictureReference mouseIcon() const override { return icon; }
-    void setMouseIcon(const PictureReference& picture) override { icon = picture; }
+    void setMouseIcon(const PictureReference& picture) override {
+        note("icon");
+        icon = picture;
+    }
     void setAccessKeyFrom(const std::string&) override { note("access key"); }
     GlintSize measurePicture(const PictureReference& picture) const override {
+        note("measure");
         return picture.empty() ? GlintSize{} : GlintSize{16, 12};
     }
     GlintRect measureCaption(const std::string& caption, const GlintRect& bounds) const override {
