@@ -24,7 +24,11 @@ Application::Application(int& argc, char** argv, const CommandLine& commandLine)
 Application::~Application() = default;
 
 int Application::run() {
-    showBattle();
+    try {
+        showBattle();
+    } catch (const std::exception& error) {
+        fail(error.what());
+    }
     return exec();
 }
 

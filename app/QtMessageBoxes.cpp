@@ -25,6 +25,14 @@ QString plainTitle(const std::string& title) {
     return QString::fromStdString(title).replace(QLatin1String{"[*]"}, QLatin1String{"[*][*]"});
 }
 
+/// The program's window in use, or any of its windows while another program is in use.
+const QWidget* windowInUse() {
+    if (const QWidget* active = QApplication::activeWindow()) return active;
+    for (const QWidget* widget : QApplication::topLevelWidgets())
+        if (widget->isVisible()) return widget;
+    return nullptr;
+}
+
 /// Keeps the box over the window in use without making it that window's child, whose style
 /// sheet it would then wear.
 void placeOver(QMessageBox& box, const QWidget* window) {
@@ -44,7 +52,7 @@ BoxAnswer QtMessageBoxes::show(const MessageBox& box) {
                        question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok};
     widget.setTextFormat(Qt::PlainText);
     widget.setText(QString::fromStdString(box.text).remove(QLatin1Char{'\r'}));
-    placeOver(widget, QApplication::activeWindow());
+    placeOver(widget, windowInUse());
     const int answer = widget.exec();
     if (!question) return BoxAnswer::Ok;
     return answer == QMessageBox::Yes ? BoxAnswer::Yes : BoxAnswer::No;

@@ -47,7 +47,9 @@ void QtInputGate::open() {
 }
 
 bool QtInputGate::eventFilter(QObject* watched, QEvent* event) {
-    return m_closed && isInput(event->type()) && belongsToWindow(watched);
+    if (!m_closed || !isInput(event->type()) || !belongsToWindow(watched)) return false;
+    // The window itself has to hear of a release: it would otherwise take the button for held.
+    return event->type() != QEvent::MouseButtonRelease || !watched->isWindowType();
 }
 
 bool QtInputGate::belongsToWindow(QObject* object) const {

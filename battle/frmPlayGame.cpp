@@ -145,8 +145,13 @@ void frmPlayGame::connectControls() {
     connect(scrollGameSpeed, &QScrollBar::valueChanged, this,
             [&controls](int value) { controls.setGameSpeed(value); });
     const auto onToggle = [this, &controls](QCheckBox* box, void (BattleControls::*handler)(bool)) {
-        connect(box, &QCheckBox::toggled, this,
-                [&controls, handler](bool ticked) { (controls.*handler)(ticked); });
+        connect(box, &QCheckBox::toggled, this, [this, &controls, handler](bool ticked) {
+            // A box clicks a moment after its access key: perhaps too late.
+            if (controls.panel().commandsEnabled)
+                (controls.*handler)(ticked);
+            else
+                showPanel(controls.panel());
+        });
     };
     onToggle(chkSound, &BattleControls::chkSound_Click);
     onToggle(chkTrajectory, &BattleControls::chkTrajectory_Click);
@@ -160,7 +165,9 @@ void frmPlayGame::connectControls() {
 
 void frmPlayGame::addShortcuts() {
     const auto onKey = [this](const QKeySequence& key, std::function<void()> action) {
-        connect(new QShortcut{key, this}, &QShortcut::activated, this, std::move(action));
+        auto* shortcut = new QShortcut{key, this};
+        shortcut->setAutoRepeat(false);  // a key that is held is pressed once
+        connect(shortcut, &QShortcut::activated, this, std::move(action));
     };
     const auto shooterSide = [this] { return m_side[m_battle.state().Shooter]; };
     onKey(Qt::Key_Escape, [this] { m_battle.controls().cmdQuit_Click(); });

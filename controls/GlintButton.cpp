@@ -230,6 +230,7 @@ void GlintButton::setAccessKeyFrom(const std::string& caption) {
     if (m_shortcut != 0) releaseShortcut(m_shortcut);
     const auto key = QKeySequence::mnemonic(QString::fromStdString(caption));
     m_shortcut = key.isEmpty() ? 0 : grabShortcut(key);
+    if (m_shortcut != 0) setShortcutAutoRepeat(m_shortcut, false);
     QAccessibleEvent renamed{this, QAccessible::NameChanged};
     QAccessible::updateAccessibility(&renamed);
 }
