@@ -1,5 +1,6 @@
 #include "app/Application.h"
 
+#include <cstdlib>
 #include <exception>
 
 #include "app/Settings.h"
