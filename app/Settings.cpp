@@ -8,19 +8,14 @@
 #include <string>
 
 #include "app/Rounding.h"
+#include "app/TrimBlanks.h"
 
 namespace skylob::settings {
 
 namespace {
 
-std::string_view trimmed(std::string_view text) {
-    const auto first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
 std::optional<double> parseNumber(std::string_view text) {
-    const std::string_view digits = trimmed(text);
+    const std::string_view digits = trimBlanks(text);
     double value = 0;
     const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
     if (error != std::errc{} || end != digits.data() + digits.size()) return std::nullopt;
@@ -38,8 +33,8 @@ int readChoice(const SettingsStore& store, std::string_view key) {
 
 bool readFlag(const SettingsStore& store, std::string_view key, bool fallback) {
     const std::string stored = store.get(key, fallback ? "1" : "0");
-    if (trimmed(stored) == "1") return true;
-    if (trimmed(stored) == "0") return false;
+    if (trimBlanks(stored) == "1") return true;
+    if (trimBlanks(stored) == "0") return false;
     return fallback;
 }
 
@@ -60,6 +55,13 @@ int readScreenSize(const SettingsStore& store) {
 int readNumRounds(const SettingsStore& store) {
     constexpr std::array kRounds{5, 10, 20};
     return kRounds.at(static_cast<std::size_t>(readChoice(store, "NumRounds") - 1));
+}
+
+bool readFadeStatus(const SettingsStore& store) {
+    std::string stored = store.get("FadeStatus", "False");
+    for (char& letter : stored)
+        if (letter >= 'A' && letter <= 'Z') letter = static_cast<char>(letter - 'A' + 'a');
+    return trimBlanks(stored) == "true" || parseNumber(stored).value_or(0) != 0;
 }
 
 }  // namespace skylob::settings

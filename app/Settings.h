@@ -24,4 +24,7 @@ int readScreenSize(const SettingsStore& store);
 /// The rounds of a set, from the stored choice 1, 2 (the default) or 3: 5, 10 or 20.
 int readNumRounds(const SettingsStore& store);
 
+/// Whether screens are to fade: "True" in any case of letters, or a number other than 0.
+bool readFadeStatus(const SettingsStore& store);
+
 }  // namespace skylob::settings

@@ -8,6 +8,7 @@
 
 #include "app/Application.h"
 #include "app/CommandLine.h"
+#include "app/Release.h"
 
 namespace {
 
@@ -55,7 +56,9 @@ int main(int argc, char** argv) {
             print(skylob::commandLineHelp());
             return 0;
         case Request::Version:
-            print("Skylob " SKYLOB_VERSION "\n");
+            print("Skylob ");
+            print(skylob::kVersion);
+            print("\n");
             return 0;
         case Request::Refused:
             std::fprintf(stderr, "skylob: %s\n", commandLine.error.c_str());

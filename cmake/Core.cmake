@@ -1,11 +1,18 @@
+# What the program says of itself comes from the top of CMakeLists.txt.
+configure_file(${PROJECT_SOURCE_DIR}/app/Release.h.in ${PROJECT_BINARY_DIR}/generated/app/Release.h @ONLY)
+
 # The rules: standard library only.
 add_library(skylob_core STATIC
     app/Clock.cpp
     app/CommandLine.cpp
     app/CountedWait.cpp
+    app/DiskFiles.cpp
+    app/Fade.cpp
+    app/OpenLink.cpp
     app/Pacer.cpp
     app/RandomInt.cpp
     app/Settings.cpp
+    app/StringTable.cpp
     app/WaveImage.cpp
     battle/Battle.cpp
     battle/BattleControls.cpp
@@ -20,14 +27,24 @@ add_library(skylob_core STATIC
     controls/GlintLayout.cpp
     controls/GlintPalette.cpp
     controls/TransferPicture.cpp
+    players/Commentary.cpp
+    players/PlayerFile.cpp
+    players/PlayerRecord.cpp
+    players/Ranking.cpp
     players/SetResult.cpp
+    players/Windows1252.cpp
 )
 target_sources(skylob_core PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR} FILES
     app/Clock.h
     app/Colour.h
     app/CommandLine.h
     app/CountedWait.h
+    app/DiskFiles.h
+    app/Fade.h
+    app/FileSystem.h
+    app/LinkOpener.h
     app/MessageBoxes.h
+    app/OpenLink.h
     app/Pacer.h
     app/PerSide.h
     app/RandomInt.h
@@ -35,6 +52,8 @@ target_sources(skylob_core PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DI
     app/Settings.h
     app/SettingsStore.h
     app/SoundPlayer.h
+    app/StringTable.h
+    app/TrimBlanks.h
     app/WaveImage.h
     app/basSkylob.h
     battle/Battle.h
@@ -58,10 +77,16 @@ target_sources(skylob_core PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DI
     controls/GlintSurface.h
     controls/PropertyBag.h
     controls/TransferPicture.h
+    players/Commentary.h
+    players/PlayerFile.h
+    players/PlayerRecord.h
+    players/Ranking.h
     players/SetResult.h
+    players/Windows1252.h
 )
 # Each header compiles by itself: a test builds the target that this makes.
 set_target_properties(skylob_core PROPERTIES VERIFY_INTERFACE_HEADER_SETS ON)
+target_include_directories(skylob_core PUBLIC ${PROJECT_BINARY_DIR}/generated)
 target_link_libraries(skylob_core PRIVATE skylob_strict)
 
 # A flight is the same on every machine: no fused multiply-add where the rules round twice.

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+namespace skylob {
+
+/// Something could not be done with a file; what() says to the player what it was and why.
+class FileError : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
+};
+
+/// A file that is open for reading and writing at any place; the destructor closes it. Every
+/// member throws FileError when it fails.
+class RandomAccessFile {
+  public:
+    virtual ~RandomAccessFile() = default;
+
+    /// In bytes.
+    virtual std::int64_t length() const = 0;
+
+    /// The `count` bytes from `offset` on, or as many of them as there are.
+    virtual std::string read(std::int64_t offset, std::size_t count) const = 0;
+
+    /// Writes all of `bytes` from `offset` on. When that fails, the file is as it was before.
+    virtual void write(std::int64_t offset, std::string_view bytes) = 0;
+
+    /// Returns when everything written so far would survive a loss of power.
+    virtual void sync() = 0;
+};
+
+/// The files of a folder, or what stands for them in a test. Every member throws FileError when it
+/// fails, and has then changed nothing.
+class FileSystem {
+  public:
+    virtual ~FileSystem() = default;
+
+    /// Opens a file, and makes an empty one where there is none.
+    virtual std::unique_ptr<RandomAccessFile> open(const std::string& name) = 0;
+
+    virtual void remove(const std::string& name) = 0;
+
+    /// Gives a file the name of another one in the same folder, which it replaces. At every
+    /// moment there is one of the two under that name.
+    virtual void replace(const std::string& from, const std::string& to) = 0;
+};
+
+}  // namespace skylob

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "app/RandomInt.h"
+#include "app/StringTable.h"
+#include "app/basSkylob.h"
+
+namespace skylob {
+
+/// The computer's remark on the round or, when SetOver is set, on the set that `shared` tells of:
+/// any text of the block that fits, by one draw of chance. Nothing for a round between two people
+/// whose winner has not fired.
+std::optional<std::string> drawRemark(const basSkylob& shared, const StringTable& strings,
+                                      RandomSource& random);
+
+}  // namespace skylob

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "app/FileSystem.h"
+#include "players/PlayerRecord.h"
+
+namespace skylob {
+
+/// The list of players on disk: records of 29 bytes, numbered from 1, nothing before or behind
+/// them. It is open only while something is done with it.
+///
+/// Errors: every member throws FileError when the disk refuses, and when the list holds or would
+/// hold more than 32,767 players. The files are then as they were before the step that failed.
+class PlayerFile {
+  public:
+    /// `files` must outlive the object. Lists are rewritten through "TempFile.$$$" in the same
+    /// folder as `fileName`.
+    PlayerFile(FileSystem& files, std::string fileName);
+
+    PlayerRecord CurrentRecord;  ///< every record read or written passes through here
+    int PlayerCount = 0;         ///< the number of records when last measured
+
+    /// Opens the file, made empty when it is missing, and measures it. Closes it first if it is
+    /// open.
+    void OpenPlayerFile();
+
+    /// Measures the file, brings what was written to the disk, and closes it. Does nothing when
+    /// it is not open.
+    void ClosePlayerFile();
+
+    /// For an open file and record numbers of 1..PlayerCount; one more may be written and is then
+    /// the new last. Damaged records read as whatever they hold, missing bytes as zero.
+    void readRecord(int number);
+    void writeRecord(int number);
+
+    /// Makes the records with these numbers, in this order, the whole list: whoever has played a
+    /// set is ranked by the place in it, the others get 0. The file must be open and is closed
+    /// then. The new list takes the old one's place in one step, when it is safe on the disk; an
+    /// empty one leaves no file. An older "TempFile.$$$" is not cut short: records that it has
+    /// beyond these stay in the list.
+    void rewrite(std::span<const int> recordNumbers);
+
+    /// Puts a new player, without any set, at the end. `name` as for setName().
+    void addPlayer(std::string_view name);
+
+    /// Changes the name of a record and nothing else.
+    void renamePlayer(int number, std::string_view name);
+
+    /// Takes a record out and ranks the others by their places.
+    void deletePlayer(int number);
+
+  private:
+    int measure(const RandomAccessFile& file) const;
+
+    FileSystem& m_files;
+    std::string PlayerFileName;
+    std::string m_tempFileName;
+    std::unique_ptr<RandomAccessFile> PlayerFileHandle;
+    std::string m_bytes;  ///< all that the open file holds
+    bool m_written = false;
+};
+
+}  // namespace skylob

@@ -1,0 +1,84 @@
+#include "players/Ranking.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <cstdio>
+#include <utility>
+#include <vector>
+
+#include "app/TrimBlanks.h"
+#include "players/SetResult.h"
+
+namespace skylob {
+
+namespace {
+
+/// Goes round from 32,767 to -32,768.
+std::int16_t wrapped(int number) {
+    return static_cast<std::int16_t>(static_cast<std::uint16_t>(number));
+}
+
+void countSetOf(PlayerFile& file, const basSkylob& shared) {
+    for (int number = 1; number <= file.PlayerCount; ++number) {
+        file.readRecord(number);
+        const std::string name = nameOf(file.CurrentRecord);
+        for (const int side : {1, 2}) {
+            if (name != trimBlanks(shared.PlayerName[side])) continue;
+            countSet(file.CurrentRecord, SetScore(shared, side), side == shared.Winner);
+            file.writeRecord(number);
+        }
+    }
+}
+
+/// The record numbers from the best player to the worst.
+std::vector<int> rankingOrder(PlayerFile& file) {
+    std::vector<std::pair<std::string, int>> keys;
+    for (int number = 1; number <= file.PlayerCount; ++number) {
+        file.readRecord(number);
+        keys.emplace_back(formatKey(rankingKey(file.CurrentRecord)), number);
+    }
+    // Equal texts stay in the order of the list: the record number decides.
+    std::sort(keys.begin(), keys.end());
+    std::vector<int> order;
+    for (const auto& [key, number] : keys) order.push_back(number);
+    return order;
+}
+
+}  // namespace
+
+void countSet(PlayerRecord& record, int setScore, bool won) {
+    // The sum of all scores so far. Beyond 32,767 it turns negative and, like none, counts as 1.
+    const int scores = std::max<int>(1, wrapped(record.SetsPlayed * record.AverageScore));
+    record.SetsPlayed = wrapped(record.SetsPlayed + 1);
+    record.AverageScore = wrapped((scores + setScore) / std::max<int>(1, record.SetsPlayed));
+    if (won) record.SetsWon = wrapped(record.SetsWon + 1);
+}
+
+float rankingKey(const PlayerRecord& record) {
+    constexpr float kNeverPlayed = 999.99F;
+    const double P = record.SetsPlayed, W = record.SetsWon, A = record.AverageScore;
+    if (P < 1) return kNeverPlayed;
+    return static_cast<float>((1000 - ((W + 0.01) / (P + 0.01)) * A) + (W + 0.05) + (P + 0.025));
+}
+
+std::string formatKey(float key) {
+    // A hundred times a float is exact in double, so halves are seen as halves and rounded up.
+    const auto hundredths = std::llround(std::fabs(static_cast<double>(key)) * 100);
+    char text[32];
+    std::snprintf(text, sizeof text, "%s%04lld.%02lld", key < 0 && hundredths ? "-" : "",
+                  hundredths / 100, hundredths % 100);
+    return text;
+}
+
+void RecordSetResults(PlayerFile& file, const basSkylob& shared) {
+    file.OpenPlayerFile();
+    countSetOf(file, shared);
+    if (file.PlayerCount == 1) {
+        file.ClosePlayerFile();
+        return;
+    }
+    file.rewrite(rankingOrder(file));
+}
+
+}  // namespace skylob

@@ -1,0 +1,205 @@
+#include "players/PlayerFile.h"
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+
+#include <csignal>
+
+#include "players/Ranking.h"
+#include "tests/support/FileFakes.h"
+
+namespace skylob::test {
+
+namespace {
+
+using namespace std::string_literals;
+
+const std::string kNew(9, '\0');
+
+struct PlayerFileTest : testing::Test {
+    std::string bytes() const { return bytesOf(path); }
+    void put(const std::string& content) { putBytes(path, content); }
+
+    TempFolder folder;
+    std::string path = folder / "Skylob.Data", tempPath = folder / "TempFile.$$$";
+    FailingFiles files;
+    PlayerFile file{files, path};
+};
+
+TEST_F(PlayerFileTest, AddsAndRenamesInPlace) {
+    file.addPlayer("Ann");
+    file.addPlayer("Twenty characters...");
+    file.addPlayer("Twenty characters and more");
+    file.addPlayer(
+        "Zo\xC3\xAB \xE2\x82\xAC \xC5\x81 \xF0\x9F\x98\x80 \xFF");  // Zoë € Ł, a smile, a lone byte
+    const std::string added = record("Ann", kNew) + record("Twenty characters...", kNew) +
+                              record("Twenty characters an", kNew) +
+                              record("Zo\xEB \x80 ? ? ?", kNew);
+    EXPECT_EQ(bytes(), added);
+    EXPECT_EQ(file.PlayerCount, 4);
+    file.readRecord(4);
+    EXPECT_EQ(nameOf(file.CurrentRecord), "Zo\xC3\xAB \xE2\x82\xAC ? ? ?");
+
+    put(record("Twenty characters...", "\4\0\3\0\x2C\1\1\0\x7F"s) + record("Bob", kNew));
+    file.renamePlayer(1, "Al");
+    EXPECT_EQ(bytes(), record("Al", "\4\0\3\0\x2C\1\1\0\x7F"s) + record("Bob", kNew));
+    EXPECT_EQ(folder.content(), "Skylob.Data ");
+}
+
+TEST_F(PlayerFileTest, CountsAndShowsWhateverItHolds) {
+    file.OpenPlayerFile();
+    EXPECT_EQ(file.PlayerCount, 0);
+    EXPECT_EQ(folder.content(), "Skylob.Data ");
+
+    const std::string odd = record("\tA\0B\x7F\x81"s, "\xFF\xFF\0\x80\xFF\x7F\1\2\xFE"s);
+    put(odd + record("  Bob", kNew));
+    for (const auto& [length, count] :
+         {std::pair{58, 2}, {44, 2}, {43, 1}, {30, 1}, {15, 1}, {14, 0}}) {
+        std::filesystem::resize_file(path, static_cast<std::uintmax_t>(length));
+        file.OpenPlayerFile();
+        EXPECT_EQ(file.PlayerCount, count) << length;
+    }
+    put(odd + "  Bob");
+    file.OpenPlayerFile();
+    file.readRecord(1);
+    EXPECT_EQ(nameOf(file.CurrentRecord), "A B");
+    EXPECT_EQ(file.CurrentRecord.SetsPlayed, -1);
+    EXPECT_EQ(file.CurrentRecord.SetsWon, -32768);
+    EXPECT_EQ(file.CurrentRecord.AverageScore, 32767);
+    EXPECT_EQ(file.CurrentRecord.Ranking, 513);
+    EXPECT_EQ(file.CurrentRecord.Spare, 254);
+
+    // Five bytes are no record, so the new one goes over them.
+    file.addPlayer("Cyd");
+    EXPECT_EQ(bytes(), odd + record("Cyd", kNew));
+    // The missing bytes of a last record are zeros, and control characters.
+    put(odd + record("Bob", ""));
+    file.deletePlayer(1);
+    EXPECT_EQ(bytes(), record("Bob", kNew));
+}
+
+TEST_F(PlayerFileTest, DeletesAndRanksByPlace) {
+    put(record("Ann", "\4\0\3\0\x29\0\1\0\5"s) + record("Bob", "\1\0\1\0\x1E\0\2\0\6"s) +
+        record("Cyd", kNew) + record("Dan", "\1\0\0\0\x1E\0\4\0\0"s));
+    file.deletePlayer(1);
+    EXPECT_EQ(bytes(), record("Bob", "\1\0\1\0\x1E\0\1\0\6"s) + record("Cyd", kNew) +
+                           record("Dan", "\1\0\0\0\x1E\0\3\0\0"s));
+    EXPECT_EQ(folder.content(), "Skylob.Data ");
+    for (const int left : {2, 1, 0}) {
+        file.deletePlayer(1);
+        EXPECT_EQ(bytes().size(), left * 29U);
+    }
+    EXPECT_EQ(folder.content(), "");
+}
+
+TEST_F(PlayerFileTest, KeepsWhatAnOlderTemporaryFileHasBeyondTheList) {
+    put(record("Ann", kNew) + record("Bob", kNew));
+    putBytes(tempPath, record("Old", kNew) + record("Older", "\1\0\1\0\1\0\1\0\0"s));
+    file.deletePlayer(1);
+    EXPECT_EQ(bytes(), record("Bob", kNew) + record("Older", "\1\0\1\0\1\0\1\0\0"s));
+    EXPECT_EQ(folder.content(), "Skylob.Data ");
+
+    put(record("Ann", kNew));
+    putBytes(tempPath, record("Old", kNew));
+    file.deletePlayer(1);
+    EXPECT_EQ(folder.content(), "");
+}
+
+TEST_F(PlayerFileTest, RefusesTooManyPlayers) {
+    std::string most;
+    for (int i = 0; i < 32767; ++i) most += record("Ann", kNew);
+    put(most);
+    EXPECT_THROW(file.addPlayer("Bob"), FileError);
+    EXPECT_EQ(bytes(), most);
+    file.renamePlayer(32767, "Bob");
+    EXPECT_EQ(bytes().substr(29 * 32766), record("Bob", kNew));
+
+    put(most + "fifteen bytes..");
+    EXPECT_THROW(file.renamePlayer(1, "Bob"), FileError);
+    EXPECT_THROW(file.deletePlayer(1), FileError);
+    EXPECT_EQ(bytes(), most + "fifteen bytes..");
+}
+
+TEST_F(PlayerFileTest, TellsWhatFailedAndChangesNothing) {
+    const std::string before = record("Ann", "\1\0\1\0\x1E\0\1\0\0"s) + record("Bob", kNew);
+    for (const char* failing : {"open Skylob.Data", "read Skylob.Data", "open TempFile.$$$",
+                                "write TempFile.$$$", "sync TempFile.$$$", "replace Skylob.Data"}) {
+        put(before);
+        files.failing = failing;
+        EXPECT_THROW(file.deletePlayer(2), FileError) << failing;
+        EXPECT_EQ(bytes(), before) << failing;
+    }
+    for (const char* failing : {"write Skylob.Data", "sync Skylob.Data", "remove Skylob.Data"}) {
+        put(record("Ann", kNew));
+        files.failing = failing;
+        if (failing == "remove Skylob.Data"s)
+            EXPECT_THROW(file.deletePlayer(1), FileError);
+        else
+            EXPECT_THROW(file.addPlayer("Bob"), FileError) << failing;
+        EXPECT_EQ(bytes().substr(0, 29), record("Ann", kNew)) << failing;
+    }
+    files.failing.clear();
+    PlayerFile nowhere{files, folder / "missing/Skylob.Data"};
+    EXPECT_THROW(nowhere.OpenPlayerFile(), FileError);
+
+    for (const std::string& inTheWay : {tempPath, path}) {
+        std::filesystem::remove_all(tempPath);
+        put(before);
+        if (inTheWay == path) std::filesystem::remove(path);
+        std::filesystem::create_directories(inTheWay);
+        try {
+            file.deletePlayer(1);
+            ADD_FAILURE() << "a folder in the place of " << inTheWay;
+        } catch (const FileError& error) {
+            EXPECT_EQ(error.what(), "Could not open " + inTheWay + ":\nIs a directory");
+        }
+    }
+}
+
+/// No file of this process can grow beyond some length while one of these lives.
+class FileSizeLimit {
+  public:
+    explicit FileSizeLimit(rlim_t most) : m_handler{std::signal(SIGXFSZ, SIG_IGN)} {
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit limit{most, m_before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FileSizeLimit() {
+        setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, m_handler);
+    }
+    FileSizeLimit(const FileSizeLimit&) = delete;
+    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+
+  private:
+    rlimit m_before{};
+    void (*m_handler)(int);
+};
+
+TEST_F(PlayerFileTest, WritesAllOfARecordOrNothing) {
+    const std::string before = record("Ann", kNew) + record("Bob", kNew);
+    put(before);
+    {
+        const FileSizeLimit limit{80};  // in the middle of a third record
+        EXPECT_THROW(file.addPlayer("Cyd"), FileError);
+        EXPECT_EQ(bytes(), before);
+    }
+    {
+        const FileSizeLimit limit{35};  // in the middle of the second name
+        EXPECT_THROW(file.renamePlayer(2, "Bertram the Elder"), FileError);
+        EXPECT_EQ(bytes(), before);
+        EXPECT_THROW(
+            {
+                file.OpenPlayerFile();
+                file.rewrite(std::vector{2, 1});
+            },
+            FileError);
+        EXPECT_EQ(bytes(), before);
+    }
+    file.deletePlayer(1);
+    EXPECT_EQ(bytes(), record("Bob", kNew));
+}
+
+}  // namespace
+
+}  // namespace skylob::test

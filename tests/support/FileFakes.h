@@ -1,0 +1,105 @@
+#pragma once
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+#include "app/DiskFiles.h"
+
+namespace skylob::test {
+
+/// A folder of its own, gone with the object.
+class TempFolder {
+  public:
+    TempFolder() {
+        std::string name = std::filesystem::temp_directory_path() / "skylob-XXXXXX";
+        m_path = mkdtemp(name.data());
+    }
+    ~TempFolder() { std::filesystem::remove_all(m_path); }
+    TempFolder(const TempFolder&) = delete;
+    TempFolder& operator=(const TempFolder&) = delete;
+
+    std::string operator/(const char* name) const { return m_path / name; }
+
+    /// The names of what is in it, sorted, each followed by a blank.
+    std::string content() const {
+        std::string names;
+        for (const char* name : {"Skylob.Data", "TempFile.$$$"})
+            if (std::filesystem::exists(m_path / name)) names += std::string{name} + ' ';
+        return names;
+    }
+
+  private:
+    std::filesystem::path m_path;
+};
+
+inline std::string bytesOf(const std::string& path) {
+    std::ifstream file{path, std::ios::binary};
+    return {std::istreambuf_iterator<char>{file}, {}};
+}
+
+inline void putBytes(const std::string& path, const std::string& bytes) {
+    std::ofstream{path, std::ios::binary | std::ios::trunc} << bytes;
+}
+
+/// The disk, on which one operation goes wrong: the one whose name and file's name end in
+/// `failing`, such as "write TempFile.$$$".
+class FailingFiles : public FileSystem {
+  public:
+    std::string failing;
+
+    std::unique_ptr<RandomAccessFile> open(const std::string& name) override {
+        check("open", name);
+        return std::make_unique<File>(*this, name);
+    }
+    void remove(const std::string& name) override {
+        check("remove", name);
+        m_disk.remove(name);
+    }
+    void replace(const std::string& from, const std::string& to) override {
+        check("replace", to);
+        m_disk.replace(from, to);
+    }
+
+  private:
+    class File : public RandomAccessFile {
+      public:
+        File(FailingFiles& files, const std::string& name)
+            : m_files{files}, m_name{name}, m_file{files.m_disk.open(name)} {}
+        std::int64_t length() const override { return m_file->length(); }
+        std::string read(std::int64_t offset, std::size_t count) const override {
+            m_files.check("read", m_name);
+            return m_file->read(offset, count);
+        }
+        void write(std::int64_t offset, std::string_view bytes) override {
+            m_files.check("write", m_name);
+            m_file->write(offset, bytes);
+        }
+        void sync() override {
+            m_files.check("sync", m_name);
+            m_file->sync();
+        }
+
+      private:
+        FailingFiles& m_files;
+        std::string m_name;
+        std::unique_ptr<RandomAccessFile> m_file;
+    };
+
+    void check(const std::string& operation, const std::string& name) const {
+        if (operation + ' ' + std::filesystem::path{name}.filename().string() == failing)
+            throw FileError{"failed on demand"};
+    }
+
+    DiskFiles m_disk;
+};
+
+/// The 29 bytes of a record, from the name and the nine bytes behind it.
+inline std::string record(std::string name, const std::string& figures) {
+    name.resize(20, ' ');
+    return name + figures;
+}
+
+}  // namespace skylob::test
