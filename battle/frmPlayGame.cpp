@@ -14,8 +14,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "app/QtInputGate.h"
 #include "app/QtLook.h"
-#include "battle/QtInputGate.h"
+#include "app/QtScreenFade.h"
 #include "battle/QtSidePanel.h"
 #include "battle/frmPlayGameLayout.h"
 #include "battle/picGameField.h"
@@ -46,6 +47,7 @@ frmPlayGame::frmPlayGame(basSkylob& shared, const frmPlayGamePorts& ports)
                 *this}},
       m_shapes{ports.shapes},
       m_gate{new QtInputGate{this}},
+      m_fade{new QtScreenFade{this, shared, ports.settings}},
       m_field{new picGameField{m_battle.picture(), m_shapes, this}} {
     setWindowTitle(QStringLiteral(" Skylob - Battlefield"));
     applyLook(*this);
@@ -59,6 +61,7 @@ frmPlayGame::frmPlayGame(basSkylob& shared, const frmPlayGamePorts& ports)
     setTabOrder();
     showPanel(m_battle.controls().panel());
     centreOnDisplay(*this);
+    m_fade->load();
 }
 
 void frmPlayGame::makeSidePanels() {
@@ -196,6 +199,7 @@ void frmPlayGame::setTabOrder() {
 }
 
 void frmPlayGame::Form_Activate() {
+    m_fade->activate();
     m_battle.Form_Activate();
 }
 
@@ -219,7 +223,7 @@ void frmPlayGame::showEvent(QShowEvent* event) {
 
 void frmPlayGame::closeEvent(QCloseEvent* event) {
     event->ignore();
-    m_battle.controls().cmdQuit_Click();
+    if (!m_fade->isFading()) m_battle.controls().cmdQuit_Click();
 }
 
 void frmPlayGame::paintEvent(QPaintEvent* event) {
@@ -279,7 +283,7 @@ void frmPlayGame::holdInput() {
 }
 
 void frmPlayGame::releaseInput() {
-    m_gate->open();
+    m_gate->dropInputAndOpen();
 }
 
 int frmPlayGame::displayWidth() const {
@@ -295,8 +299,10 @@ void frmPlayGame::showSummary(SummaryKind kind) {
 }
 
 void frmPlayGame::closeBattle() {
-    hide();
-    emit battleClosed();
+    m_fade->leave([this] {
+        hide();
+        emit battleClosed();
+    });
 }
 
 }  // namespace skylob

@@ -16,6 +16,7 @@ namespace skylob {
 class GlintButton;
 class QtInputGate;
 class QtPropertyBagFile;
+class QtScreenFade;
 class QtSidePanel;
 class picGameField;
 struct frmPlayGameLayout;
@@ -85,6 +86,7 @@ class frmPlayGame : public QWidget, private BattleView {
     Battle m_battle;
     const QtShapes& m_shapes;
     QtInputGate* m_gate;
+    QtScreenFade* m_fade;
     picGameField* m_field;
     PerSide<QtSidePanel*> m_side;
     QLabel *labelRoundNumber, *labelGameSpeed;

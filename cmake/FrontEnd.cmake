@@ -2,16 +2,20 @@
 find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets)
 find_package(PkgConfig REQUIRED)
 pkg_check_modules(SDL2_MIXER REQUIRED IMPORTED_TARGET SDL2_mixer)
+pkg_check_modules(XCB REQUIRED IMPORTED_TARGET xcb)
 
 add_library(skylob_ui STATIC
     app/Application.cpp
+    app/QtInputGate.cpp
+    app/QtLinkOpener.cpp
     app/QtLook.cpp
     app/QtMessageBoxes.cpp
     app/QtPacer.cpp
+    app/QtScreenFade.cpp
     app/QtSettingsStore.cpp
     app/QtShapes.cpp
     app/SdlSoundPlayer.cpp
-    battle/QtInputGate.cpp
+    app/modFadeInOut.cpp
     battle/QtMenGauge.cpp
     battle/QtSidePanel.cpp
     battle/frmPlayGame.cpp
@@ -28,7 +32,7 @@ add_library(skylob_ui STATIC
 set_target_properties(skylob_ui PROPERTIES AUTOMOC ON)
 target_link_libraries(skylob_ui
     PUBLIC skylob_core Qt6::Widgets
-    PRIVATE PkgConfig::SDL2_MIXER skylob_strict)
+    PRIVATE PkgConfig::SDL2_MIXER PkgConfig::XCB skylob_strict)
 target_compile_definitions(skylob_ui PRIVATE QT_NO_CAST_TO_ASCII)
 
 # Sounds, pictures and forms are part of the program. They hang on the executables that use them: in a
@@ -39,9 +43,12 @@ function(skylob_add_resources target)
         ${PROJECT_SOURCE_DIR}/resources/look/*.qss)
     file(GLOB pictures CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/resources/pictures/*.png
         ${PROJECT_SOURCE_DIR}/resources/pictures/*.txt)
+    file(GLOB strings CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/resources/strings/*.txt)
     file(GLOB forms CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/resources/forms/*.json)
     qt_add_resources(${target} forms PREFIX /forms
         BASE ${PROJECT_SOURCE_DIR}/resources/forms FILES ${forms})
+    qt_add_resources(${target} strings PREFIX /strings
+        BASE ${PROJECT_SOURCE_DIR}/resources/strings FILES ${strings})
     qt_add_resources(${target} sounds PREFIX /sounds
         BASE ${PROJECT_SOURCE_DIR}/resources/sounds FILES ${sounds})
     qt_add_resources(${target} look PREFIX /look
@@ -51,6 +58,5 @@ function(skylob_add_resources target)
 endfunction()
 
 add_executable(skylob app/main.cpp)
-target_compile_definitions(skylob PRIVATE SKYLOB_VERSION="${PROJECT_VERSION}")
 target_link_libraries(skylob PRIVATE skylob_ui skylob_strict)
 skylob_add_resources(skylob)

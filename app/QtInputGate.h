@@ -18,8 +18,11 @@ class QtInputGate : public QObject {
     bool isClosed() const { return m_closed; }
     void close();
 
-    /// Lets the input that was made while the gate was closed run into it, then opens it.
     void open();
+
+    /// After the thread has been blocked: lets the input that has been waiting run into the closed
+    /// gate before it opens.
+    void dropInputAndOpen();
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -1,4 +1,4 @@
-#include "battle/QtInputGate.h"
+#include "app/QtInputGate.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -41,9 +41,12 @@ void QtInputGate::close() {
 }
 
 void QtInputGate::open() {
-    if (!m_closed) return;
-    QCoreApplication::processEvents();
     m_closed = false;
+}
+
+void QtInputGate::dropInputAndOpen() {
+    if (m_closed) QCoreApplication::processEvents();
+    open();
 }
 
 bool QtInputGate::eventFilter(QObject* watched, QEvent* event) {

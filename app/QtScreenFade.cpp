@@ -1,0 +1,57 @@
+#include "app/QtScreenFade.h"
+
+#include <QTimer>
+#include <QWidget>
+#include <utility>
+
+#include "app/QtInputGate.h"
+#include "app/basSkylob.h"
+#include "app/modFadeInOut.h"
+
+namespace skylob {
+
+QtScreenFade::QtScreenFade(QWidget* screen, basSkylob& shared, const SettingsStore& settings)
+    : QObject{screen},
+      m_screen{screen},
+      m_shared{shared},
+      m_settings{settings},
+      m_gate{new QtInputGate{screen}},
+      timerFadeInOut{new QTimer{this}} {
+    timerFadeInOut->setTimerType(Qt::PreciseTimer);
+    timerFadeInOut->setInterval(1);
+    connect(timerFadeInOut, &QTimer::timeout, this, &QtScreenFade::timerFadeInOut_Timer);
+}
+
+void QtScreenFade::load() {
+    m_shared.FadeActive = SetFormAlpha(*m_screen, kInvisible, FadeDemand::WhenEnabled, m_settings);
+    m_fadesIn = m_shared.FadeActive;
+}
+
+void QtScreenFade::activate() {
+    if (std::exchange(m_fadesIn, false)) StartFade(kInvisible, kOpaque, kFadeStep, AfterFade::Stay);
+}
+
+void QtScreenFade::leave(std::function<void()> leavingWork, int step) {
+    if (m_leavingWork) return;
+    m_shared.FadeActive = SetFormAlpha(*m_screen, kOpaque, FadeDemand::WhenEnabled, m_settings);
+    if (!m_shared.FadeActive) return leavingWork();
+    m_leavingWork = std::move(leavingWork);
+    StartFade(kOpaque, kInvisible, step, AfterFade::Close);
+}
+
+void QtScreenFade::StartFade(int start, int end, int step, AfterFade after) {
+    m_fade.StartFade(start, end, step, after);
+    m_gate->close();
+    timerFadeInOut->start();
+}
+
+void QtScreenFade::timerFadeInOut_Timer() {
+    applyOpacity(*m_screen, m_fade.tick());
+    if (m_fade.isActive()) return;
+    timerFadeInOut->stop();
+    m_gate->open();
+    // Moved out first: the work may well delete the screen, and this with it.
+    if (m_fade.after() == AfterFade::Close) std::exchange(m_leavingWork, {})();
+}
+
+}  // namespace skylob
