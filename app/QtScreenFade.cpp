@@ -1,5 +1,6 @@
 #include "app/QtScreenFade.h"
 
+#include <QScreen>
 #include <QTimer>
 #include <QWidget>
 #include <utility>
@@ -42,10 +43,21 @@ void QtScreenFade::leave(std::function<void()> leavingWork, int step) {
 void QtScreenFade::StartFade(int start, int end, int step, AfterFade after) {
     m_fade.StartFade(start, end, step, after);
     m_gate->close();
+    m_sinceStep.start();
     timerFadeInOut->start();
 }
 
+bool QtScreenFade::frameIsDue() const {
+    constexpr double kUsualRate = 60;
+    const double rate = m_screen->screen()->refreshRate();
+    return static_cast<double>(m_sinceStep.elapsed()) * (rate >= 1 ? rate : kUsualRate) >= 1000;
+}
+
 void QtScreenFade::timerFadeInOut_Timer() {
+    // The timer is faster than any display: a step within a frame would never be seen, and
+    // thirteen of them would be over in one.
+    if (!frameIsDue()) return;
+    m_sinceStep.start();
     applyOpacity(*m_screen, m_fade.tick());
     if (m_fade.isActive()) return;
     timerFadeInOut->stop();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <functional>
 
@@ -38,6 +39,7 @@ class QtScreenFade : public QObject {
 
   private:
     void StartFade(int start, int end, int step, AfterFade after);
+    bool frameIsDue() const;
     void timerFadeInOut_Timer();
 
     QWidget* m_screen;
@@ -46,6 +48,7 @@ class QtScreenFade : public QObject {
     QtInputGate* m_gate;
     QTimer* timerFadeInOut;
     Fade m_fade;
+    QElapsedTimer m_sinceStep;
     std::function<void()> m_leavingWork;
     bool m_fadesIn = false;
 };
