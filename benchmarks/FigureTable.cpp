@@ -72,8 +72,10 @@ bool printFigures(std::span<const Figure> figures) {
     auto& seconds = medians.seconds;
     const double fill = seconds[figures[0].what], turns = seconds[figures[1].what];
     std::printf(kLine, "what", "measured", "budget", "of budget", "of fill", "of turns", "");
-    for (const Figure& figure : figures)
+    for (Figure figure : figures) {
+        if (figure.of) figure.nominal *= seconds[figure.of];
         if (seconds[figure.what] != 0) printFigure(figure, seconds[figure.what], fill, turns);
+    }
     return true;
 }
 

@@ -15,9 +15,10 @@ struct Figure {
     const char* what;
     void (*measure)(benchmark::State&);
     Time time = Time::Spent;
-    double budget = 0;   ///< a figure above it is missed; 0: there is none
-    double least = 0;    ///< so is one below
-    double nominal = 0;  ///< where given, the figure is the measured time's ratio to it
+    double budget = 0;         ///< a figure above it is missed; 0: there is none
+    double least = 0;          ///< so is one below
+    double nominal = 0;        ///< where given, the figure is the measured time's ratio to it
+    const char* of = nullptr;  ///< where given, `nominal` counts times of that earlier figure
 };
 
 /// Measures the figures that the command line asks for and prints a line for each: the measured

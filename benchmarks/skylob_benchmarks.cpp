@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "FigureTable.h"
+#include "RecordFigures.h"
 #include "app/CountedWait.h"
 #include "app/QtLook.h"
 #include "app/QtPacer.h"
@@ -28,6 +29,7 @@ constexpr int kWidth = 984, kHeight = 512;  // the field on the screen of normal
 constexpr int kGroundLineWidth = 2;
 constexpr int kRounds = 10;
 constexpr int kGameSpeed = 50;
+constexpr double kNLogN = 32767 * 15.0 / (1000 * 9.966);
 constexpr int kManyCounts = 10'000'000;
 constexpr double kCount = 0.5e-9;  // the seconds that a count lasts
 
@@ -169,6 +171,11 @@ const Figure kFigures[] = {
     {"ten rounds without a screen", headlessSet, Time::Spent, 5e-3},
     {"merging a 64 x 64 picture, grey", pictureTransfer, Time::Spent, 60e-6},
     {"redraw of the shoot button", buttonRedraw, Time::Spent, 150e-6},
+    {"recording a set, 10 players", recordSet<10>},
+    {"recording a set, 1,000 players", recordSet<1000>},
+    {"recording a set, 32,767 players", recordSet<32767>, Time::Spent, 40e-3},
+    {"the same, of n log n from 1,000", recordSet<32767>, Time::Spent, 1, 0, kNLogN,
+     "recording a set, 1,000 players"},
     {"one count, not held back by the clock", lateCount, Time::Spent, kCount},
     {"paced flight, of its nominal time", halfStep<QtPacer>, Time::GoneBy, 1.05, 0.98,
      FlightDelayCount(kGameSpeed) * kCount},

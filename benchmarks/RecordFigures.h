@@ -1,0 +1,12 @@
+#pragma once
+
+#include <benchmark/benchmark.h>
+
+namespace skylob {
+
+/// Records one set in a list of so many players, re-ranks and rewrites it, but does not wait for
+/// the disk.
+template <int players>
+void recordSet(benchmark::State& state);
+
+}  // namespace skylob
