@@ -1,21 +1,26 @@
 #pragma once
 
 #include <QApplication>
-#include <memory>
+#include <QPointer>
 
 #include "app/Clock.h"
 #include "app/CommandLine.h"
+#include "app/DiskFiles.h"
+#include "app/QtLinkOpener.h"
 #include "app/QtMessageBoxes.h"
 #include "app/QtPacer.h"
 #include "app/QtSettingsStore.h"
 #include "app/QtShapes.h"
 #include "app/RandomInt.h"
 #include "app/SdlSoundPlayer.h"
+#include "app/StringTable.h"
 #include "app/basSkylob.h"
 #include "battle/BattleView.h"
+#include "players/PlayerFile.h"
 
 namespace skylob {
 
+class frmGetPlayers;
 class frmPlayGame;
 
 /// The running program: owns what all screens share, and decides which screen follows which.
@@ -36,8 +41,11 @@ class Application : public QApplication {
     bool notify(QObject* receiver, QEvent* event) override;
 
   private:
+    void showLobby();
+    void askForSkillLevel();
     void showBattle();
     void showSummary(SummaryKind kind);
+    void quitWhenSilent();
     void fail(const char* why);
 
     SeededRandom m_random;
@@ -47,8 +55,12 @@ class Application : public QApplication {
     QtMessageBoxes m_boxes;
     QtSettingsStore m_settings;
     QtShapes m_shapes;
+    QtLinkOpener m_links;
+    DiskFiles m_files;
+    StringTable m_strings;
     basSkylob m_shared;
-    std::unique_ptr<frmPlayGame> m_battle;
+    PlayerFile m_playerFile;
+    QPointer<frmPlayGame> m_battle;
 };
 
 }  // namespace skylob

@@ -4,6 +4,11 @@
 
 namespace skylob {
 
+int secondsOf(DateTime time) {
+    const auto minute = std::chrono::floor<std::chrono::minutes>(time);
+    return static_cast<int>(std::chrono::floor<std::chrono::seconds>(time - minute).count());
+}
+
 DateTime SystemClock::now() const {
     using namespace std::chrono;
     const auto instant = system_clock::now();

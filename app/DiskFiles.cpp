@@ -8,6 +8,7 @@
 #include <cstdio>
 #include <filesystem>
 #include <system_error>
+#include <utility>
 
 // The one place in the rules that speaks to the system itself: the standard library can neither
 // bring a file to the disk nor say why it could not open or write one.

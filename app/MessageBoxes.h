@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 namespace skylob {
@@ -14,6 +15,14 @@ struct MessageBox {
     std::string text;
     BoxIcon icon = BoxIcon::Information;
     BoxButtons buttons = BoxButtons::Ok;
+    BoxAnswer preset = BoxAnswer::Yes;  ///< what Enter answers to a question
+};
+
+/// What an input box shows; the same kind of texts.
+struct InputBox {
+    std::string title;
+    std::string prompt;
+    std::string entry;  ///< stands in the box already
 };
 
 class MessageBoxes {
@@ -23,6 +32,10 @@ class MessageBoxes {
     /// Shows the box modally and returns what the user answered. Closing a Yes/No box without
     /// an answer counts as No, closing another one as Ok.
     virtual BoxAnswer show(const MessageBox& box) = 0;
+
+    /// Shows the box modally and returns what the user entered, UTF-8 in composed characters;
+    /// nothing when it was cancelled.
+    virtual std::optional<std::string> ask(const InputBox& box) = 0;
 };
 
 }  // namespace skylob

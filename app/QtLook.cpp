@@ -2,15 +2,19 @@
 
 #include <QFile>
 #include <QIcon>
+#include <QLabel>
 #include <QPalette>
 #include <QScreen>
 #include <QStyle>
+#include <QTextDocument>
 #include <QVariant>
 #include <QWidget>
 
 namespace skylob {
 
 namespace {
+
+constexpr int kTextMargin = 4;
 
 QPalette nightPalette() {
     QPalette palette;
@@ -56,6 +60,21 @@ void applyLook(QWidget& screen) {
     screen.setAttribute(Qt::WA_StyledBackground);
     screen.setStyleSheet(styleSheet());
     screen.setWindowIcon(programIcon());
+}
+
+void showFitting(QLabel& label, const QString& text, std::initializer_list<int> sizes) {
+    const int room = label.width() - 2 * kTextMargin;
+    QFont font = label.font();
+    for (const int size : sizes) {
+        label.setStyleSheet(QStringLiteral("font-size: %1px").arg(size));
+        label.ensurePolished();
+        font = label.font();
+        if (QFontMetrics{font}.horizontalAdvance(text) <= room) break;
+    }
+    const QString shown = QFontMetrics{font}.elidedText(text, Qt::ElideRight, room);
+    label.setText(shown);
+    // Made into markup, because a name that looks like markup would be taken for it.
+    label.setToolTip(shown == text ? QString{} : Qt::convertFromPlainText(text));
 }
 
 void centreOnDisplay(QWidget& screen) {

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <QString>
+#include <initializer_list>
+
 class QLabel;
 class QWidget;
 
@@ -9,6 +12,10 @@ namespace skylob {
 /// it. To be called before the screen's size is set. Message and input boxes stay as the desktop
 /// draws them.
 void applyLook(QWidget& screen);
+
+/// Shows a text in a label of fixed width, in the first of the sizes (pixels) in which it fits. In
+/// the last one it is cut at its end if it has to be, and stands whole in the tool tip.
+void showFitting(QLabel& label, const QString& text, std::initializer_list<int> sizes);
 
 /// Moves a window of fixed size to the middle of its display.
 void centreOnDisplay(QWidget& screen);

@@ -1,6 +1,8 @@
 #include "app/QtMessageBoxes.h"
 
 #include <QApplication>
+#include <QInputDialog>
+#include <QLabel>
 #include <QMessageBox>
 #include <QWindow>
 
@@ -33,9 +35,13 @@ const QWidget* windowInUse() {
     return nullptr;
 }
 
+QString plainLines(const std::string& text) {
+    return QString::fromStdString(text).remove(QLatin1Char{'\r'});
+}
+
 /// Keeps the box over the window in use without making it that window's child, whose style
 /// sheet it would then wear.
-void placeOver(QMessageBox& box, const QWidget* window) {
+void placeOver(QDialog& box, const QWidget* window) {
     if (!window || !window->windowHandle()) return;
     box.winId();
     box.windowHandle()->setTransientParent(window->windowHandle());
@@ -51,11 +57,25 @@ BoxAnswer QtMessageBoxes::show(const MessageBox& box) {
                        {},
                        question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok};
     widget.setTextFormat(Qt::PlainText);
-    widget.setText(QString::fromStdString(box.text).remove(QLatin1Char{'\r'}));
+    widget.setText(plainLines(box.text));
+    if (question)
+        widget.setDefaultButton(box.preset == BoxAnswer::No ? QMessageBox::No : QMessageBox::Yes);
     placeOver(widget, windowInUse());
     const int answer = widget.exec();
     if (!question) return BoxAnswer::Ok;
     return answer == QMessageBox::Yes ? BoxAnswer::Yes : BoxAnswer::No;
+}
+
+std::optional<std::string> QtMessageBoxes::ask(const InputBox& box) {
+    QInputDialog widget;
+    widget.setWindowTitle(plainTitle(box.title));
+    // The prompt is the entry's label, in which an ampersand would make an access key.
+    widget.setLabelText(plainLines(box.prompt).replace(QLatin1Char{'&'}, QLatin1String{"&&"}));
+    for (auto* label : widget.findChildren<QLabel*>()) label->setTextFormat(Qt::PlainText);
+    widget.setTextValue(QString::fromStdString(box.entry));
+    placeOver(widget, windowInUse());
+    if (widget.exec() != QDialog::Accepted) return std::nullopt;
+    return widget.textValue().normalized(QString::NormalizationForm_C).toStdString();
 }
 
 }  // namespace skylob

@@ -8,6 +8,7 @@ namespace skylob {
 class QtMessageBoxes final : public MessageBoxes {
   public:
     BoxAnswer show(const MessageBox& box) override;
+    std::optional<std::string> ask(const InputBox& box) override;
 };
 
 }  // namespace skylob

@@ -26,6 +26,9 @@ QtScreenFade::QtScreenFade(QWidget* screen, basSkylob& shared, const SettingsSto
 void QtScreenFade::load() {
     m_shared.FadeActive = SetFormAlpha(*m_screen, kInvisible, FadeDemand::WhenEnabled, m_settings);
     m_fadesIn = m_shared.FadeActive;
+    m_leaves = false;
+    // It may have faded out the last time.
+    if (!m_fadesIn && m_screen->windowOpacity() < 1) applyOpacity(*m_screen, kOpaque);
 }
 
 void QtScreenFade::activate() {
@@ -33,7 +36,7 @@ void QtScreenFade::activate() {
 }
 
 void QtScreenFade::leave(std::function<void()> leavingWork, int step) {
-    if (m_leavingWork) return;
+    if (std::exchange(m_leaves, true)) return;
     m_shared.FadeActive = SetFormAlpha(*m_screen, kOpaque, FadeDemand::WhenEnabled, m_settings);
     if (!m_shared.FadeActive) return leavingWork();
     m_leavingWork = std::move(leavingWork);

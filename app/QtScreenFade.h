@@ -32,7 +32,7 @@ class QtScreenFade : public QObject {
     void activate();
 
     /// Fades the screen out by `step` a tick and then does the work of leaving it, or does that
-    /// at once. A screen that is leaving already goes on with it.
+    /// at once. Does nothing when the screen is leaving already.
     void leave(std::function<void()> leavingWork, int step = kFadeStep);
 
     bool isFading() const { return m_fade.isActive(); }
@@ -50,7 +50,7 @@ class QtScreenFade : public QObject {
     Fade m_fade;
     QElapsedTimer m_sinceStep;
     std::function<void()> m_leavingWork;
-    bool m_fadesIn = false;
+    bool m_fadesIn = false, m_leaves = false;
 };
 
 }  // namespace skylob

@@ -52,9 +52,13 @@ int readScreenSize(const SettingsStore& store) {
     return readChoice(store, "ScreenSize");
 }
 
-int readNumRounds(const SettingsStore& store) {
+int readRoundsChoice(const SettingsStore& store) {
+    return readChoice(store, "NumRounds");
+}
+
+int roundsForChoice(int choice) {
     constexpr std::array kRounds{5, 10, 20};
-    return kRounds.at(static_cast<std::size_t>(readChoice(store, "NumRounds") - 1));
+    return kRounds.at(static_cast<std::size_t>(choice - 1));
 }
 
 bool readFadeStatus(const SettingsStore& store) {

@@ -21,8 +21,11 @@ int readGameSpeed(const SettingsStore& store);
 /// The size of the battle screen: 1 small, 2 normal (the default), 3 large.
 int readScreenSize(const SettingsStore& store);
 
-/// The rounds of a set, from the stored choice 1, 2 (the default) or 3: 5, 10 or 20.
-int readNumRounds(const SettingsStore& store);
+/// The choice of rounds in a set: 1, 2 (the default) or 3.
+int readRoundsChoice(const SettingsStore& store);
+
+/// The rounds that such a choice means: 5, 10 or 20.
+int roundsForChoice(int choice);
 
 /// Whether screens are to fade: "True" in any case of letters, or a number other than 0.
 bool readFadeStatus(const SettingsStore& store);

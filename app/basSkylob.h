@@ -21,7 +21,10 @@ struct basSkylob {
     int NumRounds = 10;               ///< rounds in a set: 5, 10 or 20
     int GameSpeed = 50;               ///< animation speed, 1 (slow) to 99
     int ScreenSize = 2;               ///< battle screen: 1 small, 2 normal, 3 large
+    bool FadeStatus = false;          ///< the user wants screens to fade
     bool FadeActive = false;          ///< the screen that came or went last could fade
+
+    std::string PlayerFileName = "Skylob.Data";  ///< in the working directory
 
     PerSide<int> RoundsWon;   ///< rounds won in this set
     PerSide<int> RoundKills;  ///< enemy men killed in this round

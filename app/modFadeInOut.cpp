@@ -6,6 +6,7 @@
 #include <QWidget>
 #include <cstdlib>
 #include <memory>
+#include <string_view>
 
 #include "app/Fade.h"
 #include "app/Settings.h"

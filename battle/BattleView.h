@@ -3,11 +3,9 @@
 #include <functional>
 
 #include "battle/BattlePanel.h"
+#include "players/SummaryKind.h"
 
 namespace skylob {
-
-/// What a summary sums up; its heading's last word.
-enum class SummaryKind { Round, Set };
 
 enum class BattleCursor { Normal, Hourglass };
 

@@ -4,6 +4,10 @@
 
 namespace skylob {
 
+std::optional<std::string> AgreeingBoxes::ask(const InputBox& box) {
+    return box.entry;
+}
+
 BoxAnswer AgreeingBoxes::show(const MessageBox& box) {
     return box.buttons == BoxButtons::YesNo ? BoxAnswer::Yes : BoxAnswer::Ok;
 }

@@ -28,6 +28,7 @@ class SilentSounds : public SoundPlayer {
 class AgreeingBoxes : public MessageBoxes {
   public:
     BoxAnswer show(const MessageBox& box) override;
+    std::optional<std::string> ask(const InputBox& box) override;
 };
 
 /// Settings that last as long as the object.

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <QGroupBox>
-
+#include "app/QtSideFrame.h"
 #include "battle/BattlePanel.h"
 #include "battle/frmPlayGameLayout.h"
 
@@ -18,9 +17,8 @@ QScrollBar* makeScrollBar(const ScrollBar& bar, const QRect& place, QWidget* par
 /// Puts a value on a scroll bar without its telling anybody.
 void showValue(QScrollBar& widget, const ScrollBar& bar);
 
-/// One side's frame: name, speed and angle, men left. A round badge marks side 1 and a diamond
-/// side 2, so that colour is never the only difference.
-class QtSidePanel : public QGroupBox {
+/// One side's frame: name, speed and angle, men left.
+class QtSidePanel : public QtSideFrame {
     Q_OBJECT
 
   public:
@@ -37,12 +35,7 @@ class QtSidePanel : public QGroupBox {
     void speedMoved(int side, int value);
     void angleMoved(int side, int value);
 
-  protected:
-    void paintEvent(QPaintEvent* event) override;
-
   private:
-    int m_side;
-    bool m_isTurn = false;
     QLabel *m_labelSpeed, *m_labelAngle, *m_labelMenLeft;
     QScrollBar *m_scrollSpeed, *m_scrollAngle;
     QtMenGauge* m_menGauge;

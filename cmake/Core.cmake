@@ -28,10 +28,13 @@ add_library(skylob_core STATIC
     controls/GlintPalette.cpp
     controls/TransferPicture.cpp
     players/Commentary.cpp
+    players/Lobby.cpp
+    players/Pairing.cpp
     players/PlayerFile.cpp
     players/PlayerRecord.cpp
     players/Ranking.cpp
     players/SetResult.cpp
+    players/Summary.cpp
     players/Windows1252.cpp
 )
 target_sources(skylob_core PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR} FILES
@@ -78,10 +81,14 @@ target_sources(skylob_core PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DI
     controls/PropertyBag.h
     controls/TransferPicture.h
     players/Commentary.h
+    players/Lobby.h
+    players/Pairing.h
     players/PlayerFile.h
     players/PlayerRecord.h
     players/Ranking.h
     players/SetResult.h
+    players/Summary.h
+    players/SummaryKind.h
     players/Windows1252.h
 )
 # Each header compiles by itself: a test builds the target that this makes.

@@ -14,6 +14,7 @@ add_library(skylob_ui STATIC
     app/QtScreenFade.cpp
     app/QtSettingsStore.cpp
     app/QtShapes.cpp
+    app/QtSideFrame.cpp
     app/SdlSoundPlayer.cpp
     app/modFadeInOut.cpp
     battle/QtMenGauge.cpp
@@ -27,6 +28,11 @@ add_library(skylob_ui STATIC
     controls/GlintButtonPictures.cpp
     controls/GlintPainter.cpp
     controls/QtPropertyBagFile.cpp
+    players/PlayerGridModel.cpp
+    players/QtChosenPlayer.cpp
+    players/QtPlayerGrid.cpp
+    players/frmGetPlayers.cpp
+    players/frmGetSkillLevel.cpp
     players/frmSummary.cpp
 )
 set_target_properties(skylob_ui PROPERTIES AUTOMOC ON)

@@ -1,8 +1,11 @@
 #include "players/PlayerFile.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <utility>
 #include <vector>
+
+#include "app/TrimBlanks.h"
 
 namespace skylob {
 
@@ -26,8 +29,8 @@ int PlayerFile::measure(const RandomAccessFile& file) const {
     constexpr std::int64_t length = kRecordLength;
     const std::int64_t count = (file.length() + length / 2) / length;
     if (count > kMostPlayers) {
-        throw FileError{"There are more players in " + PlayerFileName + " than " +
-                        std::to_string(kMostPlayers) + ", which is too many."};
+        throw FileError{PlayerFileName + " would hold more than " + std::to_string(kMostPlayers) +
+                        " players, which is too many."};
     }
     return static_cast<int>(count);
 }
@@ -45,8 +48,17 @@ void PlayerFile::OpenPlayerFile() {
 void PlayerFile::ClosePlayerFile() {
     if (!PlayerFileHandle) return;
     const auto file = std::move(PlayerFileHandle);
+    const bool written = std::exchange(m_written, false);
     PlayerCount = measure(*file);
-    if (std::exchange(m_written, false)) file->sync();
+    if (written) file->sync();
+}
+
+void PlayerFile::abandon() noexcept {
+    try {
+        ClosePlayerFile();
+    } catch (const FileError&) {
+        // Another error is on its way already.
+    }
 }
 
 void PlayerFile::readRecord(int number) {
@@ -56,8 +68,8 @@ void PlayerFile::readRecord(int number) {
 
 void PlayerFile::writeRecord(int number) {
     if (number > kMostPlayers) {
-        throw FileError{"There are " + std::to_string(kMostPlayers) + " players in " +
-                        PlayerFileName + ". No more can be added."};
+        throw FileError{PlayerFileName + " holds " + std::to_string(kMostPlayers) +
+                        " players. No more can be added."};
     }
     const auto record = packRecord(CurrentRecord);
     const std::string_view bytes{record.data(), record.size()};
@@ -68,7 +80,25 @@ void PlayerFile::writeRecord(int number) {
     m_bytes.replace(offset, kRecordLength, bytes);
 }
 
-void PlayerFile::rewrite(std::span<const int> recordNumbers) {
+std::vector<PlayerRecord> PlayerFile::readAll() {
+    OpenPlayerFile();
+    std::vector<PlayerRecord> records;
+    for (int number = 1; number <= PlayerCount; ++number) {
+        readRecord(number);
+        records.push_back(CurrentRecord);
+    }
+    ClosePlayerFile();
+    return records;
+}
+
+bool PlayerFile::NameAlreadyExists(std::string_view name) {
+    const auto records = readAll();
+    return std::any_of(records.begin(), records.end(), [name](const PlayerRecord& record) {
+        return nameOf(record) == trimBlanks(name);
+    });
+}
+
+std::unique_ptr<RandomAccessFile> PlayerFile::writeTempFile(std::span<const int> recordNumbers) {
     auto TempFileHandle = m_files.open(m_tempFileName);
     std::string list;
     std::int16_t place = 0;
@@ -80,19 +110,20 @@ void PlayerFile::rewrite(std::span<const int> recordNumbers) {
         list.append(record.data(), record.size());
     }
     TempFileHandle->write(0, list);
+    measure(*TempFileHandle);  // an older one may have been too long
     TempFileHandle->sync();
+    return TempFileHandle;
+}
+
+void PlayerFile::rewrite(std::span<const int> recordNumbers) {
+    writeTempFile(recordNumbers).reset();
     ClosePlayerFile();
-    TempFileHandle.reset();
-    if (recordNumbers.empty()) {
-        m_files.remove(PlayerFileName);
-        m_files.remove(m_tempFileName);
-    } else {
-        m_files.replace(m_tempFileName, PlayerFileName);
-    }
+    m_files.replace(m_tempFileName, PlayerFileName);
 }
 
 void PlayerFile::addPlayer(std::string_view name) {
     OpenPlayerFile();
+    const ClosedAtEnd closed{*this};
     CurrentRecord = {};
     setName(CurrentRecord, name);
     writeRecord(PlayerCount + 1);
@@ -101,6 +132,7 @@ void PlayerFile::addPlayer(std::string_view name) {
 
 void PlayerFile::renamePlayer(int number, std::string_view name) {
     OpenPlayerFile();
+    const ClosedAtEnd closed{*this};
     readRecord(number);
     setName(CurrentRecord, name);
     writeRecord(number);
@@ -109,10 +141,15 @@ void PlayerFile::renamePlayer(int number, std::string_view name) {
 
 void PlayerFile::deletePlayer(int number) {
     OpenPlayerFile();
+    const ClosedAtEnd closed{*this};
     std::vector<int> others;
     for (int other = 1; other <= PlayerCount; ++other)
         if (other != number) others.push_back(other);
-    rewrite(others);
+    if (!others.empty()) return rewrite(others);
+    writeTempFile(others).reset();
+    ClosePlayerFile();
+    m_files.remove(PlayerFileName);
+    m_files.remove(m_tempFileName);
 }
 
 }  // namespace skylob

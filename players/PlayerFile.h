@@ -4,6 +4,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "app/FileSystem.h"
 #include "players/PlayerRecord.h"
@@ -11,7 +12,7 @@
 namespace skylob {
 
 /// The list of players on disk: records of 29 bytes, numbered from 1, nothing before or behind
-/// them. It is open only while something is done with it.
+/// them. It is open only while something is done with it, also when that fails.
 ///
 /// Errors: every member throws FileError when the disk refuses, and when the list holds or would
 /// hold more than 32,767 players. The files are then as they were before the step that failed.
@@ -32,16 +33,34 @@ class PlayerFile {
     /// it is not open.
     void ClosePlayerFile();
 
+    /// Sees to it that an open file is closed at the end of a block, also when something in it
+    /// fails.
+    class ClosedAtEnd {
+      public:
+        explicit ClosedAtEnd(PlayerFile& file) : m_file{file} {}
+        ~ClosedAtEnd() { m_file.abandon(); }
+        ClosedAtEnd(const ClosedAtEnd&) = delete;
+        ClosedAtEnd& operator=(const ClosedAtEnd&) = delete;
+
+      private:
+        PlayerFile& m_file;
+    };
+
     /// For an open file and record numbers of 1..PlayerCount; one more may be written and is then
     /// the new last. Damaged records read as whatever they hold, missing bytes as zero.
     void readRecord(int number);
     void writeRecord(int number);
 
+    /// Opens the file, reads all of it, and closes it.
+    std::vector<PlayerRecord> readAll();
+
+    /// Whether a player of exactly this name, blanks at its ends aside, is in the list.
+    bool NameAlreadyExists(std::string_view name);
+
     /// Makes the records with these numbers, in this order, the whole list: whoever has played a
     /// set is ranked by the place in it, the others get 0. The file must be open and is closed
-    /// then. The new list takes the old one's place in one step, when it is safe on the disk; an
-    /// empty one leaves no file. An older "TempFile.$$$" is not cut short: records that it has
-    /// beyond these stay in the list.
+    /// then. The new list takes the old one's place in one step, when it is safe on the disk. An
+    /// older "TempFile.$$$" is not cut short: records that it has beyond these stay in the list.
     void rewrite(std::span<const int> recordNumbers);
 
     /// Puts a new player, without any set, at the end. `name` as for setName().
@@ -50,18 +69,21 @@ class PlayerFile {
     /// Changes the name of a record and nothing else.
     void renamePlayer(int number, std::string_view name);
 
-    /// Takes a record out and ranks the others by their places.
+    /// Takes a record out and ranks the others by their places. Without the last one there is no
+    /// file any more.
     void deletePlayer(int number);
 
   private:
     int measure(const RandomAccessFile& file) const;
+    std::unique_ptr<RandomAccessFile> writeTempFile(std::span<const int> recordNumbers);
+    void abandon() noexcept;
 
     FileSystem& m_files;
     std::string PlayerFileName;
     std::string m_tempFileName;
     std::unique_ptr<RandomAccessFile> PlayerFileHandle;
-    std::string m_bytes;  ///< all that the open file holds
-    bool m_written = false;
+    std::string m_bytes;     ///< all that the open file holds
+    bool m_written = false;  ///< and not yet brought to the disk
 };
 
 }  // namespace skylob

@@ -39,6 +39,14 @@ void setName(PlayerRecord& record, std::string_view name) {
     std::copy(bytes.begin(), bytes.end(), record.Name.begin());
 }
 
+std::string nameOnFile(std::string_view name) {
+    // Characters that show as blanks at the ends are no part of the name either.
+    const std::string shown = fromWindows1252(toWindows1252(name));
+    PlayerRecord record;
+    setName(record, trimBlanks(shown));
+    return nameOf(record);
+}
+
 Bytes packRecord(const PlayerRecord& record) {
     Bytes bytes{};
     std::copy(record.Name.begin(), record.Name.end(), bytes.begin());

@@ -39,6 +39,9 @@ std::string nameOf(const PlayerRecord& record);
 /// characters is cut.
 void setName(PlayerRecord& record, std::string_view name);
 
+/// What a name comes back as once a record has held it. Names are compared in this form.
+std::string nameOnFile(std::string_view name);
+
 /// A record as the file has it, in whole numbers of two bytes with the lower one first.
 std::array<char, kRecordLength> packRecord(const PlayerRecord& record);
 

@@ -73,12 +73,12 @@ std::string formatKey(float key) {
 
 void RecordSetResults(PlayerFile& file, const basSkylob& shared) {
     file.OpenPlayerFile();
+    const PlayerFile::ClosedAtEnd closed{file};
     countSetOf(file, shared);
-    if (file.PlayerCount == 1) {
+    if (file.PlayerCount == 1)
         file.ClosePlayerFile();
-        return;
-    }
-    file.rewrite(rankingOrder(file));
+    else
+        file.rewrite(rankingOrder(file));
 }
 
 }  // namespace skylob

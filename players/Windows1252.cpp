@@ -31,6 +31,13 @@ std::size_t lengthByLead(std::size_t lead) {
     return 1;
 }
 
+/// Whether a character may be written in so many bytes: in no more than it needs, and not the
+/// halves of another encoding's pairs.
+bool isCharacter(char32_t character, std::size_t length) {
+    if (length == 3) return character >= 0x800 && (character < 0xD800 || character > 0xDFFF);
+    return length < 4 || (character >= 0x10000 && character <= 0x10FFFF);
+}
+
 /// Takes the first character off a text that has one.
 char32_t takeCharacter(std::string_view& utf8) {
     const std::size_t lead = byteAt(utf8, 0);
@@ -42,6 +49,7 @@ char32_t takeCharacter(std::string_view& utf8) {
         whole = (byteAt(utf8, place) & 0xC0) == 0x80;
         character = character << 6 | static_cast<char32_t>(byteAt(utf8, place) & 0x3F);
     }
+    whole = whole && isCharacter(character, length);
     utf8.remove_prefix(whole ? length : 1);
     return whole ? character : kNoCharacter;
 }

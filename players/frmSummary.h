@@ -2,20 +2,46 @@
 
 #include <QDialog>
 
-#include "app/basSkylob.h"
-#include "battle/BattleView.h"
+#include "app/SettingsStore.h"
+#include "players/Summary.h"
+
+class QLabel;
 
 namespace skylob {
 
+class QtScreenFade;
 class QtShapes;
 
-/// What a round or a set came to: a heading and both players' figures. Run it with exec().
+/// The screen after every round, and after the set. However the user closes it, a finished set is
+/// recorded. Run it with exec().
 class frmSummary : public QDialog {
     Q_OBJECT
 
   public:
-    /// `shapes` must outlive the screen.
-    frmSummary(const basSkylob& shared, SummaryKind kind, const QtShapes& shapes);
+    /// All references must outlive the screen.
+    frmSummary(basSkylob& shared, SummaryKind kind, const SummaryPorts& ports,
+               const SettingsStore& settings, const QtShapes& shapes);
+
+    void reject() override;
+
+  protected:
+    void showEvent(QShowEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    void makeFrames();
+    void makeBubble();
+    void makeOkay();
+    void Form_Activate();
+    void timerDateTime_Timer();
+    void cmdOkay_Click();
+
+    basSkylob& m_shared;
+    const QtShapes& m_shapes;
+    Summary m_summary;
+    QtScreenFade* m_fade;
+    QLabel *label, *labelDateTime, *labelComputerSays;
+    bool m_activated = false, m_answered = false;
 };
 
 }  // namespace skylob

@@ -30,7 +30,7 @@ TEST(Settings, MakeSenseOfAnyText) {
         for (const char* key : {"GameSpeed", "NumRounds", "ScreenSize", "Flag"})
             store.save(key, row.text);
         EXPECT_EQ(settings::readGameSpeed(store), row.gameSpeed);
-        EXPECT_EQ(settings::readNumRounds(store), row.numRounds);
+        EXPECT_EQ(settings::roundsForChoice(settings::readRoundsChoice(store)), row.numRounds);
         EXPECT_EQ(settings::readScreenSize(store), row.screenSize);
         EXPECT_EQ(settings::readFlag(store, "Flag", true), row.flagOrOn);
         EXPECT_EQ(settings::readFlag(store, "Flag", false), row.flagOrOff);

@@ -5,7 +5,7 @@
 
 #include <csignal>
 
-#include "players/Ranking.h"
+#include "players/Windows1252.h"
 #include "tests/support/FileFakes.h"
 
 namespace skylob::test {
@@ -39,11 +39,29 @@ TEST_F(PlayerFileTest, AddsAndRenamesInPlace) {
     EXPECT_EQ(file.PlayerCount, 4);
     file.readRecord(4);
     EXPECT_EQ(nameOf(file.CurrentRecord), "Zo\xC3\xAB \xE2\x82\xAC ? ? ?");
+    std::string tooLong;  // twenty-one characters of two bytes each
+    for (int i = 0; i < 21; ++i) tooLong += "\xC3\xAB";
+    EXPECT_EQ(nameOnFile("  " + tooLong), tooLong.substr(0, 40));
+    EXPECT_EQ(nameOnFile(" \t "), "");
 
     put(record("Twenty characters...", "\4\0\3\0\x2C\1\1\0\x7F"s) + record("Bob", kNew));
     file.renamePlayer(1, "Al");
     EXPECT_EQ(bytes(), record("Al", "\4\0\3\0\x2C\1\1\0\x7F"s) + record("Bob", kNew));
     EXPECT_EQ(folder.content(), "Skylob.Data ");
+}
+
+TEST(Windows1252, HasSpecialCharactersOfItsOwn) {
+    const std::string bytes =
+        "\x80\x82\x83\x84\x85\x86\x87\x88\x89\x8A\x8B\x8C\x8E\x91\x92\x93\x94\x95\x96\x97\x98\x99"
+        "\x9A\x9B"
+        "\x9C\x9E\x9F\xA0\xFF";
+    const std::string utf8 = "€‚ƒ„…†‡ˆ‰Š‹ŒŽ‘’“”•–—˜™š›œžŸ\xC2\xA0ÿ";
+    EXPECT_EQ(fromWindows1252(bytes), utf8);
+    EXPECT_EQ(toWindows1252(utf8), bytes);
+    // Longer than need be, half of a pair, beyond the last one, cut off.
+    for (const char* wrong :
+         {"\xE0\x81\x81", "\xED\xA0\x80", "\xF4\x90\x80\x80", "\xE2\x82", "\xC2\x81"})
+        EXPECT_EQ(toWindows1252(wrong).find_first_not_of('?'), std::string::npos) << wrong;
 }
 
 TEST_F(PlayerFileTest, CountsAndShowsWhateverItHolds) {
@@ -114,6 +132,12 @@ TEST_F(PlayerFileTest, RefusesTooManyPlayers) {
     file.renamePlayer(32767, "Bob");
     EXPECT_EQ(bytes().substr(29 * 32766), record("Bob", kNew));
 
+    putBytes(tempPath, most + record("One more", kNew));
+    const std::string two = record("Ann", kNew) + record("Bob", kNew);
+    put(two);
+    EXPECT_THROW(file.deletePlayer(1), FileError);
+    EXPECT_EQ(bytes(), two);
+
     put(most + "fifteen bytes..");
     EXPECT_THROW(file.renamePlayer(1, "Bob"), FileError);
     EXPECT_THROW(file.deletePlayer(1), FileError);
@@ -128,6 +152,10 @@ TEST_F(PlayerFileTest, TellsWhatFailedAndChangesNothing) {
         files.failing = failing;
         EXPECT_THROW(file.deletePlayer(2), FileError) << failing;
         EXPECT_EQ(bytes(), before) << failing;
+        files.failing.clear();
+        file.OpenPlayerFile();  // nothing of the failure is left behind
+        EXPECT_EQ(file.PlayerCount, 2) << failing;
+        file.ClosePlayerFile();
     }
     for (const char* failing : {"write Skylob.Data", "sync Skylob.Data", "remove Skylob.Data"}) {
         put(record("Ann", kNew));

@@ -130,6 +130,7 @@ TEST_F(RecordSetResultsTest, LeavesASinglePlayerUnranked) {
     EXPECT_EQ(recordIn(record("Ann", kNew)), record("Ann", "\1\0\1\0\x68\0\0\0\0"s));
     EXPECT_EQ(folder.content(), "Skylob.Data ");
     EXPECT_EQ(recordIn(""), "");
+    EXPECT_EQ(folder.content(), "Skylob.Data ");
 }
 
 TEST_F(RecordSetResultsTest, KnowsTheComputerByItsName) {

@@ -39,12 +39,95 @@ window() { xdotool search --onlyvisible --name "$1" 2>/dev/null | head -n 1; }
 is_shown() { [[ -n $(window "$1") ]]; }
 is_over() { ! kill -0 "$game" 2>/dev/null; }
 
-# start_game OPTION...: starts the program and waits for the battle.
+lobby="Skylob - Player List"
+battle="Skylob - Battlefield"
+skill="Select a Skill Level"
+
+# The player file, in which `players RECORD...` puts records of NAME:PLAYED:WON:AVERAGE:RANKING and
+# `expect_players RECORD...` compares it with them.
+list=$work/data/Skylob.Data
+two_bytes() { printf '\\x%02x\\x%02x' $(($1 & 255)) $(($1 >> 8 & 255)); }
+records() {
+    local record name figures figure
+    for record in "$@"; do
+        IFS=: read -r name figures <<<"$record:0:0:0:0"
+        printf '%-20s' "$name"
+        for figure in $(cut -d: -f1-4 <<<"$figures" | tr : ' '); do
+            printf "$(two_bytes "$figure")"
+        done
+        printf '\0'
+    done
+}
+players() { records "$@" >"$list"; }
+holds_players() { records "$@" | cmp - "$list"; }
+expect_players() {
+    until_true 5 holds_players "$@" || fail "not these players: $*: $(od -c "$list")"
+}
+expect_setting() { grep -qxF "$1" "$settings" || fail "no $1 in: $(<"$settings")"; }
+
+shown() { [[ -n $(window "$1") ]]; }
+is_over() { ! kill -0 "$game" 2>/dev/null; }
+
+lobby="Skylob - Player List"
+battle="Skylob - Battlefield"
+skill="Select a Skill Level"
+
+# The player file, in which `players RECORD...` puts records of NAME:PLAYED:WON:AVERAGE:RANKING and
+# `expect_players RECORD...` compares it with them.
+list=$work/data/Skylob.Data
+two_bytes() { printf '\\x%02x\\x%02x' $(($1 & 255)) $(($1 >> 8 & 255)); }
+records() {
+    local record name figures figure
+    for record in "$@"; do
+        IFS=: read -r name figures <<<"$record:0:0:0:0"
+        printf '%-20s' "$name"
+        for figure in $(cut -d: -f1-4 <<<"$figures" | tr : ' '); do
+            printf "$(two_bytes "$figure")"
+        done
+        printf '\0'
+    done
+}
+players() { records "$@" >"$list"; }
+expect_players() {
+    records "$@" | cmp - "$list" || fail "not these players: $*: $(od -c "$list")"
+}
+expect_setting() { grep -qxF "$1" "$settings" || fail "no $1 in: $(<"$settings")"; }
+
+shown() { until_true "${2:-20}" is_shown "$1" || fail "no window '$1': $(<"$work/stderr")"; }
+gone() { until_true "${2:-20}" not is_shown "$1" || fail "the window '$1' stays"; }
+not() { ! "$@"; }
+
+# start_game OPTION...: starts the program and waits for the player list.
 start_game() {
     "$program" --data-dir "$work/data" "$@" 2>"$work/stderr" &
     game=$!
-    until_true 20 is_shown "Skylob - Battlefield" || fail "no battle: $(<"$work/stderr")"
+    shown "$lobby"
+    sleep 0.5 # the list is filled
+}
+
+# start_battle: lets the first player of the list fight the second.
+start_battle() {
+    press "$lobby" Home Return Down Return
+    shown "$battle"
     sleep 0.5 # the first picture
+}
+
+# start_battle_with_computer KEY: lets the first player fight the computer at the level of a key.
+start_battle_with_computer() {
+    press "$lobby" Home Return alt+c
+    shown "$skill"
+    press "$skill" "alt+$1"
+    shown "$battle"
+    sleep 0.5
+}
+
+leave_program() {
+    shown "$lobby"
+    sleep 0.5 # it may be fading in
+    press "$lobby" Escape
+    shown Confirm
+    press Confirm alt+y
+    expect_exit 10
 }
 
 # press WINDOW KEY...: gives the window the focus and presses keys.

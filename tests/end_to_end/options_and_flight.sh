@@ -4,19 +4,21 @@
 # read at the next start; the window's frame and Esc leave the set.
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 
-expect_setting() { grep -qxF "$1" "$settings" || fail "no $1 in: $(<"$settings")"; }
-battle() { press "Skylob - Battlefield" "$@"; }
+
+battle() { press "$battle" "$@"; }
 
 printf '[Defaults]\nGameSpeed=20\nSoundSetting=maybe\n' >"$settings"
+players Ann Bob
 start_display
-start_game --seed 5
+start_game --seed 1
+start_battle
 before=0
-import -window "$(window "Skylob - Battlefield")" "$work/idle.png"
+import -window "$(window "$battle")" "$work/idle.png"
 (($(pixels_of "$work/idle.png" '#F2B92E') > 0)) || fail "the shoot button is not golden"
 battle alt+s
 for i in 1 2 3; do
     sleep 0.6
-    import -window "$(window "Skylob - Battlefield")" "$work/flight$i.png"
+    import -window "$(window "$battle")" "$work/flight$i.png"
     red=$(pixels_of "$work/flight$i.png" '#FF0000')
     ((red > before)) || fail "the trail does not grow in flight: $red pixels after $before"
     before=$red
@@ -26,18 +28,21 @@ done
 # Pressed in flight: neither leaves the set nor fires again.
 battle Escape alt+s
 sleep 6
-is_over && fail "a key pressed in flight was obeyed"
+is_shown "$battle" || fail "a key pressed in flight was obeyed"
 battle alt+t alt+w
 sleep 0.5 # a box shows for a moment that it is pressed
 battle Escape
-expect_exit 10
+gone "$battle"
+leave_program
 expect_setting TrajectorySetting=0
 expect_setting WindSetting=1
 expect_setting SoundSetting=1
 expect_setting GameSpeed=20
 
 start_game
-xdotool windowfocus --sync "$(window "Skylob - Battlefield")" key alt+F4
-expect_exit 10
+start_battle
+battle alt+F4
+gone "$battle"
 expect_setting TrajectorySetting=0
 expect_setting WindSetting=1
+leave_program

@@ -93,7 +93,18 @@ class QueuedBoxes : public MessageBoxes {
         return answer;
     }
 
+    std::optional<std::string> ask(const InputBox& box) override {
+        m_log.push_back("ask " + box.title);
+        asked.push_back(box);
+        if (entries.empty()) throw std::logic_error("unexpected question: " + box.prompt);
+        const auto entry = entries.front();
+        entries.pop_front();
+        return entry;
+    }
+
     std::deque<BoxAnswer> answers;
+    std::deque<std::optional<std::string>> entries;
+    std::vector<InputBox> asked;
     std::vector<MessageBox> shown;
 
   private:

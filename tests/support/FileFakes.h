@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <set>
 #include <string>
 
 #include "app/DiskFiles.h"
@@ -25,10 +26,12 @@ class TempFolder {
 
     /// The names of what is in it, sorted, each followed by a blank.
     std::string content() const {
-        std::string names;
-        for (const char* name : {"Skylob.Data", "TempFile.$$$"})
-            if (std::filesystem::exists(m_path / name)) names += std::string{name} + ' ';
-        return names;
+        std::set<std::string> names;
+        for (const auto& entry : std::filesystem::directory_iterator{m_path})
+            names.insert(entry.path().filename());
+        std::string list;
+        for (const std::string& name : names) list.append(name).append(" ");
+        return list;
     }
 
   private:

@@ -1,0 +1,109 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "app/Clock.h"
+#include "app/LinkOpener.h"
+#include "app/MessageBoxes.h"
+#include "app/SettingsStore.h"
+#include "app/SoundPlayer.h"
+#include "app/basSkylob.h"
+#include "players/Pairing.h"
+#include "players/PlayerFile.h"
+
+namespace skylob {
+
+/// The player list screen as its rules see it.
+class LobbyView {
+  public:
+    virtual ~LobbyView() = default;
+
+    /// Shows these records, in this order, and highlights the first of them.
+    virtual void fillGrid(std::vector<PlayerRecord> records) = 0;
+
+    /// Moves the highlight to the row, from 0, or to the last one if there are not so many.
+    virtual void highlightRow(int row) = 0;
+
+    virtual void showPairing(const Pairing& pairing) = 0;
+
+    /// Brings the option buttons in line with the stored settings.
+    virtual void showOptions() = 0;
+
+    /// Whether this display can show a fading screen.
+    virtual bool canFade() = 0;
+
+    /// Asks for the computer's skill level; returns when the question is gone.
+    virtual void chooseSkillLevel() = 0;
+
+    /// The screen goes and the battle, or nothing, comes after it.
+    virtual void leaveForBattle() = 0;
+    virtual void leaveProgram() = 0;
+};
+
+struct LobbyPorts {
+    PlayerFile& file;
+    const Clock& clock;
+    MessageBoxes& boxes;
+    SettingsStore& settings;
+    SoundPlayer& sounds;
+    LinkOpener& links;
+    LobbyView& view;
+};
+
+/// A row of the list, as the screen tells it: what is in its name and record number columns.
+struct ListedPlayer {
+    int recordNumber = 0;
+    std::string name;
+};
+
+/// The player list screen's rules: who plays whom, the care of the list, the options. Errors of
+/// the player file pass through all of it as FileError.
+class Lobby {
+  public:
+    static constexpr std::string_view kAddToolTip = " Add a New Player to the List ";
+    static constexpr std::string_view kModifyToolTip = " Change the Highlighted Player's Name ";
+
+    /// `shared` and everything in `ports` must outlive the lobby.
+    Lobby(basSkylob& shared, const LobbyPorts& ports);
+
+    /// Takes the options over from the settings and fills the grid; later calls do nothing.
+    void Form_Activate();
+
+    void grid_DblClick(const ListedPlayer& player);
+    void labelPlayerName_DblClick();
+    void chkComputer_Click(bool ticked);
+
+    /// Without a highlighted player the last two do nothing.
+    void cmdAdd_Click();
+    void cmdModify_Click(const std::optional<ListedPlayer>& highlighted);
+    void cmdDelete_Click(const std::optional<ListedPlayer>& highlighted);
+
+    /// The index of the button, from 1. Playing field sizes are small, normal and large, sets have
+    /// 5, 10 or 20 rounds, fading is enabled or disabled.
+    void optScreenSize_Click(int index);
+    void optRounds_Click(int index);
+    void optFormFade_Click(int index);
+
+    void cmdEmailFriend_Click();
+    void cmdQuit_Click();
+
+    const Pairing& pairing() const { return m_pairing; }
+
+  private:
+    void UpdateGrid();
+    void StartBattle();
+    void showPairing();
+    std::optional<std::string> askForName(std::string prompt, std::string_view toolTip,
+                                          std::string name);
+
+    basSkylob& m_shared;
+    LobbyPorts m_ports;
+    Pairing m_pairing;
+    bool m_activated = false;
+};
+
+}  // namespace skylob

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QAbstractTableModel>
+#include <vector>
+
+#include "players/PlayerRecord.h"
+
+namespace skylob {
+
+/// The player list as a table: name, sets, average, ranking, and the record's number in the file,
+/// by which a row's record is found again.
+class PlayerGridModel : public QAbstractTableModel {
+    Q_OBJECT
+
+  public:
+    enum Column { Name, Sets, Average, Ranking, RecordNumber, ColumnCount };
+
+    using QAbstractTableModel::QAbstractTableModel;
+
+    /// Takes the records of a file, in its order.
+    void fill(std::vector<PlayerRecord> records);
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+  private:
+    std::vector<PlayerRecord> m_records;
+};
+
+}  // namespace skylob

@@ -1,0 +1,80 @@
+#!/usr/bin/env bash
+# Usage: lobby.sh PROGRAM
+# A new player's first quarter of an hour, by keyboard alone: names are entered, changed and
+# deleted, two people play a set, the list is ranked, and everything is on the disk.
+source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
+
+# enter TITLE TEXT: types into an input box over what it holds.
+enter() {
+    shown "$1"
+    press "$1" ctrl+a BackSpace
+    xdotool type --delay 20 -- "$2"
+    xdotool key Return
+    gone "$1"
+}
+add() {
+    press "$lobby" alt+a
+    enter "Add a New Player" "$1"
+}
+
+printf '[Defaults]\nGameSpeed=99\nNumRounds=1\n' >"$settings"
+start_display
+start_game --seed 4
+shown "Empty Player List"
+press "Empty Player List" Return
+gone "Empty Player List"
+expect_players
+add "Ada & <b>Bert</b>"
+add "  A name of many letters  "
+expect_players "Ada & <b>Bert</b>" "A name of many lette"
+add "Ada & <b>Bert</b>"
+shown Error
+press Error Return
+press "$lobby" Down F2
+enter "Change the Highlighted" Grace
+expect_players "Ada & <b>Bert</b>" Grace
+add Eve
+press "$lobby" End Delete
+shown Confirm
+press Confirm Return # No
+gone Confirm
+expect_players "Ada & <b>Bert</b>" Grace Eve
+
+# Whoever shoots straight up is hit, loses, and opens the next round: five shots make a set.
+start_battle
+for round in 1 2 3 4 5; do
+    press "$battle" alt+a End alt+p Home alt+s
+    shown "Round Summary"
+    press "Round Summary" space
+    gone "Round Summary"
+done
+shown "Set Summary"
+press "Set Summary" Escape
+shown "Players Update"
+press "Players Update" Return
+shown "$lobby"
+# Five rounds and 500 enemies make 35 + 166, and a first average is one too high.
+expect_players "Ada & <b>Bert</b>:1:1:202:1" Eve Grace:1:0:1:3
+
+# A set that is left is not recorded.
+cp "$list" "$work/before"
+start_battle
+press "$battle" alt+a End alt+p Home alt+s
+shown "Round Summary"
+press "Round Summary" space
+gone "Round Summary"
+press "$battle" Escape
+shown Skylob
+press Skylob alt+y
+shown "$lobby"
+cmp "$list" "$work/before" || fail "a set that was left is recorded"
+expect_setting ScreenSize=2
+expect_setting NumRounds=1
+
+press "$lobby" Home Delete
+shown Confirm
+press Confirm alt+y
+gone Confirm
+expect_players Eve Grace:1:0:1:2
+leave_program
+[[ $(ls "$work/data") == Skylob.Data ]] || fail "left behind: $(ls "$work/data")"
