@@ -1,0 +1,201 @@
+#include "players/Lobby.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/support/Fakes.h"
+#include "tests/support/FileFakes.h"
+
+namespace skylob::test {
+
+namespace {
+
+const std::string kNew(9, '\0');
+
+struct RecordingLobbyView : LobbyView {
+    explicit RecordingLobbyView(Log& events) : log{events} {}
+
+    void fillGrid(std::vector<PlayerRecord> records) override {
+        std::string names = "grid";
+        for (const PlayerRecord& record : records) names += ' ' + nameOf(record);
+        log.push_back(names);
+    }
+    void highlightRow(int row) override { log.push_back("highlight " + std::to_string(row)); }
+    void showPairing(const Pairing& pairing) override {
+        log.push_back(pairing.labelPlayerName(1) + '|' + pairing.labelPlayerName(2) + '|' +
+                      std::string{pairing.frameCaption(1)} + '|' +
+                      (pairing.chkComputer() ? "computer" : ""));
+    }
+    void showOptions() override { log.push_back("options"); }
+    bool canFade() override { return fades; }
+    void chooseSkillLevel() override { log.push_back("skill"); }
+    void leaveForBattle() override { log.push_back("battle"); }
+    void leaveProgram() override { log.push_back("leave"); }
+
+    Log& log;
+    bool fades = false;
+};
+
+struct RecordingLinks : LinkOpener {
+    bool open(const std::string& link) override {
+        target = link;
+        return true;
+    }
+    std::string target;
+};
+
+struct LobbyTest : testing::Test {
+    /// What has happened since the last look.
+    Log events() { return std::exchange(log, {}); }
+    std::string bytes() const { return bytesOf(path); }
+
+    Log log;
+    TempFolder folder;
+    std::string path = folder / "Skylob.Data";
+    DiskFiles disk;
+    PlayerFile file{disk, path};
+    basSkylob shared;
+    HandSetClock clock;
+    QueuedBoxes boxes{log};
+    MemorySettings settings;
+    RecordingSounds sounds{log};
+    RecordingLinks links;
+    RecordingLobbyView view{log};
+    Lobby lobby{shared, {file, clock, boxes, settings, sounds, links, view}};
+};
+
+TEST_F(LobbyTest, PairsByDoubleClicks) {
+    const auto click = [this](const char* name) { lobby.grid_DblClick({1, name}); };
+    click("Ann");
+    click("Ann");
+    EXPECT_EQ(events(),
+              (Log{"Ann|| Double-click to UNselect |", "Ann|| Double-click to UNselect |"}));
+    lobby.labelPlayerName_DblClick();
+    lobby.chkComputer_Click(true);
+    lobby.labelPlayerName_DblClick();
+    lobby.chkComputer_Click(false);
+    EXPECT_EQ(events(), (Log{"|| Player 1 |", "|Computer| Player 1 |computer",
+                             "|Computer| Player 1 |computer", "|| Player 1 |"}));
+    click("Computer");
+    click("Computer");
+    EXPECT_EQ(events(), (Log{"|Computer| Player 1 |computer", "|Computer| Player 1 |computer"}));
+    settings.save("ScreenSize", "3");
+    lobby.optScreenSize_Click(1);
+    EXPECT_EQ(settings.get("ScreenSize", ""), "3");
+    click("Ann");
+    EXPECT_EQ(events(),
+              (Log{"Ann|Computer| Double-click to UNselect |computer", "skill", "battle"}));
+    EXPECT_EQ(shared.PlayerName, (PerSide<std::string>{"Ann", "Computer"}));
+    EXPECT_EQ(settings.get("ScreenSize", ""), "1");
+}
+
+TEST_F(LobbyTest, PairsTwoPeopleWithoutASkillLevel) {
+    lobby.grid_DblClick({1, "Ann"});
+    lobby.grid_DblClick({2, "ann"});
+    EXPECT_EQ(events().back(), "battle");
+    EXPECT_EQ(shared.PlayerName, (PerSide<std::string>{"Ann", "ann"}));
+}
+
+TEST_F(LobbyTest, TakesOptionsOverOnceAndStoresThem) {
+    settings.save("NumRounds", "3");
+    settings.save("ScreenSize", "1");
+    settings.save("FadeStatus", "True");
+    boxes.answers = {BoxAnswer::Ok, BoxAnswer::Ok};
+    lobby.Form_Activate();
+    lobby.Form_Activate();
+    EXPECT_EQ(events(), (Log{"options", "|| Player 1 |", "grid", "box Empty Player List"}));
+    EXPECT_EQ(boxes.shown[0].text,
+              "There are currently no players in the Player List.\r\n\r\nPlease add players to the "
+              "list, and then select them\r\nby double-clicking on the players' names.");
+    EXPECT_EQ(shared.NumRounds, 20);
+    EXPECT_EQ(shared.ScreenSize, 1);
+    EXPECT_TRUE(shared.FadeStatus);
+    lobby.optRounds_Click(1);
+    EXPECT_EQ(shared.NumRounds, 5);
+    EXPECT_EQ(settings.get("NumRounds", ""), "1");
+
+    lobby.optFormFade_Click(1);
+    EXPECT_EQ(events(), (Log{"options", "box Skylob"}));
+    EXPECT_EQ(boxes.shown[1].text, " This effect is not available on your operating system ");
+    EXPECT_FALSE(shared.FadeStatus);
+    EXPECT_EQ(settings.get("FadeStatus", ""), "False");
+    view.fades = true;
+    lobby.optFormFade_Click(1);
+    EXPECT_TRUE(shared.FadeStatus);
+    EXPECT_EQ(settings.get("FadeStatus", ""), "True");
+    lobby.optFormFade_Click(2);
+    EXPECT_EQ(settings.get("FadeStatus", ""), "False");
+}
+
+TEST_F(LobbyTest, AddsOnlyNewNames) {
+    boxes.entries = {"  Ann  ",
+                     std::nullopt,
+                     "   ",
+                     "ann",
+                     "Ann",
+                     "Twenty characters... and more",
+                     "Twenty characters..."};
+    boxes.answers = {BoxAnswer::Ok, BoxAnswer::Ok};
+    for (int i = 0; i < 7; ++i) lobby.cmdAdd_Click();
+    EXPECT_EQ(bytes(),
+              record("Ann", kNew) + record("ann", kNew) + record("Twenty characters...", kNew));
+    EXPECT_EQ(boxes.asked[0].title, "Add a New Player to the List ");
+    EXPECT_EQ(boxes.asked[0].prompt,
+              "Enter a Player's Name\r\n\r\n(The entry will be limited to 20 characters)");
+    EXPECT_EQ(boxes.asked[0].entry, "");
+    EXPECT_EQ(boxes.shown[0].title, "Error");
+    EXPECT_EQ(boxes.shown[0].text, "That name is already in the Player List!");
+    EXPECT_EQ(boxes.shown[0].icon, BoxIcon::Information);
+}
+
+TEST_F(LobbyTest, RenamesAndDeletesWhoIsHighlighted) {
+    putBytes(path, record("Ann", kNew) + record("Bob", kNew) + record("Cyd", kNew));
+    lobby.cmdModify_Click(std::nullopt);
+    lobby.cmdDelete_Click(std::nullopt);
+    lobby.grid_DblClick({2, "Bob"});
+    events();
+    boxes.entries = {"Bea"};
+    lobby.cmdModify_Click(ListedPlayer{2, "Bob"});
+    EXPECT_EQ(boxes.asked[0].title, "Change the Highlighted Player's Name ");
+    EXPECT_EQ(boxes.asked[0].prompt,
+              "Change name from Bob\r\nto...\r\n\r\n(The entry will be limited to "
+              "20 characters)");
+    EXPECT_EQ(boxes.asked[0].entry, "Bob");
+    EXPECT_EQ(events(),
+              (Log{"ask Change the Highlighted Player's Name ", "Bea|| Double-click to UNselect |",
+                   "grid Ann Bea Cyd", "highlight 1"}));
+
+    boxes.answers = {BoxAnswer::No, BoxAnswer::Yes};
+    lobby.cmdDelete_Click(ListedPlayer{2, "Bea"});
+    EXPECT_EQ(bytes().size(), 87U);
+    EXPECT_EQ(boxes.shown[0].text, "Are you sure you wish to remove Bea from the list?");
+    EXPECT_EQ(boxes.shown[0].preset, BoxAnswer::No);
+    events();
+    lobby.cmdDelete_Click(ListedPlayer{2, "Bea"});
+    EXPECT_EQ(events(), (Log{"box Confirm", "|| Player 1 |", "grid Ann Cyd", "highlight 1"}));
+    EXPECT_EQ(bytes(), record("Ann", kNew) + record("Cyd", kNew));
+}
+
+TEST_F(LobbyTest, SaysGoodbyeOnceInSixTimes) {
+    using namespace std::chrono_literals;
+    boxes.answers = {BoxAnswer::No, BoxAnswer::Yes, BoxAnswer::Yes};
+    lobby.cmdQuit_Click();
+    EXPECT_EQ(events(), Log{"box Confirm"});
+    clock.time = DateTime{5min + 9999ms};
+    lobby.cmdQuit_Click();
+    clock.time = DateTime{5min + 10s};
+    lobby.cmdQuit_Click();
+    EXPECT_EQ(events(), (Log{"box Confirm", "sound thatsall", "leave", "box Confirm", "leave"}));
+}
+
+TEST_F(LobbyTest, RecommendsTheGameInAWellFormedAddress) {
+    lobby.cmdEmailFriend_Click();
+    EXPECT_EQ(links.target.find("mailto:?subject="), 0U);
+    EXPECT_NE(links.target.find("&body="), std::string::npos);
+    EXPECT_NE(links.target.find("%0D%0A%0D%0Ahttp%3A%2F%2Fwww.example.org/skylob%0D%0A"),
+              std::string::npos);
+    EXPECT_EQ(links.target.find_first_of(" \r\n\"<>'!,"), std::string::npos);
+}
+
+}  // namespace
+
+}  // namespace skylob::test
