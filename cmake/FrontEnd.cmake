@@ -16,6 +16,7 @@ add_library(skylob_ui STATIC
     app/QtShapes.cpp
     app/SdlSoundPlayer.cpp
     app/modFadeInOut.cpp
+    battle/QtEffectTimers.cpp
     battle/QtMenGauge.cpp
     battle/QtSidePanel.cpp
     battle/frmPlayGame.cpp
