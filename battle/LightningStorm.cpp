@@ -27,6 +27,34 @@ int sidewaysStep(int tendency, int sense, int y) {
 
 }  // namespace
 
+FieldPoint boltStart(const Bolt& previous, RandomSource& random) {
+    const bool fromTheSky = previous.empty() || RandomInt(random, -1, 0) == -1;
+    if (fromTheSky) return {RandomInt(random, 50, 950), 999};
+    const auto length = static_cast<int>(previous.size());
+    const int index = RandomInt(random, length * 3 / 10, length * 6 / 10);
+    return previous[static_cast<std::size_t>(index)];
+}
+
+Bolt boltPath(FieldPoint start, const Battlefield& field, RandomSource& random,
+              const std::function<bool()>& mayGoOn) {
+    Bolt bolt;
+    int tendency = 0, sense = 0, restOfRun = 0;
+    for (FieldPoint at = start; isInTheSky(at, field); --at.y) {
+        if (bolt.size() % kStretch == 0) {
+            tendency = RandomInt(random, 1, 3);
+            if (!mayGoOn()) break;
+        }
+        bolt.push_back(at);
+        if (restOfRun == 0) {
+            restOfRun = RandomInt(random, 1, 4);
+            sense = RandomInt(random, -1, 0);
+        }
+        --restOfRun;
+        at.x += sidewaysStep(tendency, sense, at.y);
+    }
+    return bolt;
+}
+
 LightningStorm::LightningStorm(const BattleState& state, BattleControls& controls,
                                const BattlePorts& ports, FieldAnimation& animation)
     : m_state{state}, m_controls{controls}, m_ports{ports}, m_animation{animation} {
@@ -59,39 +87,16 @@ void LightningStorm::rage() {
 
 void LightningStorm::strike(int bolts) {
     m_animation.picture().setPersistentDrawing(false);
+    const auto mayGoOn = [this] {
+        m_ports.pacer.yieldToEvents();
+        return !m_controls.effect().isInterrupted();
+    };
     Bolt bolt;
     for (int number = 1; number <= bolts && !m_controls.effect().isInterrupted(); ++number) {
-        bolt = path(start(bolt));
+        const FieldPoint start = boltStart(bolt, m_ports.random);
+        bolt = boltPath(start, m_state.field, m_ports.random, mayGoOn);
         draw(bolt);
     }
-}
-
-FieldPoint LightningStorm::start(const Bolt& previous) {
-    const bool fromTheSky = previous.empty() || RandomInt(m_ports.random, -1, 0) == -1;
-    if (fromTheSky) return {RandomInt(m_ports.random, 50, 950), 999};
-    const auto length = static_cast<int>(previous.size());
-    const int index = RandomInt(m_ports.random, length * 3 / 10, length * 6 / 10);
-    return previous[static_cast<std::size_t>(index)];
-}
-
-LightningStorm::Bolt LightningStorm::path(FieldPoint start) {
-    Bolt bolt;
-    int tendency = 0, sense = 0, restOfRun = 0;
-    for (FieldPoint at = start; isInTheSky(at, m_state.field); --at.y) {
-        if (bolt.size() % kStretch == 0) {
-            tendency = RandomInt(m_ports.random, 1, 3);
-            m_ports.pacer.yieldToEvents();
-            if (m_controls.effect().isInterrupted()) break;
-        }
-        bolt.push_back(at);
-        if (restOfRun == 0) {
-            restOfRun = RandomInt(m_ports.random, 1, 4);
-            sense = RandomInt(m_ports.random, -1, 0);
-        }
-        --restOfRun;
-        at.x += sidewaysStep(tendency, sense, at.y);
-    }
-    return bolt;
 }
 
 void LightningStorm::draw(const Bolt& bolt) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <vector>
 
 #include "battle/BattleControls.h"
@@ -9,6 +10,19 @@
 #include "battle/ShellFlight.h"
 
 namespace skylob {
+
+/// A bolt from its start downwards, a unit of height with each point; in columns 5..995 and more
+/// than 5 above the ground.
+using Bolt = std::vector<FieldPoint>;
+
+/// Draws a bolt's path: its tendency at the start and after every 100 points, the length and the
+/// sense of each of its short runs. `mayGoOn` is asked whenever a tendency has been drawn.
+Bolt boltPath(FieldPoint start, const Battlefield& field, RandomSource& random,
+              const std::function<bool()>& mayGoOn);
+
+/// Where the next bolt starts: the first one, and every other one in chance's favour, in the sky,
+/// the rest at a point of the middle third of the one before.
+FieldPoint boltStart(const Bolt& previous, RandomSource& random);
 
 /// Thunderstorms over the battlefield while the player leaves the controls alone: one to four
 /// bolts, a long pause, thunder.
@@ -23,14 +37,8 @@ class LightningStorm {
     void timerLightning_Timer();
 
   private:
-    /// From its start downwards, a unit of height each; in columns 5..995 and more than 5 above
-    /// the ground.
-    using Bolt = std::vector<FieldPoint>;
-
     void rage();
     void strike(int bolts);
-    FieldPoint start(const Bolt& previous);
-    Bolt path(FieldPoint start);
     void draw(const Bolt& bolt);
     void thunder(int bolts);
     void clearSky();
