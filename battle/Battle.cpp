@@ -13,7 +13,9 @@ Battle::Battle(basSkylob& shared, const BattlePorts& ports)
       m_ports{ports},
       m_animation{m_picture, ports.view, ports.pacer},
       m_controls{shared, m_state, ports},
-      m_computer{shared, m_state, m_controls, ports} {
+      m_computer{shared, m_state, m_controls, ports},
+      m_meteors{shared, m_state, m_controls, ports, m_animation},
+      m_storm{m_state, m_controls, ports, m_animation} {
 }
 
 void Battle::Form_Activate() {
@@ -68,9 +70,13 @@ void Battle::GenerateBattlefield() {
 }
 
 void Battle::redrawField() {
+    // The screen can move to another display even while a meteor flies.
     const int penWidth = m_picture.penWidth();
+    const bool persistent = m_picture.persistentDrawing();
     m_picture.setPenWidth(m_starWidth);
+    m_picture.setPersistentDrawing(true);
     drawField();
+    m_picture.setPersistentDrawing(persistent);
     m_picture.setPenWidth(penWidth);
 }
 
@@ -106,7 +112,9 @@ void Battle::loseWithoutMen() {
 }
 
 void Battle::cmdShoot_Click() {
-    if (m_controls.panel().commandsEnabled) fire();
+    if (!m_controls.isWaiting() || m_controls.effect().putsOff([this] { cmdShoot_Click(); }))
+        return;
+    fire();
 }
 
 void Battle::fire() {

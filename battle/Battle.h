@@ -9,6 +9,8 @@
 #include "battle/BattleState.h"
 #include "battle/ComputerOpponent.h"
 #include "battle/FieldPicture.h"
+#include "battle/LightningStorm.h"
+#include "battle/Meteors.h"
 #include "battle/ShellFlight.h"
 
 namespace skylob {
@@ -38,10 +40,16 @@ class Battle {
     /// not start it again.
     void Form_Activate();
 
-    /// Fires the shooter's shell. Does nothing while the commands are disabled.
+    /// Fires the shooter's shell. Does nothing while the commands are disabled. A meteor or a
+    /// storm ends first.
     void cmdShoot_Click();
     /// A click on either piece is one on the shoot button.
     void FieldPiece_Click() { cmdShoot_Click(); }
+
+    /// The ticks of the screen's timers, which run while the panel says so. A tick that finds the
+    /// player busy, or the battle not waiting for the player at all, does nothing.
+    void timerMeteors_Timer() { m_meteors.timerMeteors_Timer(); }
+    void timerLightning_Timer() { m_storm.timerLightning_Timer(); }
 
     /// The picture of the field has another size or another display: draws it anew.
     void redrawField();
@@ -80,6 +88,8 @@ class Battle {
     FieldAnimation m_animation;
     BattleControls m_controls;
     ComputerOpponent m_computer;
+    Meteors m_meteors;
+    LightningStorm m_storm;
     std::vector<Shot> m_shots;
     int m_starWidth = 1;  ///< the pen width that this round's stars were drawn with
     bool m_activated = false;

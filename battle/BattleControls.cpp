@@ -90,6 +90,7 @@ void BattleControls::chkTrajectory_Click(bool ticked) {
 }
 
 void BattleControls::chkMeteors_Click(bool ticked) {
+    if (m_effect.putsOff([this, ticked] { chkMeteors_Click(ticked); })) return;
     markActivity();
     m_panel.chkMeteors = ticked;
     // The meteors follow the lightning box, as it stands when this one is clicked.
@@ -99,6 +100,7 @@ void BattleControls::chkMeteors_Click(bool ticked) {
 }
 
 void BattleControls::chkLightning_Click(bool ticked) {
+    if (m_effect.putsOff([this, ticked] { chkLightning_Click(ticked); })) return;
     markActivity();
     m_panel.chkLightning = ticked;
     m_panel.timerLightning = ticked;
@@ -122,10 +124,12 @@ void BattleControls::chkWind_Click(bool ticked) {
 }
 
 void BattleControls::cmdQuit_Click() {
-    if (!m_panel.commandsEnabled) return;
+    if (!isWaiting() || m_effect.putsOff([this] { cmdQuit_Click(); })) return;
     markActivity();
     stopTimers();
+    m_isLeaving = true;
     if (!mayLeave()) {
+        m_isLeaving = false;
         markActivity();
         startTimers();
         return;
@@ -177,6 +181,34 @@ void BattleControls::stopTimers() {
     if (m_panel.chkMeteors) m_panel.timerMeteors = false;
     if (m_panel.chkLightning) m_panel.timerLightning = false;
     show();
+}
+
+void BattleControls::meteorBegins() {
+    if (m_panel.chkLightning) m_panel.timerLightning = false;
+    show();
+}
+
+void BattleControls::meteorEnds() {
+    if (m_panel.chkLightning) m_panel.timerLightning = true;
+    show();
+}
+
+void BattleControls::stormBegins() {
+    if (m_panel.chkMeteors) m_panel.timerMeteors = false;
+    m_panel.timerLightning = false;
+    show();
+}
+
+void BattleControls::stormEnds() {
+    if (m_panel.chkMeteors) m_panel.timerMeteors = true;
+    m_panel.timerLightning = true;
+    show();
+}
+
+bool BattleControls::isIdle() const {
+    using namespace std::chrono;
+    if (!isWaiting() || m_effect.isRunning()) return false;
+    return floor<seconds>(m_ports.clock.now() - m_state.TurnStartTime) >= 12s;
 }
 
 void BattleControls::disableForShot(int shooter) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/basSkylob.h"
+#include "battle/AmbientEffect.h"
 #include "battle/BattlePanel.h"
 #include "battle/BattlePorts.h"
 #include "battle/BattleState.h"
@@ -12,7 +13,8 @@ namespace skylob {
 /// The handlers are named after the control and its event. A screen calls them when the player
 /// has changed a control; the rules change one with the set... functions, which run the same
 /// handlers, so that labels follow and changes click whoever made them. Every handler marks the
-/// time as the last activity.
+/// time as the last activity. While a meteor or a storm is under way, quitting and the clicks on
+/// its two boxes end it and follow it.
 class BattleControls {
   public:
     /// All three must outlive the controls.
@@ -46,6 +48,24 @@ class BattleControls {
     void startTimers();
     void stopTimers();
 
+    /// A meteor holds the lightning timer if its box is ticked. A storm holds its own timer, and
+    /// the meteors' if their box is ticked.
+    void meteorBegins();
+    void meteorEnds();
+    void stormBegins();
+    void stormEnds();
+
+    /// The meteor or storm that may be under way.
+    AmbientEffect& effect() { return m_effect; }
+
+    /// The screen waits for the player's next command: no shot is under way, no computer's turn,
+    /// and nobody has been asked anything.
+    bool isWaiting() const { return m_panel.commandsEnabled && !m_isLeaving; }
+
+    /// It has been waiting without any activity for 12 whole seconds or more, and no effect is
+    /// under way.
+    bool isIdle() const;
+
     /// A shell is fired: nothing is usable until enableCommands().
     void disableForShot(int shooter);
     /// The turn is `shooter`'s: its own controls are usable, its opponent's are not.
@@ -70,6 +90,8 @@ class BattleControls {
     BattleState& m_state;
     BattlePorts m_ports;
     BattlePanel m_panel;
+    AmbientEffect m_effect;
+    bool m_isLeaving = false;  ///< the player is being asked whether and how to leave
     int m_gameSpeedAtStart = 50;
 };
 

@@ -44,6 +44,7 @@ std::uint32_t blend(std::uint32_t under, std::uint32_t over) {
 }  // namespace
 
 void FieldPicture::resize(int width, int height, int dotScale) {
+    ++m_making;
     m_width = width;
     m_height = height;
     m_dotScale = dotScale;
@@ -55,6 +56,7 @@ void FieldPicture::resize(int width, int height, int dotScale) {
 }
 
 void FieldPicture::clear() {
+    ++m_making;
     std::fill(m_persistent.begin(), m_persistent.end(), toPixel(kBlack));
     std::fill(m_screen.begin(), m_screen.end(), toPixel(kBlack));
     markDirty({0, 0, m_width, m_height});
@@ -103,7 +105,7 @@ void FieldPicture::filledCircle(int x, int y, int radius, Colour colour) {
 }
 
 FieldPicture::LiftedPoint FieldPicture::liftPoint(int x, int y) const {
-    LiftedPoint lifted{clipped(dotArea(x, y)), {}};
+    LiftedPoint lifted{clipped(dotArea(x, y)), {}, m_making};
     for (int line = 0; line < lifted.area.height; ++line) {
         const auto* from = m_screen.data() + index(lifted.area.x, lifted.area.y + line);
         lifted.pixels.insert(lifted.pixels.end(), from, from + lifted.area.width);
@@ -112,6 +114,7 @@ FieldPicture::LiftedPoint FieldPicture::liftPoint(int x, int y) const {
 }
 
 void FieldPicture::putBack(const LiftedPoint& lifted) {
+    if (lifted.making != m_making) return;
     auto from = lifted.pixels.begin();
     for (int line = 0; line < lifted.area.height; ++line) {
         std::copy_n(from, lifted.area.width,
@@ -145,6 +148,7 @@ PixelRect FieldPicture::pieceArea(int side) const {
 }
 
 void FieldPicture::refresh() {
+    ++m_making;
     m_screen = m_persistent;
     for (const int side : {1, 2}) {
         const auto& [image, area] = m_pieces[side];

@@ -47,6 +47,7 @@ class FieldPicture {
 
     /// On (the usual state): drawing goes to both buffers. Off: to the screen picture alone.
     void setPersistentDrawing(bool on) { m_persistentDrawing = on; }
+    bool persistentDrawing() const { return m_persistentDrawing; }
 
     /// The width of points and lines, at least 1. It is 1 at first.
     void setPenWidth(int width) { m_penWidth = width; }
@@ -69,10 +70,12 @@ class FieldPicture {
     struct LiftedPoint {
         PixelRect area;
         std::vector<std::uint32_t> pixels;
+        int making;
     };
     LiftedPoint liftPoint(int x, int y) const;
 
-    /// Puts lifted pixels back onto the screen picture, exactly as they were.
+    /// Puts lifted pixels back onto the screen picture, exactly as they were. Does nothing if
+    /// the picture has been resized, cleared or refreshed since: the dot went with that.
     void putBack(const LiftedPoint& lifted);
 
     /// The image of a side's piece, to be drawn unscaled: pieceSize() tells the fitting size.
@@ -119,6 +122,7 @@ class FieldPicture {
     std::vector<std::uint32_t> m_persistent, m_screen;
     PerSide<Piece> m_pieces;
     PixelRect m_dirty;
+    int m_making = 0;  ///< counts how often the whole picture has been made anew
 };
 
 }  // namespace skylob

@@ -17,6 +17,7 @@
 #include "app/QtInputGate.h"
 #include "app/QtLook.h"
 #include "app/QtScreenFade.h"
+#include "battle/QtEffectTimers.h"
 #include "battle/QtSidePanel.h"
 #include "battle/frmPlayGameLayout.h"
 #include "battle/picGameField.h"
@@ -48,6 +49,7 @@ frmPlayGame::frmPlayGame(basSkylob& shared, const frmPlayGamePorts& ports)
       m_shapes{ports.shapes},
       m_gate{new QtInputGate{this}},
       m_fade{new QtScreenFade{this, shared, ports.settings}},
+      m_timers{new QtEffectTimers{this, m_battle}},
       m_field{new picGameField{m_battle.picture(), m_shapes, this}} {
     setWindowTitle(QStringLiteral(" Skylob - Battlefield"));
     applyLook(*this);
@@ -250,6 +252,7 @@ void frmPlayGame::showPanel(const BattlePanel& panel) {
     showTicked(*chkWind, panel.chkWind);
     chkWind->setText(QString::fromStdString(panel.chkWindCaption));
     showCommands(panel);
+    m_timers->showPanel(panel);
     // While the thread is blocked nothing else would bring the changes to the display.
     if (m_gate->isClosed()) QCoreApplication::sendPostedEvents(this, QEvent::UpdateRequest);
 }
@@ -299,6 +302,7 @@ void frmPlayGame::showSummary(SummaryKind kind) {
 }
 
 void frmPlayGame::closeBattle() {
+    m_timers->end();
     m_fade->leave([this] {
         hide();
         emit battleClosed();

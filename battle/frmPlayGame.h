@@ -14,6 +14,7 @@ class QScrollBar;
 namespace skylob {
 
 class GlintButton;
+class QtEffectTimers;
 class QtInputGate;
 class QtPropertyBagFile;
 class QtScreenFade;
@@ -87,6 +88,7 @@ class frmPlayGame : public QWidget, private BattleView {
     const QtShapes& m_shapes;
     QtInputGate* m_gate;
     QtScreenFade* m_fade;
+    QtEffectTimers* m_timers;
     picGameField* m_field;
     PerSide<QtSidePanel*> m_side;
     QLabel *labelRoundNumber, *labelGameSpeed;

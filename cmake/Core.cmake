@@ -21,6 +21,8 @@ add_library(skylob_core STATIC
     battle/Explosion.cpp
     battle/FieldPicture.cpp
     battle/HeadlessBattle.cpp
+    battle/LightningStorm.cpp
+    battle/Meteors.cpp
     battle/ShellFlight.cpp
     controls/GlintDesign.cpp
     controls/GlintInteraction.cpp
@@ -59,6 +61,7 @@ target_sources(skylob_core PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DI
     app/TrimBlanks.h
     app/WaveImage.h
     app/basSkylob.h
+    battle/AmbientEffect.h
     battle/Battle.h
     battle/BattleControls.h
     battle/BattlePanel.h
@@ -71,6 +74,8 @@ target_sources(skylob_core PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DI
     battle/FieldAnimation.h
     battle/FieldPicture.h
     battle/HeadlessBattle.h
+    battle/LightningStorm.h
+    battle/Meteors.h
     battle/ShellFlight.h
     controls/GlintDesign.h
     controls/GlintInteraction.h

@@ -17,6 +17,7 @@ add_library(skylob_ui STATIC
     app/QtSideFrame.cpp
     app/SdlSoundPlayer.cpp
     app/modFadeInOut.cpp
+    battle/QtEffectTimers.cpp
     battle/QtMenGauge.cpp
     battle/QtSidePanel.cpp
     battle/frmPlayGame.cpp

@@ -108,6 +108,13 @@ TEST(FieldPicture, PutsBackExactlyWhatItLifted) {
     picture.putBack(lifted);
     EXPECT_TRUE(std::equal(before.begin(), before.end(), picture.screenPixels()));
     EXPECT_GT(litPixels(picture), 0);
+
+    picture.refresh();  // and nothing at all where the whole picture is a new one
+    picture.putBack(lifted);
+    EXPECT_EQ(litPixels(picture), 0);
+    picture.resize(10, 10, 1);
+    picture.putBack(lifted);
+    EXPECT_EQ(litPixels(picture), 0);
 }
 
 TEST(FieldPicture, TellsWhatHasChanged) {

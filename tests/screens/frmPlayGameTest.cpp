@@ -27,8 +27,11 @@ class InterruptedPacer : public InstantPacer {
     void countedWait(std::int32_t) override {
         if (duringFlight) duringFlight();
     }
-    void yieldToEvents() override { QCoreApplication::processEvents(); }
-    std::function<void()> duringFlight;
+    void yieldToEvents() override {
+        QCoreApplication::processEvents();
+        if (atYield) atYield();
+    }
+    std::function<void()> duringFlight, atYield;
 };
 
 /// The battle screen, shown, on the field that chance of 0.5 makes (see test::BattleRig).
@@ -216,6 +219,40 @@ class frmPlayGameTest : public QObject {
         screen.form->show();
         QCOMPARE(redPixels(), stars);
         QCOMPARE(screen.form->battle().state().RoundNumber, 1);
+    }
+
+    void endsAMeteorOrAStormForWhatThePlayerDoes() {
+        for (const char* name : {"timerMeteors", "timerLightning"}) {
+            Screen screen;
+            auto* const timer = screen.form->findChild<QTimer*>(name);
+            QVERIFY(timer->isActive());
+            QCOMPARE(timer->interval(), qstrcmp(name, "timerMeteors") == 0 ? 333 : 500);
+            screen.form->hide();
+            QVERIFY(!timer->isActive());
+            screen.form->show();
+            QVERIFY(timer->isActive());
+            // The boxes of meteors and lightning, the shoot button, and the window's frame.
+            QCheckBox* const meteors = screen.form->findChildren<QCheckBox*>().at(2);
+            const std::function<void()> deeds[] = {
+                [&] { meteors->click(); },
+                [&] { QTest::mouseClick(screen.shoot(), Qt::LeftButton); },
+                [&] { screen.form->close(); }};
+            for (const auto& deed : deeds) {
+                int yields = 0;
+                screen.pacer.atYield = [&] {
+                    if (++yields == 20) deed();
+                };
+                screen.clock.time += std::chrono::hours{1};
+                screen.random.script({0});
+                QTRY_VERIFY(yields >= 20);
+                screen.pacer.atYield = {};
+                QVERIFY(yields < 25);
+            }
+            QVERIFY(!meteors->isChecked());
+            QCOMPARE(screen.shots(), 1u);
+            QVERIFY(!screen.form->isVisible());
+            QVERIFY(!timer->isActive());
+        }
     }
 
     void leavesThroughItsFrameAsThroughQuit() {

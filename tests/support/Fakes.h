@@ -55,6 +55,7 @@ class RecordingPacer : public Pacer {
     void countedWait(std::int32_t count) override { counts.push_back(count); }
     void Wait(float seconds) override {
         m_log.push_back("wait " + std::to_string(waitMilliseconds(seconds)));
+        if (onWait) onWait();
     }
     void yieldToEvents() override {
         m_log.push_back("yield");
@@ -63,6 +64,7 @@ class RecordingPacer : public Pacer {
 
     std::vector<std::int32_t> counts;  ///< since the last startPacing()
     std::function<void()> onYield;     ///< run once, at the next yield
+    std::function<void()> onWait;
 
   private:
     Log& m_log;
@@ -87,6 +89,7 @@ class QueuedBoxes : public MessageBoxes {
     BoxAnswer show(const MessageBox& box) override {
         m_log.push_back("box " + box.title);
         if (answers.empty()) throw std::logic_error("unexpected box: " + box.title);
+        if (onShow) onShow();
         shown.push_back(box);
         const BoxAnswer answer = answers.front();
         answers.pop_front();
@@ -106,6 +109,7 @@ class QueuedBoxes : public MessageBoxes {
     std::deque<std::optional<std::string>> entries;
     std::vector<InputBox> asked;
     std::vector<MessageBox> shown;
+    std::function<void()> onShow;
 
   private:
     Log& m_log;

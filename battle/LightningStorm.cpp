@@ -1,0 +1,124 @@
+#include "battle/LightningStorm.h"
+
+#include <cstddef>
+#include <string>
+
+namespace skylob {
+
+namespace {
+
+constexpr int kFirstColumn = 5, kLastColumn = 995;
+constexpr int kLowest = 5;             // a bolt ends that near to the ground
+constexpr std::size_t kStretch = 100;  // points between two choices of the tendency
+constexpr int kPauseSeconds = 50;      // at least; and for each bolt as many again at most
+
+bool isInTheSky(FieldPoint at, const Battlefield& field) {
+    return at.x >= kFirstColumn && at.x <= kLastColumn && at.y > field.heightAt(at.x) + kLowest;
+}
+
+/// How far a bolt moves sideways on its way from the height y, -1 to 1. The sense, -1 or 0, of its
+/// short runs throws it to the left and right, which makes it jagged. Its tendency, 1 (left) to
+/// 3 (right), slows the runs that go the other way, and so tells where it is bound for.
+int sidewaysStep(int tendency, int sense, int y) {
+    const int step = sense == -1 ? -1 : 1;
+    const bool againstTendency = step * (tendency - 2) < 0;
+    return againstTendency && y % 2 == 0 ? 0 : step;
+}
+
+}  // namespace
+
+FieldPoint boltStart(const Bolt& previous, RandomSource& random) {
+    const bool fromTheSky = previous.empty() || RandomInt(random, -1, 0) == -1;
+    if (fromTheSky) return {RandomInt(random, 50, 950), 999};
+    const auto length = static_cast<int>(previous.size());
+    const int index = RandomInt(random, length * 3 / 10, length * 6 / 10);
+    return previous[static_cast<std::size_t>(index)];
+}
+
+Bolt boltPath(FieldPoint start, const Battlefield& field, RandomSource& random,
+              const std::function<bool()>& mayGoOn) {
+    Bolt bolt;
+    int tendency = 0, sense = 0, restOfRun = 0;
+    for (FieldPoint at = start; isInTheSky(at, field); --at.y) {
+        if (bolt.size() % kStretch == 0) {
+            tendency = RandomInt(random, 1, 3);
+            if (!mayGoOn()) break;
+        }
+        bolt.push_back(at);
+        if (restOfRun == 0) {
+            restOfRun = RandomInt(random, 1, 4);
+            sense = RandomInt(random, -1, 0);
+        }
+        --restOfRun;
+        at.x += sidewaysStep(tendency, sense, at.y);
+    }
+    return bolt;
+}
+
+LightningStorm::LightningStorm(const BattleState& state, BattleControls& controls,
+                               const BattlePorts& ports, FieldAnimation& animation)
+    : m_state{state}, m_controls{controls}, m_ports{ports}, m_animation{animation} {
+}
+
+void LightningStorm::timerLightning_Timer() {
+    if (!m_controls.isIdle()) return;
+    if (RandomInt(m_ports.random, 1, 10) == 1) m_controls.effect().run([this] { rage(); });
+}
+
+void LightningStorm::rage() {
+    m_controls.stormBegins();
+    const int bolts = RandomInt(m_ports.random, 1, 4);
+    strike(bolts);
+    if (m_controls.effect().isInterrupted()) {
+        clearSky();
+    } else {
+        m_ports.view.holdInput();
+        const int pause = RandomInt(m_ports.random, kPauseSeconds, kPauseSeconds * (bolts + 1));
+        m_ports.pacer.Wait(static_cast<float>(pause));
+        thunder(bolts);
+        clearSky();
+        m_ports.pacer.yieldToEvents();
+        // A window can be closed even while its input is held.
+        if (!m_controls.effect().isInterrupted()) m_ports.pacer.Wait(2);
+        m_ports.view.releaseInput();
+    }
+    m_controls.stormEnds();
+}
+
+void LightningStorm::strike(int bolts) {
+    m_animation.picture().setPersistentDrawing(false);
+    const auto mayGoOn = [this] {
+        m_ports.pacer.yieldToEvents();
+        return !m_controls.effect().isInterrupted();
+    };
+    Bolt bolt;
+    for (int number = 1; number <= bolts && !m_controls.effect().isInterrupted(); ++number) {
+        const FieldPoint start = boltStart(bolt, m_ports.random);
+        bolt = boltPath(start, m_state.field, m_ports.random, mayGoOn);
+        draw(bolt);
+    }
+}
+
+void LightningStorm::draw(const Bolt& bolt) {
+    for (const FieldPoint& at : bolt) {
+        if (m_controls.effect().isInterrupted()) return;
+        m_animation.picture().setPoint(at.x, at.y, kYellow);
+        m_animation.show();
+        m_ports.pacer.yieldToEvents();
+    }
+}
+
+void LightningStorm::thunder(int bolts) {
+    if (!m_state.SoundOn) return;
+    // The more bolts, the longer it rolls.
+    const int number = RandomInt(m_ports.random, 1, 2) + (bolts <= 2 ? 0 : 1);
+    m_ports.sounds.PlaySound("thunder" + std::to_string(number));
+}
+
+void LightningStorm::clearSky() {
+    m_animation.picture().setPersistentDrawing(true);
+    m_animation.picture().refresh();
+    m_animation.show();
+}
+
+}  // namespace skylob

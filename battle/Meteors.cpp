@@ -1,0 +1,102 @@
+#include "battle/Meteors.h"
+
+#include <algorithm>
+#include <limits>
+
+#include "battle/Explosion.h"
+
+namespace skylob {
+
+namespace {
+
+constexpr int kMostSteps = 1200;
+constexpr int kFirstColumn = 15, kLastColumn = 985;  // a meteor beyond them has left the sky
+constexpr int kImpactHeight = 15;                    // above the ground
+constexpr int kNarrow = 2, kWide = 3;                // a meteor flickers between these widths
+
+int startHeight(const Battlefield& field, int column, RandomSource& random) {
+    if (column == 1 || column == 999) return RandomInt(random, field.heightAt(column) + 20, 980);
+    return RandomInt(random, std::max(field.PeakX, 900), 999);
+}
+
+/// 1 to the right, -1 to the left.
+int direction(int column, RandomSource& random) {
+    if (column < 100) return 1;
+    if (column > 900) return -1;
+    return RandomInt(random, -1, 0) == -1 ? 1 : -1;
+}
+
+}  // namespace
+
+MeteorPath meteorPath(const Battlefield& field, RandomSource& random) {
+    MeteorPath path;
+    FieldPoint& at = path.end;
+    // Half of all meteors are drawn beyond the sides and come in at the edge.
+    at.x = std::clamp(RandomInt(random, -500, 1500), 1, 999);
+    at.y = startHeight(field, at.x, random);
+    const int step = direction(at.x, random);
+    const int slope = RandomInt(random, -1, 0);
+    for (int count = 1; count <= kMostSteps; ++count) {
+        at.x += step;
+        at.y += RandomInt(random, -1, 0) + slope;
+        if (at.x < kFirstColumn || at.x > kLastColumn) return path;
+        path.hitsGround = at.y <= field.heightAt(at.x) + kImpactHeight;
+        if (path.hitsGround) return path;
+        path.points.push_back(at);
+    }
+    return path;
+}
+
+std::int32_t meteorDelayCount(int gameSpeed) {
+    constexpr std::int64_t kMost = std::numeric_limits<std::int32_t>::max();
+    const std::int64_t counts = (std::int64_t{100} - gameSpeed) * 15'000;
+    return static_cast<std::int32_t>(std::clamp(counts, std::int64_t{0}, kMost));
+}
+
+Meteors::Meteors(const basSkylob& shared, const BattleState& state, BattleControls& controls,
+                 const BattlePorts& ports, FieldAnimation& animation)
+    : m_shared{shared},
+      m_state{state},
+      m_controls{controls},
+      m_ports{ports},
+      m_animation{animation} {
+}
+
+void Meteors::timerMeteors_Timer() {
+    if (!m_controls.isIdle()) return;
+    if (RandomInt(m_ports.random, 1, 20) == 1) m_controls.effect().run([this] { fly(); });
+}
+
+void Meteors::fly() {
+    m_controls.meteorBegins();
+    const MeteorPath path = meteorPath(m_state.field, m_ports.random);
+    streak(path.points);
+    if (path.hitsGround && !m_controls.effect().isInterrupted()) {
+        animateExplosion(path.end, Landing::Miss, m_animation,
+                         FlightDelayCount(m_shared.GameSpeed));
+    }
+    m_controls.meteorEnds();
+}
+
+void Meteors::streak(const std::vector<FieldPoint>& points) {
+    FieldPicture& picture = m_animation.picture();
+    picture.setPersistentDrawing(false);
+    picture.setPenWidth(kNarrow);
+    m_animation.start();
+    for (const FieldPoint& at : points) {
+        if (RandomInt(m_ports.random, 1, 20) == 10)
+            picture.setPenWidth(kNarrow + kWide - picture.penWidth());
+        const auto sky = picture.liftPoint(at.x, at.y);
+        picture.setPoint(at.x, at.y, kYellow);
+        // Asked anew at each point: the game speed bar can be moved meanwhile.
+        m_animation.hold(meteorDelayCount(m_shared.GameSpeed));
+        m_ports.pacer.yieldToEvents();
+        picture.putBack(sky);
+        if (m_controls.effect().isInterrupted()) break;
+    }
+    m_animation.show();
+    picture.setPenWidth(1);
+    picture.setPersistentDrawing(true);
+}
+
+}  // namespace skylob

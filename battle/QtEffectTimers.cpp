@@ -1,0 +1,69 @@
+#include "battle/QtEffectTimers.h"
+
+#include <QEvent>
+#include <QGuiApplication>
+#include <QTimer>
+#include <QWidget>
+
+#include "battle/Battle.h"
+
+namespace skylob {
+
+namespace {
+
+void run(QTimer& timer, bool running) {
+    if (running == timer.isActive()) return;
+    if (running)
+        timer.start();
+    else
+        timer.stop();
+}
+
+}  // namespace
+
+QtEffectTimers::QtEffectTimers(QWidget* screen, Battle& battle)
+    : QObject{screen},
+      m_battle{battle},
+      timerMeteors{makeTimer(QStringLiteral("timerMeteors"), 333, &Battle::timerMeteors_Timer)},
+      timerLightning{
+          makeTimer(QStringLiteral("timerLightning"), 500, &Battle::timerLightning_Timer)} {
+    screen->installEventFilter(this);
+}
+
+QTimer* QtEffectTimers::makeTimer(const QString& name, int milliseconds, void (Battle::*tick)()) {
+    auto* timer = new QTimer{this};
+    timer->setObjectName(name);
+    timer->setInterval(milliseconds);
+    connect(timer, &QTimer::timeout, this, [this, tick] {
+        // A storm swallows the release of a button that is held, and it would stay held.
+        if (QGuiApplication::mouseButtons() == Qt::NoButton) (m_battle.*tick)();
+    });
+    return timer;
+}
+
+void QtEffectTimers::showPanel(const BattlePanel& panel) {
+    m_meteors = panel.timerMeteors;
+    m_lightning = panel.timerLightning;
+    follow();
+}
+
+void QtEffectTimers::end() {
+    m_hasEnded = true;
+    follow();
+}
+
+bool QtEffectTimers::eventFilter(QObject*, QEvent* event) {
+    if (event->type() == QEvent::Show || event->type() == QEvent::Hide) {
+        m_isShown = event->type() == QEvent::Show;
+        follow();
+    }
+    return false;
+}
+
+void QtEffectTimers::follow() {
+    const bool mayRun = m_isShown && !m_hasEnded;
+    run(*timerMeteors, mayRun && m_meteors);
+    run(*timerLightning, mayRun && m_lightning);
+}
+
+}  // namespace skylob

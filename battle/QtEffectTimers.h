@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QObject>
+
+class QTimer;
+
+namespace skylob {
+
+class Battle;
+struct BattlePanel;
+
+/// The battle screen's timers: they run while the panel says so and the screen is shown, and tick
+/// into the battle.
+class QtEffectTimers : public QObject {
+    Q_OBJECT
+
+  public:
+    /// `screen` is to be the parent as well; `battle` must outlive both.
+    QtEffectTimers(QWidget* screen, Battle& battle);
+
+    void showPanel(const BattlePanel& panel);
+
+    /// The screen is leaving: no tick from now on.
+    void end();
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    QTimer* makeTimer(const QString& name, int milliseconds, void (Battle::*tick)());
+    void follow();
+
+    Battle& m_battle;
+    QTimer *timerMeteors, *timerLightning;
+    bool m_meteors = false, m_lightning = false;  ///< whether the panel says that they run
+    bool m_isShown = false, m_hasEnded = false;
+};
+
+}  // namespace skylob

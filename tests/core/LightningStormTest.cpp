@@ -1,0 +1,188 @@
+#include "battle/LightningStorm.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/support/SkyRig.h"
+
+namespace skylob {
+namespace {
+
+using test::kYellowPixel;
+using test::Log;
+using test::ScriptedRandom;
+using test::SkyRig;
+
+TEST(BoltPath, GoesDownInJagsUntilItLeavesOrIsNearTheGround) {
+    Battlefield field;
+    field.TerrainHeight.fill(900);
+    int stretches = 0;
+    const auto mayGoOn = [&] { return ++stretches > 0; };
+    // Upright, runs of 1 and 2 to the left and of 4 to the right; then leaning to the right, where
+    // a run to the left only moves from odd heights.
+    ScriptedRandom upright{{.4, 0, .4, .3, .4, .9, .5}, .5};
+    const Bolt bolt = boltPath({500, 999}, field, upright, mayGoOn);
+    ASSERT_EQ(bolt.size(), 94u);  // to 906, the last height more than 5 above the ground
+    EXPECT_EQ(Bolt(bolt.begin(), bolt.begin() + 8), (Bolt{{500, 999},
+                                                          {499, 998},
+                                                          {498, 997},
+                                                          {497, 996},
+                                                          {498, 995},
+                                                          {499, 994},
+                                                          {500, 993},
+                                                          {501, 992}}));
+    EXPECT_EQ(bolt.back().y, 906);
+    EXPECT_EQ(stretches, 1);
+    ScriptedRandom leaning{{.9, .9, .4}, .5};
+    const Bolt second = boltPath({500, 999}, field, leaning, mayGoOn);
+    EXPECT_EQ(Bolt(second.begin(), second.begin() + 6),
+              (Bolt{{500, 999}, {499, 998}, {499, 997}, {498, 996}, {498, 995}, {499, 994}}));
+
+    field.TerrainHeight.fill(100);
+    ScriptedRandom right{{}, .9};
+    EXPECT_EQ(boltPath({800, 999}, field, right, mayGoOn).back(), (FieldPoint{995, 804}));
+    ScriptedRandom left{{}, 0};
+    EXPECT_EQ(boltPath({50, 999}, field, left, mayGoOn).back(), (FieldPoint{5, 954}));
+    stretches = 0;
+    ScriptedRandom stopped{{}, .5};
+    EXPECT_EQ(boltPath({100, 999}, field, stopped, [&] { return ++stretches < 3; }).size(), 200u);
+}
+
+TEST(BoltStart, IsInTheSkyOrInTheMiddleOfTheBoltBefore) {
+    Bolt previous;
+    for (int y = 999; y > 899; --y) previous.push_back({300, y});
+    struct Row {
+        std::deque<double> script;
+        FieldPoint start;
+    };
+    for (const Row& row : {Row{{.49, 0}, {50, 999}}, Row{{0, .9999}, {950, 999}},
+                           Row{{.5, 0}, {300, 969}}, Row{{.9, .9999}, {300, 939}}}) {
+        ScriptedRandom random{row.script};
+        EXPECT_EQ(boltStart(previous, random), row.start);
+    }
+    ScriptedRandom first{{.5}};  // no coin is tossed for the first one
+    EXPECT_EQ(boltStart({}, first), (FieldPoint{500, 999}));
+    ScriptedRandom shortest{{.5, .9999}};
+    EXPECT_EQ(boltStart(Bolt{FieldPoint{7, 7}}, shortest), (FieldPoint{7, 7}));
+}
+
+TEST(BoltPath, KeepsItsBoundsTenThousandTimes) {
+    SeededRandom random{2026};
+    Battlefield field;
+    Bolt bolt;
+    for (int number = 0; number < 10'000; ++number) {
+        if (number % 100 == 0) generateBattlefield(field, random, 1, 10);
+        if (number % 4 == 0) bolt.clear();
+        const FieldPoint start = boltStart(bolt, random);
+        bolt = boltPath(start, field, random, [] { return true; });
+        ASSERT_FALSE(bolt.empty());
+        ASSERT_EQ(bolt.front(), start);
+        for (std::size_t i = 0; i < bolt.size(); ++i) {
+            ASSERT_TRUE(bolt[i].x >= 5 && bolt[i].x <= 995);
+            ASSERT_GT(bolt[i].y, field.heightAt(bolt[i].x) + 5);
+            ASSERT_EQ(bolt[i].y, start.y - static_cast<int>(i));
+            if (i > 0) {
+                ASSERT_LE(std::abs(bolt[i].x - bolt[i - 1].x), 1);
+            }
+        }
+    }
+}
+
+TEST(LightningStorm, PausesThundersAndClearsTheSky) {
+    struct Row {
+        std::deque<double> script;  // chance and bolts; then 0.5
+        bool sound;
+        std::ptrdiff_t yields;
+        Log events;
+    };
+    // At a chance of 0.5 bolts run to the right, from column 500 to 995 and from 223 of those 496
+    // points on: 273 points; from 122 of these on 151, and from 68 of these on 83.
+    for (const Row& row : {Row{{0, 0}, true, 496 + 5 + 1, {"wait 75000", "sound thunder2"}},
+                           Row{{.0999, .25}, true, 769 + 8 + 1, {"wait 100000", "sound thunder2"}},
+                           Row{{0, .5}, true, 920 + 10 + 1, {"wait 125000", "sound thunder3"}},
+                           Row{{0, .75}, false, 1003 + 11 + 1, {"wait 150000"}}}) {
+        SCOPED_TRACE(row.yields);
+        SkyRig rig;
+        rig.controls().chkSound_Click(row.sound);
+        rig.clock.time += std::chrono::seconds{12};
+        rig.log.clear();
+        rig.picture().setPersistentDrawing(false);
+        rig.picture().setPoint(300, 300, kCyan);  // what is left of a trail
+        rig.picture().setPersistentDrawing(true);
+        rig.random.script(row.script);
+        rig.view.onShowField = [&] { rig.picture().takeDirty(); };
+        int waits = 0;
+        rig.pacer.onWait = [&] {
+            EXPECT_TRUE(rig.view.inputHeld);
+            EXPECT_TRUE(rig.picture().takeDirty().isEmpty());
+            EXPECT_EQ(rig.lit(kYellowPixel) > 500, ++waits == 1);
+            EXPECT_FALSE(rig.panel().timerMeteors || rig.panel().timerLightning);
+        };
+        const int penWidth = rig.picture().penWidth();
+        rig.battle.timerLightning_Timer();
+        Log events = row.events;
+        events.insert(events.end(), {"wait 2000", "release input"});
+        EXPECT_EQ(rig.events(), events);
+        EXPECT_EQ(rig.yields(), row.yields);
+        EXPECT_EQ(waits, 2);
+        EXPECT_TRUE(rig.panel().timerMeteors && rig.panel().timerLightning);
+        EXPECT_EQ(rig.picture().pixel(300, 300), kBlack);
+        EXPECT_EQ(rig.picture().penWidth(), penWidth);
+        rig.picture().setPoint(300, 300, kCyan);
+        rig.picture().refresh();
+        EXPECT_EQ(rig.picture().pixel(300, 300), kCyan);  // drawing is persistent again
+    }
+}
+
+TEST(LightningStorm, LastsFrom50SecondsTo50AndAsManyForEachBolt) {
+    struct Row {
+        double bolts, pause, thunder;
+        Log events;
+    };
+    // All bolts start in column 50 and lean to the left: 46 points each, with runs of 1.
+    for (const Row& row : {Row{0, 0, 0, {"wait 50000", "sound thunder1"}},
+                           Row{0, .9999, .49, {"wait 100000", "sound thunder1"}},
+                           Row{.9, 0, .49, {"wait 50000", "sound thunder2"}},
+                           Row{.9, .9999, .5, {"wait 250000", "sound thunder3"}}}) {
+        SkyRig rig;
+        rig.controls().chkSound_Click(true);
+        rig.clock.time += std::chrono::seconds{12};
+        rig.log.clear();
+        const int bolts = row.bolts == 0 ? 1 : 4;
+        std::deque<double> script{0, row.bolts};
+        for (int bolt = 1; bolt <= bolts; ++bolt)  // coin, column, tendency, 46 runs
+            script.insert(script.end(), (bolt > 1) + 2u + 46 * 2, 0.0);
+        script.insert(script.end(), {row.pause, row.thunder});
+        rig.random.script(script);
+        const int before = rig.random.draws();
+        rig.battle.timerLightning_Timer();
+        EXPECT_EQ(rig.random.draws() - before, static_cast<int>(script.size()));
+        Log events = rig.events();
+        events.resize(2);
+        EXPECT_EQ(events, row.events);
+    }
+}
+
+TEST(LightningStorm, LetsTheWindowBeClosedAfterItsThunder) {
+    SkyRig rig;
+    rig.random.script({0, 0});
+    rig.atYield(496 + 5 + 1, [&] { rig.controls().cmdQuit_Click(); });
+    rig.battle.timerLightning_Timer();
+    EXPECT_EQ(rig.events(), (Log{"wait 75000", "release input", "close"}));
+}
+
+TEST(LightningStorm, ComesOnceInTenTicksAndLeavesATimerAloneWhoseBoxIsNotTicked) {
+    SkyRig rig;
+    rig.random.script({.1});
+    rig.battle.timerLightning_Timer();
+    EXPECT_EQ(rig.yields(), 0);
+    rig.controls().chkMeteors_Click(false);  // their timer goes on
+    rig.clock.time += std::chrono::seconds{12};
+    rig.random.script({0});
+    rig.pacer.onWait = [&] { EXPECT_TRUE(rig.panel().timerMeteors); };
+    rig.battle.timerLightning_Timer();
+    EXPECT_FALSE(rig.panel().chkMeteors);
+    EXPECT_TRUE(rig.panel().timerMeteors);
+}
+
+}  // namespace
+}  // namespace skylob

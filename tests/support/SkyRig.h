@@ -1,0 +1,53 @@
+#pragma once
+
+#include <algorithm>
+
+#include "tests/support/Fakes.h"
+
+namespace skylob::test {
+
+/// A battle that waits for side 1 with meteors and lightning on and without sound, on the field of
+/// the BattleRig; a pixel is a unit. Twelve seconds have gone by.
+struct SkyRig : BattleRig {
+    SkyRig() {
+        battle.picture().resize(1000, 1000, 1);
+        random.script({0});
+        start();
+        clock.time += std::chrono::seconds{12};
+        log.clear();
+    }
+
+    FieldPicture& picture() { return battle.picture(); }
+
+    std::vector<std::uint32_t> pixels() {
+        const FieldPicture& shown = picture();
+        return {shown.screenPixels(), shown.screenPixels() + shown.width() * shown.height()};
+    }
+
+    long lit(std::uint32_t pixel) {
+        const auto all = pixels();
+        return std::count(all.begin(), all.end(), pixel);
+    }
+
+    /// Runs `action` once, at the yield of that number, 1 or more, from now on.
+    void atYield(int number, std::function<void()> action) {
+        pacer.onYield = [this, number, action = std::move(action)] {
+            if (number == 1)
+                action();
+            else
+                atYield(number - 1, action);
+        };
+    }
+
+    /// What happened, without the yields.
+    Log events() const {
+        Log events = log;
+        std::erase(events, "yield");
+        return events;
+    }
+    std::ptrdiff_t yields() const { return std::count(log.begin(), log.end(), "yield"); }
+};
+
+inline constexpr std::uint32_t kYellowPixel = 0xFFFFFF00u;
+
+}  // namespace skylob::test
