@@ -18,11 +18,12 @@ bool isInTheSky(FieldPoint at, const Battlefield& field) {
 
 /// How far a bolt moves sideways on its way from the height y, -1 to 1. The sense, -1 or 0, of its
 /// short runs throws it to the left and right, which makes it jagged. Its tendency, 1 (left) to
-/// 3 (right), slows the runs that go the other way, and so tells where it is bound for.
+/// 3 (right), slows the runs that go the other way, and so tells where it is bound for; branches
+/// part by it.
 int sidewaysStep(int tendency, int sense, int y) {
     const int step = sense == -1 ? -1 : 1;
     const bool againstTendency = step * (tendency - 2) < 0;
-    return againstTendency && y % 2 == 0 ? 0 : step;
+    return againstTendency && y % 3 != 0 ? 0 : step;
 }
 
 }  // namespace

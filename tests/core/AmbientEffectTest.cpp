@@ -87,18 +87,19 @@ struct Command {
 
 TEST(AmbientEffects, EndBeforeACommandRuns) {
     const Command commands[] = {
-        {"shoot twice",
+        // Of two commands at once only the first one counts.
+        {"shoot, then quit",
          [](SkyRig& rig) {
-             rig.battle.cmdShoot_Click();
              rig.battle.FieldPiece_Click();
+             rig.controls().cmdQuit_Click();
          },
-         [](SkyRig& rig) { return rig.battle.shots().size() == 1; }},
-        {"quit twice",
+         [](SkyRig& rig) { return rig.battle.shots().size() == 1 && !rig.view.isClosed(); }},
+        {"quit, then shoot",
          [](SkyRig& rig) {
              rig.controls().cmdQuit_Click();
-             rig.controls().cmdQuit_Click();
+             rig.battle.cmdShoot_Click();
          },
-         [](SkyRig& rig) { return rig.view.isClosed(); }},
+         [](SkyRig& rig) { return rig.battle.shots().empty() && rig.view.isClosed(); }},
         {"untick meteors", [](SkyRig& rig) { rig.controls().chkMeteors_Click(false); },
          [](SkyRig& rig) { return !rig.panel().chkMeteors && rig.panel().timerMeteors; }},
         {"untick lightning", [](SkyRig& rig) { rig.controls().chkLightning_Click(false); },

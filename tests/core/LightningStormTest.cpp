@@ -18,7 +18,7 @@ TEST(BoltPath, GoesDownInJagsUntilItLeavesOrIsNearTheGround) {
     int stretches = 0;
     const auto mayGoOn = [&] { return ++stretches > 0; };
     // Upright, runs of 1 and 2 to the left and of 4 to the right; then leaning to the right, where
-    // a run to the left only moves from odd heights.
+    // a run to the left only moves from every third height.
     ScriptedRandom upright{{.4, 0, .4, .3, .4, .9, .5}, .5};
     const Bolt bolt = boltPath({500, 999}, field, upright, mayGoOn);
     ASSERT_EQ(bolt.size(), 94u);  // to 906, the last height more than 5 above the ground
@@ -35,7 +35,7 @@ TEST(BoltPath, GoesDownInJagsUntilItLeavesOrIsNearTheGround) {
     ScriptedRandom leaning{{.9, .9, .4}, .5};
     const Bolt second = boltPath({500, 999}, field, leaning, mayGoOn);
     EXPECT_EQ(Bolt(second.begin(), second.begin() + 6),
-              (Bolt{{500, 999}, {499, 998}, {499, 997}, {498, 996}, {498, 995}, {499, 994}}));
+              (Bolt{{500, 999}, {499, 998}, {499, 997}, {499, 996}, {498, 995}, {499, 994}}));
 
     field.TerrainHeight.fill(100);
     ScriptedRandom right{{}, .9};
