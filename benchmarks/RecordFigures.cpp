@@ -1,11 +1,15 @@
 #include "RecordFigures.h"
 
+#include <QImage>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <random>
+#include <stdexcept>
 
 #include "app/DiskFiles.h"
+#include "app/QtLook.h"
+#include "players/QtPlayerGrid.h"
 #include "players/Ranking.h"
 
 namespace skylob {
@@ -43,6 +47,20 @@ class UnsyncedFiles : public FileSystem {
     DiskFiles m_disk;
 };
 
+/// A folder with a list in it, for as long as the object lives.
+class ListFolder {
+  public:
+    explicit ListFolder(int players);
+    ~ListFolder() { std::filesystem::remove_all(m_folder); }
+    ListFolder(const ListFolder&) = delete;
+    ListFolder& operator=(const ListFolder&) = delete;
+
+    std::string list() const { return m_folder + "/Skylob.Data"; }
+
+  private:
+    std::string m_folder = std::filesystem::temp_directory_path() / "skylob-XXXXXX";
+};
+
 void writeList(const std::string& path, int players) {
     std::ofstream file{path, std::ios::binary};
     std::minstd_rand chance{1};
@@ -57,26 +75,45 @@ void writeList(const std::string& path, int players) {
     }
 }
 
+ListFolder::ListFolder(int players) {
+    if (!mkdtemp(m_folder.data())) throw std::runtime_error{"no folder for the list"};
+    writeList(list(), players);
+}
+
 }  // namespace
 
 template <int players>
 void recordSet(benchmark::State& state) {
-    std::string folder = std::filesystem::temp_directory_path() / "skylob-XXXXXX";
-    if (!mkdtemp(folder.data())) return state.SkipWithError("no folder for the list");
-    writeList(folder + "/Skylob.Data", players);
+    const ListFolder folder{players};
     UnsyncedFiles files;
-    PlayerFile file{files, folder + "/Skylob.Data"};
+    PlayerFile file{files, folder.list()};
     basSkylob shared;
     shared.PlayerName = {"Player 1", "Player 2"};
     shared.RoundsWon = {3, 2};
     shared.TotalKills = {250, 180};
     shared.Winner = 1;
     for (auto _ : state) RecordSetResults(file, shared);
-    std::filesystem::remove_all(folder);
+}
+
+template <int players>
+void fillGrid(benchmark::State& state) {
+    const ListFolder folder{players};
+    DiskFiles files;
+    PlayerFile file{files, folder.list()};
+    QWidget window;
+    applyLook(window);
+    QtPlayerGrid grid{&window};
+    grid.setFixedSize(580, 256);
+    QImage screen{grid.size(), QImage::Format_RGB32};
+    for (auto _ : state) {
+        grid.fill(file.readAll());
+        grid.render(&screen);
+    }
 }
 
 template void recordSet<10>(benchmark::State&);
 template void recordSet<1000>(benchmark::State&);
 template void recordSet<32767>(benchmark::State&);
+template void fillGrid<32767>(benchmark::State&);
 
 }  // namespace skylob

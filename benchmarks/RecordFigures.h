@@ -9,4 +9,8 @@ namespace skylob {
 template <int players>
 void recordSet(benchmark::State& state);
 
+/// Fills the lobby's grid with so many records, and paints it.
+template <int players>
+void fillGrid(benchmark::State& state);
+
 }  // namespace skylob

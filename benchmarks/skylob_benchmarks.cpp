@@ -176,6 +176,7 @@ const Figure kFigures[] = {
     {"recording a set, 32,767 players", recordSet<32767>, Time::Spent, 40e-3},
     {"the same, of n log n from 1,000", recordSet<32767>, Time::Spent, 1, 0, kNLogN,
      "recording a set, 1,000 players"},
+    {"filling the grid, 32,767 players", fillGrid<32767>, Time::Spent, 100e-3},
     {"one count, not held back by the clock", lateCount, Time::Spent, kCount},
     {"paced flight, of its nominal time", halfStep<QtPacer>, Time::GoneBy, 1.05, 0.98,
      FlightDelayCount(kGameSpeed) * kCount},
