@@ -112,8 +112,9 @@ void LightningStorm::draw(const Bolt& bolt) {
 void LightningStorm::thunder(int bolts) {
     if (!m_state.SoundOn) return;
     // The more bolts, the longer it rolls.
-    const int number = RandomInt(m_ports.random, 1, 2) + (bolts <= 2 ? 0 : 1);
-    m_ports.sounds.PlaySound("thunder" + std::to_string(number));
+    std::string sound = "thunder";
+    sound += std::to_string(RandomInt(m_ports.random, 1, 2) + (bolts <= 2 ? 0 : 1));
+    m_ports.sounds.PlaySound(sound);
 }
 
 void LightningStorm::clearSky() {

@@ -184,5 +184,17 @@ TEST(LightningStorm, ComesOnceInTenTicksAndLeavesATimerAloneWhoseBoxIsNotTicked)
     EXPECT_TRUE(rig.panel().timerMeteors);
 }
 
+TEST(LightningStorm, StartsTheMeteorTimerEvenIfItStoodStill) {
+    SkyRig rig;
+    rig.controls().chkLightning_Click(false);
+    rig.controls().chkMeteors_Click(true);
+    rig.controls().chkLightning_Click(true);
+    EXPECT_FALSE(rig.panel().timerMeteors);
+    rig.clock.time += std::chrono::seconds{12};
+    rig.random.script({0});
+    rig.battle.timerLightning_Timer();
+    EXPECT_TRUE(rig.panel().timerMeteors);
+}
+
 }  // namespace
 }  // namespace skylob
