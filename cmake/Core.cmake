@@ -10,6 +10,7 @@ add_library(skylob_core STATIC
     app/Fade.cpp
     app/OpenLink.cpp
     app/Pacer.cpp
+    app/PrintLayout.cpp
     app/RandomInt.cpp
     app/Settings.cpp
     app/StringTable.cpp
@@ -43,10 +44,12 @@ target_sources(skylob_core PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DI
     app/Fade.h
     app/FileSystem.h
     app/LinkOpener.h
+    app/ManualPrinter.h
     app/MessageBoxes.h
     app/OpenLink.h
     app/Pacer.h
     app/PerSide.h
+    app/PrintLayout.h
     app/RandomInt.h
     app/Rounding.h
     app/Settings.h
