@@ -1,5 +1,5 @@
-# The screens and the adapters to the outside world: Qt Widgets and SDL2_mixer.
-find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets)
+# The screens and the adapters to the outside world: Qt Widgets, Qt PrintSupport and SDL2_mixer.
+find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets PrintSupport)
 find_package(PkgConfig REQUIRED)
 pkg_check_modules(SDL2_MIXER REQUIRED IMPORTED_TARGET SDL2_mixer)
 pkg_check_modules(XCB REQUIRED IMPORTED_TARGET xcb)
@@ -9,6 +9,7 @@ add_library(skylob_ui STATIC
     app/QtInputGate.cpp
     app/QtLinkOpener.cpp
     app/QtLook.cpp
+    app/QtManualPrinter.cpp
     app/QtMessageBoxes.cpp
     app/QtPacer.cpp
     app/QtScreenFade.cpp
@@ -32,7 +33,7 @@ add_library(skylob_ui STATIC
 set_target_properties(skylob_ui PROPERTIES AUTOMOC ON)
 target_link_libraries(skylob_ui
     PUBLIC skylob_core Qt6::Widgets
-    PRIVATE PkgConfig::SDL2_MIXER PkgConfig::XCB skylob_strict)
+    PRIVATE Qt6::PrintSupport PkgConfig::SDL2_MIXER PkgConfig::XCB skylob_strict)
 target_compile_definitions(skylob_ui PRIVATE QT_NO_CAST_TO_ASCII)
 
 # Sounds, pictures and forms are part of the program. They hang on the executables that use them: in a
