@@ -14,6 +14,7 @@ add_library(skylob_core STATIC
     app/RandomInt.cpp
     app/Settings.cpp
     app/StringTable.cpp
+    app/TitleScene.cpp
     app/WaveImage.cpp
     battle/Battle.cpp
     battle/BattleControls.cpp
@@ -56,6 +57,7 @@ target_sources(skylob_core PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DI
     app/SettingsStore.h
     app/SoundPlayer.h
     app/StringTable.h
+    app/TitleScene.h
     app/TrimBlanks.h
     app/WaveImage.h
     app/basSkylob.h

@@ -15,6 +15,7 @@ add_library(skylob_ui STATIC
     app/QtScreenFade.cpp
     app/QtSettingsStore.cpp
     app/QtShapes.cpp
+    app/QtTitleAnimation.cpp
     app/SdlSoundPlayer.cpp
     app/modFadeInOut.cpp
     battle/QtMenGauge.cpp
