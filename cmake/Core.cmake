@@ -10,9 +10,11 @@ add_library(skylob_core STATIC
     app/Fade.cpp
     app/OpenLink.cpp
     app/Pacer.cpp
+    app/PrintLayout.cpp
     app/RandomInt.cpp
     app/Settings.cpp
     app/StringTable.cpp
+    app/TitleScene.cpp
     app/WaveImage.cpp
     battle/Battle.cpp
     battle/BattleControls.cpp
@@ -48,16 +50,19 @@ target_sources(skylob_core PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DI
     app/Fade.h
     app/FileSystem.h
     app/LinkOpener.h
+    app/ManualPrinter.h
     app/MessageBoxes.h
     app/OpenLink.h
     app/Pacer.h
     app/PerSide.h
+    app/PrintLayout.h
     app/RandomInt.h
     app/Rounding.h
     app/Settings.h
     app/SettingsStore.h
     app/SoundPlayer.h
     app/StringTable.h
+    app/TitleScene.h
     app/TrimBlanks.h
     app/WaveImage.h
     app/basSkylob.h

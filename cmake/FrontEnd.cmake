@@ -1,5 +1,5 @@
-# The screens and the adapters to the outside world: Qt Widgets and SDL2_mixer.
-find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets)
+# The screens and the adapters to the outside world: Qt Widgets, Qt PrintSupport and SDL2_mixer.
+find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets PrintSupport)
 find_package(PkgConfig REQUIRED)
 pkg_check_modules(SDL2_MIXER REQUIRED IMPORTED_TARGET SDL2_mixer)
 pkg_check_modules(XCB REQUIRED IMPORTED_TARGET xcb)
@@ -9,12 +9,14 @@ add_library(skylob_ui STATIC
     app/QtInputGate.cpp
     app/QtLinkOpener.cpp
     app/QtLook.cpp
+    app/QtManualPrinter.cpp
     app/QtMessageBoxes.cpp
     app/QtPacer.cpp
     app/QtScreenFade.cpp
     app/QtSettingsStore.cpp
     app/QtShapes.cpp
     app/QtSideFrame.cpp
+    app/QtTitleAnimation.cpp
     app/SdlSoundPlayer.cpp
     app/modFadeInOut.cpp
     battle/QtEffectTimers.cpp
@@ -39,7 +41,7 @@ add_library(skylob_ui STATIC
 set_target_properties(skylob_ui PROPERTIES AUTOMOC ON)
 target_link_libraries(skylob_ui
     PUBLIC skylob_core Qt6::Widgets
-    PRIVATE PkgConfig::SDL2_MIXER PkgConfig::XCB skylob_strict)
+    PRIVATE Qt6::PrintSupport PkgConfig::SDL2_MIXER PkgConfig::XCB skylob_strict)
 target_compile_definitions(skylob_ui PRIVATE QT_NO_CAST_TO_ASCII)
 
 # Sounds, pictures and forms are part of the program. They hang on the executables that use them: in a
@@ -51,11 +53,14 @@ function(skylob_add_resources target)
     file(GLOB pictures CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/resources/pictures/*.png
         ${PROJECT_SOURCE_DIR}/resources/pictures/*.txt)
     file(GLOB strings CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/resources/strings/*.txt)
+    file(GLOB manual CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/resources/strings/manual/*.txt)
     file(GLOB forms CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/resources/forms/*.json)
     qt_add_resources(${target} forms PREFIX /forms
         BASE ${PROJECT_SOURCE_DIR}/resources/forms FILES ${forms})
     qt_add_resources(${target} strings PREFIX /strings
         BASE ${PROJECT_SOURCE_DIR}/resources/strings FILES ${strings})
+    qt_add_resources(${target} manual PREFIX /strings/manual
+        BASE ${PROJECT_SOURCE_DIR}/resources/strings/manual FILES ${manual})
     qt_add_resources(${target} sounds PREFIX /sounds
         BASE ${PROJECT_SOURCE_DIR}/resources/sounds FILES ${sounds})
     qt_add_resources(${target} look PREFIX /look

@@ -1,0 +1,91 @@
+#include "app/QtManualPrinter.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QStandardPaths>
+#include <string_view>
+
+#include "app/PrintLayout.h"
+#include "app/QtInputGate.h"
+
+namespace skylob {
+
+namespace {
+
+QFont printerFont() {
+    QFont font;
+    font.setPointSize(11);
+    // Set twice, always in this order: the second one prints.
+    font.setFamily(QStringLiteral("Courier"));
+    font.setFamily(QStringLiteral("Arial"));
+    return font;
+}
+
+QString toQt(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+/// False where the printer refuses to begin.
+bool printPages(QPrinter& printer, const std::string& header, const std::string& text) {
+    printer.setFullPage(true);  // inches are counted from the corner of the sheet
+    printer.setDocName(toQt(header));
+    QPainter painter;
+    if (!painter.begin(&printer)) return false;
+    painter.setFont(printerFont());
+    const QFontMetricsF metrics{painter.font(), &printer};
+    const double inch = printer.resolution();
+    const PrintMeasures measures{
+        [&](std::string_view piece) { return metrics.horizontalAdvance(toQt(piece)) / inch; },
+        metrics.lineSpacing() / inch};
+    bool first = true;
+    for (const PrintedPage& page : layOutPages(header, text, measures)) {
+        if (!first && !printer.newPage()) break;
+        first = false;
+        for (const PrintedText& piece : page)
+            painter.drawText(QPointF{piece.x * inch, piece.y * inch + metrics.ascent()},
+                             toQt(piece.text));
+    }
+    return painter.end();
+}
+
+}  // namespace
+
+bool printToPdf(const QString& file, const std::string& header, const std::string& text) {
+    QPrinter printer{QPrinter::HighResolution};
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(file);
+    return printPages(printer, header, text);
+}
+
+void QtManualPrinter::print(const std::string& header, const std::string& text) {
+    const bool hasPrinter = !QPrinterInfo::defaultPrinter().isNull();
+    const QString file = hasPrinter ? QString{} : askForFile();
+    if (!hasPrinter && file.isEmpty()) return;
+    QtInputGate gate{&m_window};
+    gate.close();
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    if (hasPrinter) {
+        QPrinter printer{QPrinter::HighResolution};
+        printPages(printer, header, text);
+    } else {
+        printToPdf(file, header, text);
+    }
+    QApplication::restoreOverrideCursor();
+    gate.dropInputAndOpen();
+}
+
+QString QtManualPrinter::askForFile() const {
+    QFileDialog dialog{&m_window, QStringLiteral("Print to a File"),
+                       QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
+                       QStringLiteral("PDF files (*.pdf)")};
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(QStringLiteral("pdf"));
+    dialog.selectFile(QStringLiteral("Skylob.pdf"));
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString{};
+}
+
+}  // namespace skylob

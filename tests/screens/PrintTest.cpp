@@ -1,0 +1,118 @@
+#include <QFileDialog>
+#include <QPrinterInfo>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+#include "app/PrintLayout.h"
+#include "app/QtManualPrinter.h"
+
+using namespace skylob;
+
+namespace {
+
+/// What stands on the pages of a PDF, each page followed by a form feed.
+QString textOf(const QString& pdf, const QStringList& options) {
+    QProcess process;
+    process.start("pdftotext", options + QStringList{pdf, "-"});
+    if (!process.waitForFinished() || process.exitCode() != 0) return {};
+    return QString::fromUtf8(process.readAllStandardOutput());
+}
+
+QString manualText(int number) {
+    QFile file{QString{":/strings/manual/%1.txt"}.arg(number)};
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString{};
+}
+
+}  // namespace
+
+class PrintTest : public QObject {
+    Q_OBJECT
+
+  private slots:
+    void initTestCase() {
+        qputenv("CUPS_SERVER", "/nonexistent");  // nothing here is to come out of a real printer
+    }
+
+    void printsEveryTopicWhole() {
+        for (const int number : {1000, 1100, 1200, 1300}) {
+            const QString text = manualText(number), pdf = m_folder.filePath("topic.pdf");
+            QVERIFY(text.size() > 500);
+            QVERIFY(printToPdf(pdf, helpSectionHeader("Topic"), text.toStdString()));
+            const QStringList pages = textOf(pdf, {"-raw"}).split('\f', Qt::SkipEmptyParts);
+            QCOMPARE(pages.size() > 1, number != 1000);
+            QString printed;
+            for (int i = 0; i < pages.size(); ++i) {
+                const QString top = QString{"Skylob, Help Section: Topic (page %1) "}.arg(i + 1);
+                const QString page = pages[i].simplified() + ' ';
+                QVERIFY2(page.startsWith(top), qPrintable(page.left(80)));
+                printed += page.mid(top.size());
+            }
+            QCOMPARE(printed.simplified(), text.simplified());
+        }
+    }
+
+    void keepsItsMarginsInArial() {
+        const QString pdf = m_folder.filePath("margins.pdf");
+        const std::string lines = QString{"Ünder \u2019 "}.repeated(600).toStdString();
+        QVERIFY(printToPdf(pdf, "Header", lines));
+        QVERIFY(textOf(pdf, {}).contains("Ünder \u2019 Ünder"));
+        static const QRegularExpression word{
+            "xMin=\"([\\d.]+)\" yMin=\"([\\d.]+)\" xMax=\"([\\d.]+)\" yMax=\"([\\d.]+)\""};
+        double left = 999, right = 0, top = 999, bottom = 0;
+        auto words = word.globalMatch(textOf(pdf, {"-bbox"}));
+        QVERIFY(words.hasNext());
+        while (words.hasNext()) {
+            const QRegularExpressionMatch box = words.next();
+            left = qMin(left, box.captured(1).toDouble() / 72);
+            top = qMin(top, box.captured(2).toDouble() / 72);
+            right = qMax(right, box.captured(3).toDouble() / 72);
+            bottom = qMax(bottom, box.captured(4).toDouble() / 72);
+        }
+        const QByteArray seen =
+            QString{"%1 %2 %3 %4"}.arg(left).arg(top).arg(right).arg(bottom).toUtf8();
+        QVERIFY2(qAbs(left - 1) < 0.02 && qAbs(top - 1) < 0.05, seen);
+        QVERIFY2(right > 7 && right < 7.52 && bottom > 8 && bottom < 8.82, seen);
+        QProcess fonts;
+        fonts.start("pdffonts", {pdf});
+        QVERIFY(fonts.waitForFinished());
+        const QByteArray names = fonts.readAllStandardOutput();
+        QVERIFY2(names.contains("LiberationSans") || names.contains("Arial"), names);
+    }
+
+    void refusesAFileThatCannotBe() {
+        QVERIFY(!printToPdf(m_folder.filePath("missing/topic.pdf"), "Header", "Text"));
+        QVERIFY(!printToPdf(QString{}, "Header", "Text"));
+    }
+
+    void asksForAFileWithoutAPrinter() {
+        if (!QPrinterInfo::defaultPrinter().isNull()) QSKIP("there is a printer");
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        QWidget window;
+        QtManualPrinter printer{window};
+        const QString pdf = m_folder.filePath("asked");
+        for (const bool cancel : {true, false}) {
+            bool asked = false;
+            QTimer::singleShot(0, [&] {
+                auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+                asked = dialog != nullptr;
+                if (!asked) return;
+                dialog->selectFile(pdf);
+                cancel ? dialog->reject() : static_cast<QDialog*>(dialog)->accept();
+            });
+            printer.print("Header", "Some text");
+            QVERIFY(asked);
+            QCOMPARE(QFile::exists(pdf + ".pdf"), !cancel);
+            QVERIFY(QApplication::overrideCursor() == nullptr);
+        }
+        QVERIFY(textOf(pdf + ".pdf", {}).contains("Some text"));
+    }
+
+  private:
+    QTemporaryDir m_folder;
+};
+
+QTEST_MAIN(PrintTest)
+#include "PrintTest.moc"

@@ -1,0 +1,85 @@
+#include <QPaintEvent>
+#include <QScreen>
+#include <QTest>
+
+#include "app/QtShapes.h"
+#include "app/QtTitleAnimation.h"
+
+using namespace skylob;
+
+namespace {
+
+/// Moves only when it is told to.
+class StillAnimation : public QtTitleAnimation {
+  public:
+    using QtTitleAnimation::QtTitleAnimation;
+    QRegion painted;
+
+  protected:
+    void timerEvent(QTimerEvent*) override {}
+    void paintEvent(QPaintEvent* event) override {
+        painted += event->region();
+        QtTitleAnimation::paintEvent(event);
+    }
+};
+
+}  // namespace
+
+class TitleAnimationTest : public QObject {
+    Q_OBJECT
+
+  private slots:
+    void runsOnlyWhileItIsSeen() {
+        QtTitleAnimation animation{m_shapes};
+        QCOMPARE(animation.size(), QSize(640, 280));
+        QVERIFY(!animation.accessibleName().isEmpty());
+        QVERIFY(!animation.isRunning());
+        animation.show();
+        QVERIFY(animation.isRunning());
+        animation.hide();
+        QVERIFY(!animation.isRunning());
+    }
+
+    void paintsAgainWhatHasChangedAndLittleElse() {
+        StillAnimation animation{m_shapes};
+        animation.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&animation));
+        for (const double seconds : {0.5, 0.6, 1.7, 1.75, 2.8, 3.0, 3.05, 3.7, 3.8, 4.5, 6.0}) {
+            animation.painted = {};
+            animation.showMoment(seconds);
+            QCoreApplication::processEvents();
+            int pixels = 0;
+            for (const QRect& rect : animation.painted) pixels += rect.width() * rect.height();
+            QVERIFY2(pixels > 0 && pixels < 640 * 280 / 10, qPrintable(QString::number(pixels)));
+            const QImage shown = animation.screen()->grabWindow(animation.winId()).toImage();
+            const QImage whole = animation.grab().toImage();
+            QCOMPARE(shown.convertToFormat(QImage::Format_RGB32),
+                     whole.convertToFormat(QImage::Format_RGB32));
+        }
+    }
+
+    void showsTheDuel() {
+        StillAnimation animation{m_shapes};
+        const auto colourAt = [&](double seconds, int x, int y) {
+            animation.showMoment(seconds);
+            return animation.grab().toImage().pixelColor(x, y).name();
+        };
+        QCOMPARE(colourAt(0.5, 124, 239), "#ffe27a");  // the flash
+        QVERIFY(colourAt(0.4, 124, 239) != "#ffe27a");
+        QCOMPARE(colourAt(1.7, 331, 35), "#ffe27a");  // the shell half way
+        QVERIFY(colourAt(1.8, 331, 35) != "#ffe27a");
+        QCOMPARE(colourAt(2.8, 540, 240), "#ffffff");  // the hit
+        QCOMPARE(colourAt(4.5, 440, 72), "#6fe0ec");   // the moon
+        // A loop later everything is as it was.
+        animation.showMoment(1.7);
+        const QImage before = animation.grab().toImage();
+        animation.showMoment(7.7);
+        QCOMPARE(animation.grab().toImage(), before);
+    }
+
+  private:
+    const QtShapes m_shapes{programDrawings()};
+};
+
+QTEST_MAIN(TitleAnimationTest)
+#include "TitleAnimationTest.moc"
