@@ -5,6 +5,10 @@
 #include <cstdlib>
 #include <exception>
 
+#include "app/Main.h"
+#include "app/frmManual.h"
+#include "app/frmNewUser.h"
+#include "app/frmTitlePage.h"
 #include "battle/HeadlessBattle.h"
 #include "battle/frmPlayGame.h"
 #include "controls/GlintButtonAccessible.h"
@@ -14,17 +18,49 @@
 
 namespace skylob {
 
+/// What leads from one screen to the next.
+enum class Application::Event {
+    ProgramStarted,
+    NewUserCame,
+    TitlePageContinued,
+    TitlePageClosed,
+    HelpWanted,
+    ComputerChallenged,
+    PlayersChosen,
+    RoundDecided,
+    SetDecided,
+    BattleLeft,
+    PlayerListLeft
+};
+
+struct Application::Step {
+    Event event;
+    void (Application::*next)();
+};
+
+/// The order of screens, all of it: the screens themselves know nothing of each other.
+const Application::Step Application::kOrderOfScreens[] = {
+    {Event::ProgramStarted, &Application::showTitlePage},
+    {Event::NewUserCame, &Application::showNewUser},  // above the title page
+    {Event::TitlePageContinued, &Application::showPlayerList},
+    {Event::TitlePageClosed, &Application::quitWhenSilent},
+    {Event::HelpWanted, &Application::showManual},              // beside the player list
+    {Event::ComputerChallenged, &Application::showSkillLevel},  // above the player list
+    {Event::PlayersChosen, &Application::showBattle},
+    {Event::RoundDecided, &Application::showRoundSummary},  // above the battle
+    {Event::SetDecided, &Application::showSetSummary},      // above the battle
+    {Event::BattleLeft, &Application::showPlayerList},
+    {Event::PlayerListLeft, &Application::quitWhenSilent},
+};
+
 namespace {
+
+constexpr int kOverviewText = 1000;  ///< the manual's first topic
 
 std::string resourceText(const QString& name) {
     QFile file{name};
     if (!file.open(QIODevice::ReadOnly)) qFatal("a text of the program is missing");
     return file.readAll().toStdString();
-}
-
-/// A screen that has hidden itself is still at work on the present event.
-void deleteAfterwards(QWidget* screen) {
-    screen->deleteLater();
 }
 
 }  // namespace
@@ -39,47 +75,91 @@ Application::Application(int& argc, char** argv, const CommandLine& commandLine)
     // One screen may close before the next is shown.
     setQuitOnLastWindowClosed(false);
     m_strings.addLines(resourceText(QStringLiteral(":/strings/commentary.txt")));
+    for (const int topic : {kOverviewText, 1100, 1200, 1300})
+        m_strings.add(topic, resourceText(QStringLiteral(":/strings/manual/%1.txt").arg(topic)));
 }
 
 Application::~Application() = default;
 
 int Application::run() {
     try {
-        showLobby();
+        if (!Main(m_shared, m_singleCopy.copies(), m_files, m_boxes)) return EXIT_FAILURE;
+        after(Event::ProgramStarted);
     } catch (const std::exception& error) {
         fail(error.what());
     }
     return exec();
 }
 
-void Application::showLobby() {
-    auto* lobby = new frmGetPlayers{m_shared,
-                                    {m_playerFile, m_clock, m_boxes, m_settings, m_sounds, m_links,
-                                     m_shapes, [this] { askForSkillLevel(); }}};
-    connect(lobby, &frmGetPlayers::battleChosen, this, [this, lobby] {
-        deleteAfterwards(lobby);
-        showBattle();
-    });
-    connect(lobby, &frmGetPlayers::programLeft, this, [this, lobby] {
-        deleteAfterwards(lobby);
-        quitWhenSilent();
-    });
-    lobby->show();
+void Application::after(Event event) {
+    for (const Step& step : kOrderOfScreens) {
+        if (step.event == event) return (this->*step.next)();
+    }
 }
 
-void Application::askForSkillLevel() {
+template <typename Form>
+void Application::follow(Form* form, void (Form::*signal)(), Event event) {
+    connect(form, signal, this, [this, form, event] {
+        form->deleteLater();  // it is still at work on the present event
+        after(event);
+    });
+}
+
+void Application::showTitlePage() {
+    auto* page = new frmTitlePage{m_shared,
+                                  {m_clock, m_sounds, m_settings, m_links, m_boxes, m_shapes,
+                                   [this] { after(Event::NewUserCame); }}};
+    follow(page, &frmTitlePage::continued, Event::TitlePageContinued);
+    follow(page, &frmTitlePage::closed, Event::TitlePageClosed);
+    page->show();
+}
+
+void Application::showNewUser() {
+    frmNewUser{m_shared, m_strings.text(kOverviewText), m_settings, m_shapes}.exec();
+}
+
+void Application::showPlayerList() {
+    auto* list = new frmGetPlayers{m_shared,
+                                   {m_playerFile, m_clock, m_boxes, m_settings, m_sounds, m_links,
+                                    m_shapes, [this] { after(Event::ComputerChallenged); }}};
+    connect(list, &frmGetPlayers::helpWanted, this, [this] { after(Event::HelpWanted); });
+    follow(list, &frmGetPlayers::battleChosen, Event::PlayersChosen);
+    follow(list, &frmGetPlayers::programLeft, Event::PlayerListLeft);
+    list->show();
+}
+
+void Application::showManual() {
+    if (!m_manual) {
+        m_manual = new frmManual{m_shared, {m_strings, m_settings, m_links, m_boxes, m_shapes}};
+        connect(m_manual, &frmManual::returned, m_manual, &QObject::deleteLater);
+        m_manual->show();
+    }
+    m_manual->setWindowState(m_manual->windowState() & ~Qt::WindowMinimized);
+    m_manual->raise();
+    m_manual->activateWindow();
+}
+
+void Application::showSkillLevel() {
     frmGetSkillLevel{m_shared, m_settings, m_shapes}.exec();
 }
 
 void Application::showBattle() {
     m_battle = new frmPlayGame{
         m_shared, frmPlayGamePorts{m_random, m_clock, m_pacer, m_sounds, m_boxes, m_settings,
-                                   m_shapes, [this](SummaryKind kind) { showSummary(kind); }}};
-    connect(m_battle, &frmPlayGame::battleClosed, this, [this] {
-        deleteAfterwards(m_battle);
-        showLobby();
-    });
+                                   m_shapes, [this](SummaryKind kind) {
+                                       after(kind == SummaryKind::Round ? Event::RoundDecided
+                                                                        : Event::SetDecided);
+                                   }}};
+    follow(m_battle.get(), &frmPlayGame::battleClosed, Event::BattleLeft);
     m_battle->show();
+}
+
+void Application::showRoundSummary() {
+    showSummary(SummaryKind::Round);
+}
+
+void Application::showSetSummary() {
+    showSummary(SummaryKind::Set);
 }
 
 void Application::showSummary(SummaryKind kind) {
@@ -96,6 +176,8 @@ void Application::showSummary(SummaryKind kind) {
 
 void Application::quitWhenSilent() {
     constexpr int kPause = 50;  // milliseconds
+    delete m_manual;
+    m_singleCopy.release();
     auto* timer = new QTimer{this};
     connect(timer, &QTimer::timeout, this, [this] {
         if (!m_sounds.isPlaying()) quit();

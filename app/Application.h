@@ -13,6 +13,7 @@
 #include "app/QtShapes.h"
 #include "app/RandomInt.h"
 #include "app/SdlSoundPlayer.h"
+#include "app/SingleCopy.h"
 #include "app/StringTable.h"
 #include "app/basSkylob.h"
 #include "battle/BattleView.h"
@@ -20,7 +21,7 @@
 
 namespace skylob {
 
-class frmGetPlayers;
+class frmManual;
 class frmPlayGame;
 
 /// The running program: owns what all screens share, and decides which screen follows which.
@@ -41,13 +42,31 @@ class Application : public QApplication {
     bool notify(QObject* receiver, QEvent* event) override;
 
   private:
-    void showLobby();
-    void askForSkillLevel();
+    enum class Event;
+    struct Step;
+    static const Step kOrderOfScreens[];
+
+    /// Brings on the screen that follows.
+    void after(Event event);
+
+    /// When the form has hidden itself and reported by the signal, lets it go and the next one
+    /// come.
+    template <typename Form>
+    void follow(Form* form, void (Form::*signal)(), Event event);
+
+    void showTitlePage();
+    void showNewUser();
+    void showPlayerList();
+    void showManual();
+    void showSkillLevel();
     void showBattle();
+    void showRoundSummary();
+    void showSetSummary();
     void showSummary(SummaryKind kind);
     void quitWhenSilent();
     void fail(const char* why);
 
+    SingleCopy m_singleCopy;
     SeededRandom m_random;
     SystemClock m_clock;
     QtPacer m_pacer;
@@ -61,6 +80,7 @@ class Application : public QApplication {
     basSkylob m_shared;
     PlayerFile m_playerFile;
     QPointer<frmPlayGame> m_battle;
+    QPointer<frmManual> m_manual;
 };
 
 }  // namespace skylob

@@ -118,6 +118,11 @@ std::unique_ptr<RandomAccessFile> DiskFiles::open(const std::string& name) {
     return file;
 }
 
+bool DiskFiles::hasFile(const std::string& name) const {
+    std::error_code unknown;
+    return std::filesystem::is_regular_file(name, unknown);
+}
+
 void DiskFiles::remove(const std::string& name) {
     if (::unlink(name.c_str()) != 0) fail("Could not delete ", name);
 }

@@ -9,6 +9,7 @@ namespace skylob {
 class DiskFiles final : public FileSystem {
   public:
     std::unique_ptr<RandomAccessFile> open(const std::string& name) override;
+    bool hasFile(const std::string& name) const override;
     void remove(const std::string& name) override;
     void replace(const std::string& from, const std::string& to) override;
 };

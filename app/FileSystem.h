@@ -43,6 +43,9 @@ class FileSystem {
     /// Opens a file, and makes an empty one where there is none.
     virtual std::unique_ptr<RandomAccessFile> open(const std::string& name) = 0;
 
+    /// Whether there is a plain file of that name; never fails.
+    virtual bool hasFile(const std::string& name) const = 0;
+
     virtual void remove(const std::string& name) = 0;
 
     /// Gives a file the name of another one in the same folder, which it replaces. At every

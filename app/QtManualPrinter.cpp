@@ -52,6 +52,16 @@ bool printPages(QPrinter& printer, const std::string& header, const std::string&
     return painter.end();
 }
 
+QString askForFile(QWidget& window) {
+    QFileDialog dialog{&window, QStringLiteral("Print to a File"),
+                       QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
+                       QStringLiteral("PDF files (*.pdf)")};
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(QStringLiteral("pdf"));
+    dialog.selectFile(QStringLiteral("Skylob.pdf"));
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString{};
+}
+
 }  // namespace
 
 bool printToPdf(const QString& file, const std::string& header, const std::string& text) {
@@ -61,31 +71,23 @@ bool printToPdf(const QString& file, const std::string& header, const std::strin
     return printPages(printer, header, text);
 }
 
-void QtManualPrinter::print(const std::string& header, const std::string& text) {
+bool printManual(QWidget& window, const std::string& header, const std::string& text) {
     const bool hasPrinter = !QPrinterInfo::defaultPrinter().isNull();
-    const QString file = hasPrinter ? QString{} : askForFile();
-    if (!hasPrinter && file.isEmpty()) return;
-    QtInputGate gate{&m_window};
+    const QString file = hasPrinter ? QString{} : askForFile(window);
+    if (!hasPrinter && file.isEmpty()) return true;
+    QtInputGate gate{&window};
     gate.close();
     QApplication::setOverrideCursor(Qt::WaitCursor);
+    bool done = true;
     if (hasPrinter) {
         QPrinter printer{QPrinter::HighResolution};
         printPages(printer, header, text);
     } else {
-        printToPdf(file, header, text);
+        done = printToPdf(file, header, text);
     }
     QApplication::restoreOverrideCursor();
     gate.dropInputAndOpen();
-}
-
-QString QtManualPrinter::askForFile() const {
-    QFileDialog dialog{&m_window, QStringLiteral("Print to a File"),
-                       QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
-                       QStringLiteral("PDF files (*.pdf)")};
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(QStringLiteral("pdf"));
-    dialog.selectFile(QStringLiteral("Skylob.pdf"));
-    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString{};
+    return done;
 }
 
 }  // namespace skylob

@@ -23,6 +23,10 @@ class QtTitleAnimation : public QWidget {
 
     bool isRunning() const { return m_timer.isActive(); }
 
+    /// Stops the picture where it is, and lets it go on.
+    void pause() { m_timer.stop(); }
+    void resume();
+
     /// Shows the animation as it is that many seconds after its beginning.
     void showMoment(double seconds);
 

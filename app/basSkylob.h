@@ -25,6 +25,7 @@ struct basSkylob {
     bool FadeActive = false;          ///< the screen that came or went last could fade
 
     std::string PlayerFileName = "Skylob.Data";  ///< in the working directory
+    std::string OldDataFile = "Skylob.Dat";      ///< what it was called in earlier versions
 
     PerSide<int> RoundsWon;   ///< rounds won in this set
     PerSide<int> RoundKills;  ///< enemy men killed in this round

@@ -8,12 +8,14 @@ add_library(skylob_core STATIC
     app/CountedWait.cpp
     app/DiskFiles.cpp
     app/Fade.cpp
+    app/Main.cpp
     app/OpenLink.cpp
     app/Pacer.cpp
     app/PrintLayout.cpp
     app/RandomInt.cpp
     app/Settings.cpp
     app/StringTable.cpp
+    app/TitlePage.cpp
     app/TitleScene.cpp
     app/WaveImage.cpp
     battle/Battle.cpp
@@ -50,7 +52,7 @@ target_sources(skylob_core PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DI
     app/Fade.h
     app/FileSystem.h
     app/LinkOpener.h
-    app/ManualPrinter.h
+    app/Main.h
     app/MessageBoxes.h
     app/OpenLink.h
     app/Pacer.h
@@ -62,6 +64,7 @@ target_sources(skylob_core PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DI
     app/SettingsStore.h
     app/SoundPlayer.h
     app/StringTable.h
+    app/TitlePage.h
     app/TitleScene.h
     app/TrimBlanks.h
     app/WaveImage.h

@@ -7,6 +7,7 @@ pkg_check_modules(XCB REQUIRED IMPORTED_TARGET xcb)
 add_library(skylob_ui STATIC
     app/Application.cpp
     app/QtInputGate.cpp
+    app/QtLinkLabel.cpp
     app/QtLinkOpener.cpp
     app/QtLook.cpp
     app/QtManualPrinter.cpp
@@ -17,7 +18,12 @@ add_library(skylob_ui STATIC
     app/QtShapes.cpp
     app/QtSideFrame.cpp
     app/QtTitleAnimation.cpp
+    app/QtTitlePicture.cpp
     app/SdlSoundPlayer.cpp
+    app/SingleCopy.cpp
+    app/frmManual.cpp
+    app/frmNewUser.cpp
+    app/frmTitlePage.cpp
     app/modFadeInOut.cpp
     battle/QtEffectTimers.cpp
     battle/QtMenGauge.cpp

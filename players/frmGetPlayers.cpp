@@ -87,10 +87,8 @@ void frmGetPlayers::makeButtons() {
                      QStringLiteral(" Delete the Highlighted Player "));
     cmdEmailFriend = make(QStringLiteral("cmdEmailFriend"), {608, 168, 160, 48},
                           QStringLiteral(" Email a friend about this game! "));
-    // Markup shows as such in a tool tip that could be taken for it.
     cmdHelp = make(QStringLiteral("cmdHelp"), {608, 224, 160, 48}, QStringLiteral(" Help <F1> "));
     cmdQuit = make(QStringLiteral("cmdQuit"), {608, 440, 160, 48}, {});
-    cmdHelp->design().setEnabled(false);
 }
 
 void frmGetPlayers::makeComputerBox() {
@@ -136,6 +134,7 @@ void frmGetPlayers::connectControls() {
     connect(cmdDelete, &GlintButton::Click, this,
             [this] { m_lobby.cmdDelete_Click(grid->highlighted()); });
     connect(cmdEmailFriend, &GlintButton::Click, this, [this] { m_lobby.cmdEmailFriend_Click(); });
+    connect(cmdHelp, &GlintButton::Click, this, &frmGetPlayers::helpWanted);
     connect(cmdQuit, &GlintButton::Click, this, [this] { m_lobby.cmdQuit_Click(); });
     connect(optScreenSize, &QButtonGroup::idClicked, this,
             [this](int index) { m_lobby.optScreenSize_Click(index); });
@@ -153,6 +152,7 @@ void frmGetPlayers::addShortcuts() {
         connect(shortcut, &QShortcut::activated, where, std::move(action));
     };
     onKey(this, Qt::Key_Escape, [this] { m_lobby.cmdQuit_Click(); });
+    onKey(this, Qt::Key_F1, [this] { emit helpWanted(); });
     onKey(this, Qt::ALT | Qt::Key_C, [this] { chkComputer->click(); });
     onKey(
         grid, Qt::Key_F2, [this] { m_lobby.cmdModify_Click(grid->highlighted()); },

@@ -39,6 +39,9 @@ class frmGetPlayers : public QWidget, private LobbyView {
     frmGetPlayers(basSkylob& shared, const frmGetPlayersPorts& ports);
 
   signals:
+    /// The user wants to read the manual.
+    void helpWanted();
+
     /// Two players are to fight, or the user has had enough; the screen is hidden. Receivers must
     /// not delete it before the present event has been handled.
     void battleChosen();

@@ -97,10 +97,21 @@ shown() { until_true "${2:-20}" is_shown "$1" || fail "no window '$1': $(<"$work
 gone() { until_true "${2:-20}" not is_shown "$1" || fail "the window '$1' stays"; }
 not() { ! "$@"; }
 
-# start_game OPTION...: starts the program and waits for the player list.
-start_game() {
+title='^ $' # no caption
+
+# start_program OPTION...: starts the program and waits for the title page.
+start_program() {
     "$program" --data-dir "$work/data" "$@" 2>"$work/stderr" &
     game=$!
+    shown "$title"
+}
+
+# start_game OPTION...: the same without a welcome, and goes on to the player list.
+start_game() {
+    [[ -s $settings ]] || echo '[Defaults]' >"$settings"
+    grep -q NewUser "$settings" || sed -i '1aNewUser=NoShow' "$settings"
+    start_program "$@"
+    press "$title" space
     shown "$lobby"
     sleep 0.5 # the list is filled
 }

@@ -57,6 +57,7 @@ class FailingFiles : public FileSystem {
         check("open", name);
         return std::make_unique<File>(*this, name);
     }
+    bool hasFile(const std::string& name) const override { return m_disk.hasFile(name); }
     void remove(const std::string& name) override {
         check("remove", name);
         m_disk.remove(name);

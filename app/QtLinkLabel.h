@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QLabel>
+
+namespace skylob {
+
+/// A line of text that leads somewhere: it can be clicked, or pressed with Space or Enter.
+class QtLinkLabel : public QLabel {
+    Q_OBJECT
+
+  public:
+    QtLinkLabel(const QString& text, QWidget* parent);
+
+  signals:
+    void Click();
+
+  protected:
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+};
+
+}  // namespace skylob
