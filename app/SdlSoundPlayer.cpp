@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <QFile>
+#include <chrono>
 #include <cstdio>
 #include <span>
 #include <stdexcept>
@@ -18,6 +19,7 @@ namespace {
 
 constexpr int kRate = 44100, kChannels = 1, kBufferFrames = 1024;
 constexpr int kTheOneChannel = 0;
+constexpr std::chrono::seconds kSilence{3};
 
 std::string lowerCase(std::string_view name) {
     return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()))
@@ -75,15 +77,27 @@ bool openAudio() {
 SdlSoundPlayer::SdlSoundPlayer() {
     // Ctrl+C ends the program, not only its sound.
     SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
+    m_silenceTimer.setInterval(kSilence);
+    QObject::connect(&m_silenceTimer, &QTimer::timeout, [this] { closeAfterSilence(); });
 }
 
 SdlSoundPlayer::~SdlSoundPlayer() {
+    closeDevice();
+}
+
+void SdlSoundPlayer::closeDevice() {
+    m_silenceTimer.stop();
     if (m_device != Device::Open) return;
     Mix_HaltChannel(-1);
     m_chunks.clear();
     Mix_CloseAudio();
     Mix_Quit();
     SDL_QuitSubSystem(SDL_INIT_AUDIO);
+    m_device = Device::Closed;
+}
+
+void SdlSoundPlayer::closeAfterSilence() {
+    if (!isPlaying()) closeDevice();
 }
 
 void SdlSoundPlayer::FreeChunk::operator()(Mix_Chunk* chunk) const {
@@ -91,7 +105,7 @@ void SdlSoundPlayer::FreeChunk::operator()(Mix_Chunk* chunk) const {
 }
 
 bool SdlSoundPlayer::openDevice() {
-    if (m_device != Device::Unopened) return m_device == Device::Open;
+    if (m_device != Device::Closed) return m_device == Device::Open;
     if (openAudio()) {
         Mix_AllocateChannels(1);
         m_device = Device::Open;
@@ -117,7 +131,9 @@ Mix_Chunk* SdlSoundPlayer::chunk(const std::string& name) {
 
 void SdlSoundPlayer::PlaySound(std::string_view name) {
     Mix_Chunk* const sound = chunk(lowerCase(name));
-    if (sound) Mix_PlayChannel(kTheOneChannel, sound, 0);
+    if (!sound) return;
+    Mix_PlayChannel(kTheOneChannel, sound, 0);
+    m_silenceTimer.start();
 }
 
 bool SdlSoundPlayer::isPlaying() const {

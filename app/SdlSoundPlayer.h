@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QTimer>
 #include <map>
 #include <memory>
 #include <string>
@@ -15,7 +16,8 @@ namespace skylob {
 /// game plays on in silence, after one line on standard error.
 class SdlSoundPlayer final : public SoundPlayer {
   public:
-    /// The device is opened with the first sound, not before.
+    /// The device is opened when a sound is to be played, and closed again when nothing has been
+    /// heard for some seconds: an open one costs processor time even in silence.
     SdlSoundPlayer();
     ~SdlSoundPlayer() override;
 
@@ -34,11 +36,14 @@ class SdlSoundPlayer final : public SoundPlayer {
     using Chunk = std::unique_ptr<Mix_Chunk, FreeChunk>;
 
     bool openDevice();
+    void closeDevice();
+    void closeAfterSilence();
     Mix_Chunk* chunk(const std::string& name);
 
-    enum class Device { Unopened, Open, Missing };
-    Device m_device = Device::Unopened;
+    enum class Device { Closed, Open, Missing };
+    Device m_device = Device::Closed;
     std::map<std::string, Chunk> m_chunks;
+    QTimer m_silenceTimer;
 };
 
 }  // namespace skylob
