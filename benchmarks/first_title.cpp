@@ -1,0 +1,10 @@
+// The game up to the first paint of its title page.
+
+#include "FirstPaint.h"
+#include "app/Application.h"
+
+int main(int argc, char** argv) {
+    skylob::Application application{argc, argv, {}};
+    const skylob::QuitAfterFirstPaint once{application};
+    return application.run();
+}
