@@ -1,13 +1,14 @@
 #include "app/RandomInt.h"
 
 #include <chrono>
-#include <cmath>
 
 namespace skylob {
 
 int RandomInt(RandomSource& random, int low, int high) {
-    const double r = random.next();
-    return static_cast<int>(std::floor((high - low + 1) * r)) + low;
+    const double spread = (high - low + 1) * random.next();
+    // Rounded down, below 0 too, without a call: battlefields are made of such draws.
+    const int part = static_cast<int>(spread);
+    return (spread < part ? part - 1 : part) + low;
 }
 
 SeededRandom::SeededRandom(std::optional<std::uint64_t> seed) {
@@ -20,7 +21,8 @@ double SeededRandom::next() {
         m_engine.emplace(static_cast<std::uint64_t>(now));
     }
     constexpr double kTwoToMinus53 = 0x1p-53;
-    return static_cast<double>((*m_engine)() >> 11) * kTwoToMinus53;
+    const auto bits = static_cast<std::int64_t>((*m_engine)() >> 11);  // signed converts faster
+    return static_cast<double>(bits) * kTwoToMinus53;
 }
 
 }  // namespace skylob

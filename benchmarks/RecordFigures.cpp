@@ -22,6 +22,7 @@ class UnsyncedFiles : public FileSystem {
     std::unique_ptr<RandomAccessFile> open(const std::string& name) override {
         return std::make_unique<File>(m_disk.open(name));
     }
+    bool hasFile(const std::string& name) const override { return m_disk.hasFile(name); }
     void remove(const std::string& name) override { m_disk.remove(name); }
     void replace(const std::string& from, const std::string& to) override {
         std::filesystem::rename(from, to);
