@@ -7,6 +7,7 @@
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QStandardPaths>
+#include <QWindow>
 #include <string_view>
 
 #include "app/PrintLayout.h"
@@ -53,12 +54,15 @@ bool printPages(QPrinter& printer, const std::string& header, const std::string&
 }
 
 QString askForFile(QWidget& window) {
-    QFileDialog dialog{&window, QStringLiteral("Print to a File"),
+    // Without a parent it keeps the desktop's look.
+    QFileDialog dialog{nullptr, QStringLiteral("Print to a File"),
                        QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
                        QStringLiteral("PDF files (*.pdf)")};
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(QStringLiteral("pdf"));
     dialog.selectFile(QStringLiteral("Skylob.pdf"));
+    dialog.winId();  // makes the window
+    dialog.windowHandle()->setTransientParent(window.windowHandle());
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString{};
 }
 

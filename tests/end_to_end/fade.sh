@@ -1,11 +1,30 @@
 #!/usr/bin/env bash
 # Usage: fade.sh PROGRAM SCREEN_FADE_TEST
-# With fading switched on the battle screen goes in steps where a compositing manager makes windows
-# translucent, and at once, with its opacity untouched, where there is none.
+# With fading switched on screens go in steps where a compositing manager makes windows translucent,
+# and at once, with their opacity untouched, where there is none.
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 
 opacity() { xprop -id "$(window "$battle")" _NET_WM_WINDOW_OPACITY; }
 is_opaque() { opacity | grep -qx '.*= 4294967295'; }
+
+# watch WINDOW: begins to write down its opacities.
+watch() {
+    xprop -id "$(window "$1")" -spy _NET_WM_WINDOW_OPACITY >"$work/opacities" &
+    until_true 5 test -s "$work/opacities" || fail "no look at the opacity"
+}
+
+# expect_fade STEP FEWEST: the window watched went from 255 to 0. Opacities are whole steps of
+# 255ths, each repeated in four bytes. Some may be missed, none made up.
+expect_fade() {
+    local steps step expected
+    steps=$(grep -o ' [0-9]\{5,\}$\| 0$' "$work/opacities" |
+        while read -r value; do echo $((value / 16843009)); done | uniq | tr '\n' ' ')
+    expected=" $(seq -s ' ' 255 "-$1" 0) 0 "
+    for step in $steps; do
+        [[ $expected == *" $step "* ]] || fail "an opacity of $step: $steps"
+    done
+    [[ $steps == *" 0 " && $(wc -w <<<"$steps") -ge $2 ]] || fail "not a whole fade: $steps"
+}
 
 printf '[Defaults]\nFadeStatus=True\n' >"$settings"
 players Ann Bob
@@ -21,19 +40,16 @@ leave_program
 xcompmgr &
 sleep 1
 SKYLOB_EXPECT_FADES=1 "$2" >"$work/screen" || fail "no fade of a screen: $(<"$work/screen")"
-start_game
+start_program
+watch "$title"
+press "$title" space
+shown "$lobby"
+expect_fade 10 20
+sleep 0.5 # it fades in
 start_battle
 until_true 5 is_opaque || fail "the battle has not faded in: $(opacity)"
-xprop -id "$(window "$battle")" -spy _NET_WM_WINDOW_OPACITY >"$work/opacities" &
-until_true 5 test -s "$work/opacities" || fail "no look at the opacity"
+watch "$battle"
 press "$battle" Escape
 gone "$battle"
+expect_fade 20 10
 leave_program
-# Opacities are whole steps of 255ths, each repeated in four bytes. One may be missed, none made up.
-steps=$(grep -o '[0-9]*$' "$work/opacities" | while read -r value; do echo $((value / 16843009)); done |
-    uniq | tr '\n' ' ')
-expected=" 255 235 215 195 175 155 135 115 95 75 55 35 15 0 "
-for step in $steps; do
-    [[ $expected == *" $step "* ]] || fail "an opacity of $step: $steps"
-done
-[[ $steps == "255 "*" 0 " && $(wc -w <<<"$steps") -ge 10 ]] || fail "not a whole fade: $steps"
