@@ -12,6 +12,7 @@
 
 #include "app/PrintLayout.h"
 #include "app/QtInputGate.h"
+#include "app/QtText.h"
 
 namespace skylob {
 
@@ -24,10 +25,6 @@ QFont printerFont() {
     font.setFamily(QStringLiteral("Courier"));
     font.setFamily(QStringLiteral("Arial"));
     return font;
-}
-
-QString toQt(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
 /// False where the printer refuses to begin.

@@ -1,32 +1,29 @@
 #include "app/QtSettingsStore.h"
 
+#include "app/QtText.h"
 #include "app/basSkylob.h"
 
 namespace skylob {
 
 namespace {
 
-QString toQString(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 QString path(std::string_view key) {
-    return QStringLiteral("Defaults/") + toQString(key);
+    return QStringLiteral("Defaults/") + toQt(key);
 }
 
 }  // namespace
 
 QtSettingsStore::QtSettingsStore()
-    : m_settings{QSettings::IniFormat, QSettings::UserScope, toQString(kProgramTitle),
-                 toQString(kProgramTitle)} {
+    : m_settings{QSettings::IniFormat, QSettings::UserScope, toQt(kProgramTitle),
+                 toQt(kProgramTitle)} {
 }
 
 std::string QtSettingsStore::get(std::string_view key, std::string_view fallback) const {
-    return m_settings.value(path(key), toQString(fallback)).toString().toStdString();
+    return m_settings.value(path(key), toQt(fallback)).toString().toStdString();
 }
 
 void QtSettingsStore::save(std::string_view key, std::string_view value) {
-    m_settings.setValue(path(key), toQString(value));
+    m_settings.setValue(path(key), toQt(value));
     m_settings.sync();
 }
 

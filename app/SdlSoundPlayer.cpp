@@ -11,6 +11,7 @@
 #include <span>
 #include <stdexcept>
 
+#include "app/QtText.h"
 #include "app/WaveImage.h"
 
 namespace skylob {
@@ -22,9 +23,7 @@ constexpr int kTheOneChannel = 0;
 constexpr std::chrono::seconds kSilence{3};
 
 std::string lowerCase(std::string_view name) {
-    return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()))
-        .toLower()
-        .toStdString();
+    return toQt(name).toLower().toStdString();
 }
 
 QByteArray waveResource(const std::string& name) {

@@ -14,7 +14,7 @@
 #include "app/QtManualPrinter.h"
 #include "app/QtScreenFade.h"
 #include "controls/GlintButton.h"
-#include "controls/QtPropertyBagFile.h"
+#include "controls/QtFormButtons.h"
 
 namespace skylob {
 
@@ -73,25 +73,19 @@ void frmManual::makeMenu() {
 }
 
 void frmManual::makeButtons() {
-    QtPropertyBagFile bags = formBags(QStringLiteral("frmManual"));
-    const auto make = [this, &bags](const QString& name, const QRect& place) {
-        auto* button = new GlintButton{name, m_ports.shapes, this};
-        button->design().readProperties(bags.bag(name));
-        button->setGeometry(place);
-        return button;
-    };
-    cmdHelpTopic = make(QStringLiteral("cmdHelpTopic"), {16, 472, 176, 52});
+    QtFormButtons buttons{QStringLiteral("frmManual"), m_ports.shapes, *this};
+    cmdHelpTopic = buttons.make(QStringLiteral("cmdHelpTopic"), {16, 472, 176, 52});
     connect(cmdHelpTopic, &GlintButton::Click, this, &frmManual::cmdHelpTopic_Click);
     connect(new QShortcut{Qt::Key_F1, this}, &QShortcut::activated, this,
             &frmManual::cmdHelpTopic_Click);
-    cmdPrintHelp = make(QStringLiteral("cmdPrintHelp"), {204, 472, 120, 52});
-    cmdPrintHelp->setToolTip(QStringLiteral(" Be sure your printer is ready! "));
+    cmdPrintHelp = buttons.make(QStringLiteral("cmdPrintHelp"), {204, 472, 120, 52},
+                                QStringLiteral(" Be sure your printer is ready! "));
     connect(cmdPrintHelp, &GlintButton::Click, this, &frmManual::cmdPrintHelp_Click);
     auto* labelContact = new QtLinkLabel{tr("Questions? Write to us."), this};
     labelContact->move(348, 488);
     connect(labelContact, &QtLinkLabel::Click, this,
             [this] { OpenLink(LinkKind::Mail, "", m_ports.links, m_ports.boxes); });
-    cmdReturn = make(QStringLiteral("cmdReturn"), {560, 472, 144, 52});
+    cmdReturn = buttons.make(QStringLiteral("cmdReturn"), {560, 472, 144, 52});
     connect(cmdReturn, &GlintButton::Click, this, &frmManual::cmdReturn_Click);
     connect(new QShortcut{Qt::Key_Escape, this}, &QShortcut::activated, this,
             &frmManual::cmdReturn_Click);

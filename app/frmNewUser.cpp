@@ -11,7 +11,7 @@
 #include "app/TitlePage.h"
 #include "app/TitleScene.h"
 #include "controls/GlintButton.h"
-#include "controls/QtPropertyBagFile.h"
+#include "controls/QtFormButtons.h"
 
 namespace skylob {
 
@@ -42,9 +42,8 @@ frmNewUser::frmNewUser(basSkylob& shared, const std::string& overview, SettingsS
     chkDontShow->setGeometry(24, 396, 300, 28);
     auto* shortcut = new QShortcut{Qt::ALT | Qt::Key_D, this};
     connect(shortcut, &QShortcut::activated, chkDontShow, &QCheckBox::click);
-    auto* cmdContinue = new GlintButton{QStringLiteral("cmdContinue"), shapes, this};
-    cmdContinue->design().readProperties(formBags(QStringLiteral("frmNewUser")).bag("cmdContinue"));
-    cmdContinue->setGeometry(432, 388, 144, 44);
+    auto* cmdContinue = QtFormButtons{QStringLiteral("frmNewUser"), shapes, *this}.make(
+        QStringLiteral("cmdContinue"), {432, 388, 144, 44});
     connect(cmdContinue, &GlintButton::Click, this, &frmNewUser::cmdContinue_Click);
     QWidget::setTabOrder(cmdContinue, chkDontShow);
     cmdContinue->setFocus();

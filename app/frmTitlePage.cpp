@@ -9,20 +9,17 @@
 #include "app/QtLinkLabel.h"
 #include "app/QtLook.h"
 #include "app/QtScreenFade.h"
+#include "app/QtText.h"
 #include "app/QtTitleAnimation.h"
 #include "app/QtTitlePicture.h"
 #include "app/Release.h"
 #include "app/TitlePage.h"
 #include "controls/GlintButton.h"
-#include "controls/QtPropertyBagFile.h"
+#include "controls/QtFormButtons.h"
 
 namespace skylob {
 
 namespace {
-
-QString plainText(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 void place(QLabel* label, const char* role, const QRect& where) {
     label->setGeometry(where);
@@ -38,27 +35,25 @@ frmTitlePage::frmTitlePage(basSkylob& shared, const frmTitlePagePorts& ports)
       m_picture{new QtTitleAnimation{ports.shapes, this}} {
     // The page has no caption; without the blank the toolkit would put in one.
     setWindowTitle(QStringLiteral(" "));
-    setAccessibleName(plainText(kProgramTitle));
+    setAccessibleName(toQt(kProgramTitle));
     applyLook(*this);
     setFixedSize(640, 440);
     makeLabels();
-    auto* cmdContinue = new GlintButton{QStringLiteral("cmdContinue"), ports.shapes, this};
-    cmdContinue->design().readProperties(
-        formBags(QStringLiteral("frmTitlePage")).bag("cmdContinue"));
-    cmdContinue->setGeometry(456, 368, 160, 48);
+    auto* cmdContinue = QtFormButtons{QStringLiteral("frmTitlePage"), ports.shapes, *this}.make(
+        QStringLiteral("cmdContinue"), {456, 368, 160, 48});
     cmdContinue->setFocus();
     connect(cmdContinue, &GlintButton::Click, this, &frmTitlePage::cmdContinue_Click);
     centreOnDisplay(*this);
 }
 
 void frmTitlePage::makeLabels() {
-    auto* labelAppTitle = new QLabel{plainText(kProgramTitle), this};
+    auto* labelAppTitle = new QLabel{toQt(kProgramTitle), this};
     place(labelAppTitle, "title", {24, 288, 380, 60});
-    auto* labelAppDescription = new QLabel{plainText(kDescription), this};
+    auto* labelAppDescription = new QLabel{toQt(kDescription), this};
     place(labelAppDescription, "description", {24, 346, 380, 26});
     auto* labelVersion = new QLabel{QString::fromStdString(title::versionLabel(kVersion)), this};
     place(labelVersion, "note", {24, 382, 380, 20});
-    auto* labelCopyright = new QtLinkLabel{plainText(kCopyright), this};
+    auto* labelCopyright = new QtLinkLabel{toQt(kCopyright), this};
     labelCopyright->move(24, 402);
     labelCopyright->setFixedHeight(20);
     connect(labelCopyright, &QtLinkLabel::Click, this,

@@ -22,7 +22,7 @@
 #include "battle/frmPlayGameLayout.h"
 #include "battle/picGameField.h"
 #include "controls/GlintButton.h"
-#include "controls/QtPropertyBagFile.h"
+#include "controls/QtFormButtons.h"
 
 namespace skylob {
 
@@ -94,22 +94,14 @@ void frmPlayGame::makeButtons() {
     labelRoundNumber->setAlignment(Qt::AlignCenter);
     labelRoundNumber->setProperty("role", m_layout.oneFrameAtATime ? "round-small" : "round");
 
-    QtPropertyBagFile bags = formBags(QStringLiteral("frmPlayGame"));
-    cmdShoot = makeButton(QStringLiteral("cmdShoot"), m_layout.cmdShoot, bags);
+    QtFormButtons buttons{QStringLiteral("frmPlayGame"), m_shapes, *this};
+    cmdShoot = buttons.make(QStringLiteral("cmdShoot"), m_layout.cmdShoot);
     if (!m_layout.shootHasCaption) {
         cmdShoot->design().setCaption({});
         cmdShoot->design().setPictureNormal("shell " + std::to_string(m_layout.shootPicture));
         cmdShoot->setToolTip(tr(" Shoot your Artillery Piece "));
     }
-    cmdQuit = makeButton(QStringLiteral("cmdQuit"), m_layout.cmdQuit, bags);
-}
-
-GlintButton* frmPlayGame::makeButton(const QString& name, const QRect& place,
-                                     QtPropertyBagFile& bags) {
-    auto* button = new GlintButton{name, m_shapes, this};
-    button->design().readProperties(bags.bag(name));
-    button->setGeometry(place);
-    return button;
+    cmdQuit = buttons.make(QStringLiteral("cmdQuit"), m_layout.cmdQuit);
 }
 
 void frmPlayGame::makeOptions() {

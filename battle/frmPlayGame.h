@@ -16,7 +16,6 @@ namespace skylob {
 class GlintButton;
 class QtEffectTimers;
 class QtInputGate;
-class QtPropertyBagFile;
 class QtScreenFade;
 class QtSidePanel;
 class picGameField;
@@ -69,7 +68,6 @@ class frmPlayGame : public QWidget, private BattleView {
 
     void makeSidePanels();
     void makeButtons();
-    GlintButton* makeButton(const QString& name, const QRect& place, QtPropertyBagFile& bags);
     void makeOptions();
     QCheckBox* makeBox(const QString& caption, const QRect& place, QWidget* strip);
     void connectControls();

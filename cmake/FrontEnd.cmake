@@ -36,6 +36,7 @@ add_library(skylob_ui STATIC
     controls/GlintButtonInput.cpp
     controls/GlintButtonPictures.cpp
     controls/GlintPainter.cpp
+    controls/QtFormButtons.cpp
     controls/QtPropertyBagFile.cpp
     players/PlayerGridModel.cpp
     players/QtChosenPlayer.cpp

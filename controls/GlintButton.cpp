@@ -9,6 +9,7 @@
 #include <QShortcutEvent>
 #include <algorithm>
 
+#include "app/QtText.h"
 #include "controls/GlintButtonInput.h"
 #include "controls/GlintButtonPictures.h"
 #include "controls/GlintLayout.h"
@@ -173,7 +174,7 @@ void GlintButton::tellScreenReaders() {
 }
 
 void GlintButton::propertyChanged(std::string_view key) {
-    emit PropertyChanged(QString::fromUtf8(key.data(), static_cast<qsizetype>(key.size())));
+    emit PropertyChanged(toQt(key));
 }
 
 GlintFont GlintButton::ambientFont() const {

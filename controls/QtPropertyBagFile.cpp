@@ -7,13 +7,11 @@
 #include <limits>
 #include <optional>
 
+#include "app/QtText.h"
+
 namespace skylob {
 
 namespace {
-
-QString toQString(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 std::optional<std::int32_t> wholeNumber(const QJsonValue& value) {
     const double number = value.toDouble(std::numeric_limits<double>::quiet_NaN());
@@ -56,17 +54,17 @@ void QtPropertyBagFile::report(const QString& text) {
 }
 
 QJsonValue QtPropertyBagFile::Bag::find(std::string_view key) const {
-    return m_file.m_controls.value(m_control).toObject().value(toQString(key));
+    return m_file.m_controls.value(m_control).toObject().value(toQt(key));
 }
 
 void QtPropertyBagFile::Bag::write(std::string_view key, const QJsonValue& value) {
     QJsonObject entries = m_file.m_controls.value(m_control).toObject();
-    entries.insert(toQString(key), value);
+    entries.insert(toQt(key), value);
     m_file.m_controls.insert(m_control, entries);
 }
 
 void QtPropertyBagFile::Bag::report(std::string_view key, const char* wanted) const {
-    m_file.report(QStringLiteral("%1.%2 is no %3").arg(m_control, toQString(key), wanted));
+    m_file.report(QStringLiteral("%1.%2 is no %3").arg(m_control, toQt(key), wanted));
 }
 
 std::int32_t QtPropertyBagFile::Bag::readInteger(std::string_view key,

@@ -13,10 +13,11 @@
 #include "app/Fade.h"
 #include "app/QtLook.h"
 #include "app/QtScreenFade.h"
+#include "app/QtText.h"
 #include "app/Settings.h"
 #include "app/modFadeInOut.h"
 #include "controls/GlintButton.h"
-#include "controls/QtPropertyBagFile.h"
+#include "controls/QtFormButtons.h"
 #include "players/QtChosenPlayer.h"
 #include "players/QtPlayerGrid.h"
 
@@ -31,10 +32,6 @@ constexpr QRect kComputerPanel{608, 284, 160, 84}, kComputerBox{16, 18, 132, 48}
 constexpr QSize kOptionFrame{184, 108}, kOption{156, 24};
 constexpr int kOptionTop = 380;
 constexpr QPoint kFirstOption{14, 30};
-
-QString plainText(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 /// Without its telling anybody.
 void check(QButtonGroup& group, int id) {
@@ -72,23 +69,17 @@ frmGetPlayers::frmGetPlayers(basSkylob& shared, const frmGetPlayersPorts& ports)
 }
 
 void frmGetPlayers::makeButtons() {
-    QtPropertyBagFile bags = formBags(QStringLiteral("frmGetPlayers"));
-    const auto make = [this, &bags](const QString& name, const QRect& place, const QString& tip) {
-        auto* button = new GlintButton{name, m_ports.shapes, this};
-        button->design().readProperties(bags.bag(name));
-        button->setGeometry(place);
-        button->setToolTip(tip);
-        return button;
-    };
-    cmdAdd = make(QStringLiteral("cmdAdd"), {608, 16, 160, 40}, plainText(Lobby::kAddToolTip));
+    QtFormButtons buttons{QStringLiteral("frmGetPlayers"), m_ports.shapes, *this};
+    cmdAdd = buttons.make(QStringLiteral("cmdAdd"), {608, 16, 160, 40}, toQt(Lobby::kAddToolTip));
     cmdModify =
-        make(QStringLiteral("cmdModify"), {608, 64, 160, 40}, plainText(Lobby::kModifyToolTip));
-    cmdDelete = make(QStringLiteral("cmdDelete"), {608, 112, 160, 40},
-                     QStringLiteral(" Delete the Highlighted Player "));
-    cmdEmailFriend = make(QStringLiteral("cmdEmailFriend"), {608, 168, 160, 48},
-                          QStringLiteral(" Email a friend about this game! "));
-    cmdHelp = make(QStringLiteral("cmdHelp"), {608, 224, 160, 48}, QStringLiteral(" Help <F1> "));
-    cmdQuit = make(QStringLiteral("cmdQuit"), {608, 440, 160, 48}, {});
+        buttons.make(QStringLiteral("cmdModify"), {608, 64, 160, 40}, toQt(Lobby::kModifyToolTip));
+    cmdDelete = buttons.make(QStringLiteral("cmdDelete"), {608, 112, 160, 40},
+                             QStringLiteral(" Delete the Highlighted Player "));
+    cmdEmailFriend = buttons.make(QStringLiteral("cmdEmailFriend"), {608, 168, 160, 48},
+                                  QStringLiteral(" Email a friend about this game! "));
+    cmdHelp =
+        buttons.make(QStringLiteral("cmdHelp"), {608, 224, 160, 48}, QStringLiteral(" Help <F1> "));
+    cmdQuit = buttons.make(QStringLiteral("cmdQuit"), {608, 440, 160, 48});
 }
 
 void frmGetPlayers::makeComputerBox() {
@@ -210,7 +201,7 @@ void frmGetPlayers::highlightRow(int row) {
 
 void frmGetPlayers::showPairing(const Pairing& pairing) {
     for (const int side : {1, 2}) {
-        frame[side]->setCaption(plainText(pairing.frameCaption(side)));
+        frame[side]->setCaption(toQt(pairing.frameCaption(side)));
         frame[side]->setName(QString::fromStdString(pairing.labelPlayerName(side)));
     }
     const QSignalBlocker quiet{chkComputer};

@@ -14,7 +14,6 @@ namespace skylob {
 class GlintButton;
 class QtChosenPlayer;
 class QtPlayerGrid;
-class QtPropertyBagFile;
 class QtScreenFade;
 
 /// What the player list screen needs beside the shared state; all of it must outlive the screen.

@@ -6,7 +6,7 @@
 #include "app/QtScreenFade.h"
 #include "app/basSkylob.h"
 #include "controls/GlintButton.h"
-#include "controls/QtPropertyBagFile.h"
+#include "controls/QtFormButtons.h"
 
 namespace skylob {
 
@@ -39,12 +39,10 @@ frmGetSkillLevel::frmGetSkillLevel(basSkylob& shared, const SettingsStore& setti
     applyLook(*this);
     setFixedSize(480, 208);
     centredLabel(tr("How well should the computer aim?"), "question", {16, 12, 448, 28}, this);
-    QtPropertyBagFile bags = formBags(QStringLiteral("frmGetSkillLevel"));
+    QtFormButtons buttons{QStringLiteral("frmGetSkillLevel"), shapes, *this};
     for (const Level& level : kLevels) {
-        const QString name = QStringLiteral("cmdSkillLevel(%1)").arg(level.index);
-        auto* button = new GlintButton{name, shapes, this};
-        button->design().readProperties(bags.bag(name));
-        button->setGeometry(level.left, 52, 140, 124);
+        auto* button = buttons.make(QStringLiteral("cmdSkillLevel(%1)").arg(level.index),
+                                    {level.left, 52, 140, 124});
         connect(button, &GlintButton::Click, this,
                 [this, index = level.index] { cmdSkillLevel_Click(index); });
         if (level.index == kFair) button->setFocus();

@@ -10,7 +10,7 @@
 #include "app/QtShapes.h"
 #include "app/QtSideFrame.h"
 #include "controls/GlintButton.h"
-#include "controls/QtPropertyBagFile.h"
+#include "controls/QtFormButtons.h"
 
 namespace skylob {
 
@@ -96,9 +96,8 @@ void frmSummary::makeBubble() {
 }
 
 void frmSummary::makeOkay() {
-    auto* cmdOkay = new GlintButton{QStringLiteral("cmdOkay"), m_shapes, this};
-    cmdOkay->design().readProperties(formBags(QStringLiteral("frmSummary")).bag("cmdOkay"));
-    cmdOkay->setGeometry(228, 376, 144, 52);
+    auto* cmdOkay = QtFormButtons{QStringLiteral("frmSummary"), m_shapes, *this}.make(
+        QStringLiteral("cmdOkay"), {228, 376, 144, 52});
     cmdOkay->setFocus();
     connect(cmdOkay, &GlintButton::Click, this, &frmSummary::cmdOkay_Click);
 }
