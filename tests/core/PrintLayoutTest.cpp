@@ -39,7 +39,6 @@ TEST(PrintLayout, PlacesHeaderNumberAndParagraphsInInches) {
     const auto empty = layOutPages(repeated(60, "x"), "", coarseFont());
     ASSERT_EQ(empty.size(), 1U);
     EXPECT_NEAR(empty[0][1].x, 7.1, 1e-9);
-    EXPECT_EQ(helpSectionHeader("Strategy"), "Skylob, Help Section: Strategy");
 }
 
 TEST(PrintLayout, BreaksLinesAtBlanksAndWordsOnlyIfTheyMust) {

