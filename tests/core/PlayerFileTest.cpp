@@ -31,7 +31,6 @@ TEST_F(PlayerFileTest, AddsAndRenamesInPlace) {
     for (int i = 0; i < 21; ++i) tooLong += "\xC3\xAB";
     EXPECT_EQ(nameOnFile("  " + tooLong), tooLong.substr(0, 40));
     EXPECT_EQ(nameOnFile(" \t "), "");
-
     put(record("Twenty characters...", "\4\0\3\0\x2C\1\1\0\x7F"s) + record("Bob", kNew));
     file.renamePlayer(1, "Al");
     EXPECT_EQ(bytes(), record("Al", "\4\0\3\0\x2C\1\1\0\x7F"s) + record("Bob", kNew));
@@ -52,10 +51,6 @@ TEST(Windows1252, HasSpecialCharactersOfItsOwn) {
 }
 
 TEST_F(PlayerFileTest, CountsAndShowsWhateverItHolds) {
-    file.OpenPlayerFile();
-    EXPECT_EQ(file.PlayerCount, 0);
-    EXPECT_EQ(folder.content(), "Skylob.Data ");
-
     const std::string odd = record("\tA\0B\x7F\x81"s, "\xFF\xFF\0\x80\xFF\x7F\1\2\xFE"s);
     put(odd + record("  Bob", kNew));
     for (const auto& [length, count] : {std::pair{58, 2}, {44, 2}, {43, 1}, {15, 1}, {14, 0}}) {
@@ -87,8 +82,6 @@ TEST_F(PlayerFileTest, DeletesAndRanksByPlace) {
     EXPECT_EQ(bytes(), record("Bob", "\1\0\1\0\x1E\0\1\0\6"s) + record("Cyd", kNew) +
                            record("Dan", "\1\0\0\0\x1E\0\3\0\0"s));
     EXPECT_EQ(folder.content(), "Skylob.Data ");
-    for (int left = 3; left > 0; --left) file.deletePlayer(1);
-    EXPECT_EQ(folder.content(), "");
 }
 
 TEST_F(PlayerFileTest, KeepsWhatAnOlderTemporaryFileHasBeyondTheList) {
@@ -96,11 +89,8 @@ TEST_F(PlayerFileTest, KeepsWhatAnOlderTemporaryFileHasBeyondTheList) {
     putBytes(tempPath, record("Old", kNew) + record("Older", "\1\0\1\0\1\0\1\0\0"s));
     file.deletePlayer(1);
     EXPECT_EQ(bytes(), record("Bob", kNew) + record("Older", "\1\0\1\0\1\0\1\0\0"s));
-    EXPECT_EQ(folder.content(), "Skylob.Data ");
-
-    put(record("Ann", kNew));
     putBytes(tempPath, record("Old", kNew));
-    file.deletePlayer(1);
+    for (int left = 2; left > 0; --left) file.deletePlayer(1);
     EXPECT_EQ(folder.content(), "");
 }
 

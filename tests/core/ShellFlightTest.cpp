@@ -100,36 +100,33 @@ struct AnimatedField {
     FieldAnimation animation{picture, view, pacer};
 };
 
-TEST(FlyShell, ShowsAYellowShellAtEveryStepAndLeavesAColouredTrail) {
+TEST(FlyShell, ShowsAYellowShellAtEveryStepAndLeavesATrailOnDemand) {
     for (const int side : {1, 2}) {
-        AnimatedField stage;
-        std::vector<Colour> atTenth;
-        const FieldPoint tenth{side == 1 ? 136 : 864, 230};
-        stage.view.onShowField = [&] { atTenth.push_back(stage.picture.pixel(tenth.x, tenth.y)); };
-        const FieldPoint landed = flyShell({side, 300, 75, side == 1 ? 100 : 900, 100, 0},
-                                           flatField(), Trail::Coloured, stage.animation, 77);
-        EXPECT_EQ(landed, (FieldPoint{side == 1 ? 711 : 289, 89}));
-        EXPECT_EQ(stage.pacer.counts, std::vector<std::int32_t>(147, 77));
-        EXPECT_EQ(atTenth.at(8), kBlack);
-        EXPECT_EQ(atTenth.at(9), kYellow);
-        EXPECT_EQ(atTenth.at(10), side == 1 ? 0x0000FFu : 0xFF00FFu);
-        EXPECT_EQ(stage.picture.pixel(landed.x, landed.y), kBlack);
-        stage.picture.refresh();
-        EXPECT_EQ(stage.picture.pixel(tenth.x, tenth.y), kBlack);  // none of it was persistent
+        for (const Trail trail : {Trail::Coloured, Trail::None}) {
+            AnimatedField stage;
+            const FieldPoint tenth{side == 1 ? 136 : 864, 230};
+            stage.picture.setPoint(tenth.x, tenth.y, kCyan);  // a star on the shell's way
+            stage.picture.setPenWidth(3);
+            std::vector<Colour> atTenth;
+            stage.view.onShowField = [&] {
+                atTenth.push_back(stage.picture.pixel(tenth.x, tenth.y));
+                EXPECT_EQ(stage.picture.penWidth(), 1);
+            };
+            const FieldPoint landed = flyShell({side, 300, 75, side == 1 ? 100 : 900, 100, 0},
+                                               flatField(), trail, stage.animation, 77);
+            EXPECT_EQ(landed, (FieldPoint{side == 1 ? 711 : 289, 89}));
+            EXPECT_EQ(stage.pacer.counts, std::vector<std::int32_t>(147, 77));
+            EXPECT_EQ(atTenth.at(8), kCyan);
+            EXPECT_EQ(atTenth.at(9), kYellow);
+            const Colour left = trail == Trail::None ? kCyan : side == 1 ? 0x0000FF : 0xFF00FF;
+            EXPECT_EQ(atTenth.at(10), left);
+            EXPECT_EQ(stage.picture.pixel(landed.x, landed.y), kBlack);
+            EXPECT_EQ(stage.picture.penWidth(), 3);
+            EXPECT_TRUE(stage.picture.persistentDrawing());
+            stage.picture.refresh();
+            EXPECT_EQ(stage.picture.pixel(tenth.x, tenth.y), kCyan);  // no trail was persistent
+        }
     }
-}
-
-TEST(FlyShell, LeavesTheSkyAsItWasWithoutATrail) {
-    AnimatedField stage;
-    stage.picture.setPoint(136, 230, kCyan);  // a star on the shell's way
-    stage.picture.setPenWidth(3);
-    flyShell({1, 300, 75, 100, 100, 0}, flatField(), Trail::None, stage.animation, 1);
-    EXPECT_EQ(stage.picture.pixel(136, 230), kCyan);
-    EXPECT_EQ(stage.picture.pixel(297, 577), kBlack);
-    EXPECT_EQ(stage.picture.penWidth(), 3);
-    stage.picture.setPoint(5, 5, kRed);
-    stage.picture.refresh();
-    EXPECT_EQ(stage.picture.pixel(5, 5), kRed);  // drawing is persistent again
 }
 
 TEST(Explosion, GrowsInYellowAndWhiteAndLeavesABlackDot) {

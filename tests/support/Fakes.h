@@ -146,7 +146,7 @@ struct RecordingView : HeadlessView {
     Log& log;
     std::function<void()> onShowField;
     bool inputHeld = false;
-    int width = 1024;
+    int width = 801;
 };
 
 struct Aim {

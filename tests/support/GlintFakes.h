@@ -1,6 +1,5 @@
 #pragma once
 
-#include <map>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -108,41 +107,6 @@ class GlintRig : public GlintSurface, public GlintPointer, public GlintEvents {
     }
 
     mutable std::string log;
-};
-
-/// A bag in memory that keeps everything as text, and all that is written as "KEY=text;" in turn.
-class MemoryBag : public PropertyBag {
-  public:
-    std::int32_t readInteger(std::string_view key, std::int32_t fallback) const override {
-        return has(key) ? std::stoi(values.find(key)->second) : fallback;
-    }
-    bool readBoolean(std::string_view key, bool fallback) const override {
-        return has(key) ? values.find(key)->second == "1" : fallback;
-    }
-    std::string readText(std::string_view key, const std::string& fallback) const override {
-        return has(key) ? values.find(key)->second : fallback;
-    }
-    GlintFont readFont(std::string_view key, const GlintFont& fallback) const override {
-        return has(key) ? GlintFont{.name = values.find(key)->second} : fallback;
-    }
-    void writeInteger(std::string_view key, std::int32_t value) override {
-        writeText(key, std::to_string(value));
-    }
-    void writeBoolean(std::string_view key, bool value) override {
-        writeText(key, value ? "1" : "0");
-    }
-    void writeText(std::string_view key, const std::string& value) override {
-        written += std::string{key} + "=" + value + ";";
-    }
-    void writeFont(std::string_view key, const GlintFont& value) override {
-        writeText(key, value.name);
-    }
-
-    std::map<std::string, std::string, std::less<>> values;
-    std::string written;
-
-  private:
-    bool has(std::string_view key) const { return values.find(key) != values.end(); }
 };
 
 }  // namespace skylob::test
