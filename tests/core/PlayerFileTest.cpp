@@ -76,12 +76,16 @@ TEST_F(PlayerFileTest, CountsAndShowsWhateverItHolds) {
 }
 
 TEST_F(PlayerFileTest, DeletesAndRanksByPlace) {
-    put(record("Ann", "\4\0\3\0\x29\0\1\0\5"s) + record("Bob", "\1\0\1\0\x1E\0\2\0\6"s) +
-        record("Cyd", kNew) + record("Dan", "\1\0\0\0\x1E\0\4\0\0"s));
+    const std::string before = record("Ann", "\4\0\3\0\x29\0\1\0\5"s) +
+                               record("Bob", "\1\0\1\0\x1E\0\2\0\6"s) + record("Cyd", kNew) +
+                               record("Dan", "\1\0\0\0\x1E\0\4\0\0"s);
+    put(before);
+    std::filesystem::create_hard_link(path, folder / "old");
     file.deletePlayer(1);
     EXPECT_EQ(bytes(), record("Bob", "\1\0\1\0\x1E\0\1\0\6"s) + record("Cyd", kNew) +
                            record("Dan", "\1\0\0\0\x1E\0\3\0\0"s));
-    EXPECT_EQ(folder.content(), "Skylob.Data ");
+    EXPECT_EQ(folder.content(), "Skylob.Data old ");
+    EXPECT_EQ(bytesOf(folder / "old"), before);  // replaced at one stroke, not overwritten
 }
 
 TEST_F(PlayerFileTest, KeepsWhatAnOlderTemporaryFileHasBeyondTheList) {

@@ -1,13 +1,6 @@
 #include "players/Ranking.h"
 
 #include <gtest/gtest.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
-#include <chrono>
-#include <csignal>
-#include <random>
-#include <set>
 
 #include "tests/support/PlayersRig.h"
 
@@ -117,84 +110,6 @@ TEST_F(RecordSetResultsTest, KeepsTheOrderOfEqualTextsAndOfAllWhoseNamesDiffer) 
 TEST_F(RecordSetResultsTest, LeavesASinglePlayerUnranked) {
     EXPECT_EQ(recordIn(record("Ann", kNew)), record("Ann", "\1\0\1\0\x68\0\0\0\0"s));
     EXPECT_EQ(recordIn(""), "");
-}
-
-constexpr int kPlayers = 300;
-
-struct KilledRecording : RecordSetResultsTest {
-    KilledRecording() {
-        std::string list = record("Ann", kNew);
-        for (int number = 2; number < kPlayers; ++number)
-            list += record("Player " + std::to_string(number), kNew);
-        put(list + record("Bob", kNew));
-        // What the two can be after any number of sets.
-        for (int sets = 1; sets < 30000; ++sets) {
-            for (const int side : {1, 2}) {
-                career[side].push_back(career[side].back());
-                countSet(career[side].back(), side == 1 ? 103 : 57, side == 1);
-            }
-        }
-    }
-
-    /// Records sets in a process of its own, which is killed in the middle of it.
-    void recordAndKill(std::chrono::nanoseconds life) {
-        int ready[2];
-        ASSERT_EQ(pipe(ready), 0);
-        const pid_t child = fork();
-        if (child == 0) {
-            if (write(ready[1], "!", 1) == 1)
-                for (;;) RecordSetResults(file, shared);
-        }
-        char sign = 0;
-        ASSERT_EQ(read(ready[0], &sign, 1), 1);
-        const auto end = std::chrono::steady_clock::now() + life;
-        while (std::chrono::steady_clock::now() < end) continue;
-        kill(child, SIGKILL);
-        int status = 0;
-        waitpid(child, &status, 0);
-        ASSERT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL) << status;
-        close(ready[0]);
-        close(ready[1]);
-    }
-
-    /// How many sets the two players have got, after a look at the whole file.
-    PerSide<int> checkFile() {
-        PerSide<int> sets{0, 0};
-        std::set<std::string> seen;
-        for (PlayerRecord found : file.readAll()) {
-            const std::string name = nameOf(found);
-            seen.insert(name);
-            const int side = name == "Ann" ? 1 : 2;
-            if (name == "Ann" || name == "Bob")
-                sets[side] = found.SetsPlayed;
-            else
-                EXPECT_EQ(found.SetsPlayed + found.Ranking, 0) << name;
-            found.Name = PlayerRecord::blankName();
-            found.Ranking = 0;
-            EXPECT_EQ(found, career[side].at(static_cast<std::size_t>(found.SetsPlayed))) << name;
-        }
-        EXPECT_EQ(file.PlayerCount, kPlayers);
-        EXPECT_EQ(seen.size(), 0U + kPlayers);  // everybody once
-        return sets;
-    }
-
-    PerSide<std::vector<PlayerRecord>> career{{PlayerRecord{}}, {PlayerRecord{}}};
-};
-
-TEST_F(KilledRecording, LeavesEveryPlayerOnceAndEveryRecordWhole) {
-    using Time = std::chrono::steady_clock;
-    const auto start = Time::now();
-    RecordSetResults(file, shared);
-    const Time::duration oneRecording = Time::now() - start;
-    std::mt19937 chance{2026};
-    PerSide<int> sets{0, 0};
-    constexpr int kKills = 500;
-    for (int kills = 0; kills < kKills && !HasFailure(); ++kills) {
-        recordAndKill(oneRecording * (chance() % 2000) / 1000);
-        sets = checkFile();
-    }
-    EXPECT_GT(sets[1], 100);
-    EXPECT_LE(std::abs(sets[1] - sets[2]), kKills);
 }
 
 }  // namespace

@@ -15,33 +15,24 @@
 #include "players/frmGetSkillLevel.h"
 #include "players/frmSummary.h"
 #include "tests/support/Fakes.h"
-#include "tests/support/FileFakes.h"
+#include "tests/support/PlayersRig.h"
 
 namespace skylob::test {
 
-class NoLinks : public LinkOpener {
-  public:
-    bool open(const std::string&) override { return true; }
-};
-
 /// What all screens of the players share.
-struct World {
+struct World : PlayersRig {
     Log log;
-    TempFolder folder;
-    DiskFiles disk;
-    PlayerFile file{disk, folder / "Skylob.Data"};
-    basSkylob shared;
     HandSetClock clock;
     QueuedBoxes boxes{log};
     MemorySettings settings;
     RecordingSounds sounds{log};
-    NoLinks links;
+    RecordingLinks links;
     const QtShapes shapes{programDrawings()};
 };
 
 struct LobbyScreen : World {
     explicit LobbyScreen(const std::string& list) {
-        putBytes(folder / "Skylob.Data", list);
+        put(list);
         form = std::make_unique<frmGetPlayers>(
             shared, frmGetPlayersPorts{file, clock, boxes, settings, sounds, links, shapes,
                                        [this] { ++skillQuestions; }});
@@ -73,7 +64,7 @@ class frmGetPlayersTest : public QObject {
     void showsTheListAsItIs() {
         LobbyScreen screen{record("\xC5sa & <b>Bo</b>", "\x0E\0\x0B\0\x2E\0\1\0\0"s) +
                            record("", "\xFF\xFF\0\0\xFF\xFF\xFE\xFF\0"s) +
-                           record("WWWWWWWWWWWWWWWWWWWW", std::string(9, '\0'))};
+                           record("WWWWWWWWWWWWWWWWWWWW", kNew)};
         QCOMPARE(screen.grid->model()->rowCount(), 3);
         const char* const cells[3][5] = {{"\xC3\x85sa & <b>Bo</b>", "14/11", "46", "1", "1"},
                                          {"", "-1/0", "-1", "-2", "2"},
@@ -89,8 +80,7 @@ class frmGetPlayersTest : public QObject {
     }
 
     void pairsByMouseAndByKeyboard() {
-        LobbyScreen screen{record("Ann", std::string(9, '\0')) +
-                           record("Bob", std::string(9, '\0'))};
+        LobbyScreen screen{record("Ann", kNew) + record("Bob", kNew)};
         QSignalSpy battle{screen.form.get(), &frmGetPlayers::battleChosen};
         QWidget* const rows = screen.grid->viewport();
         const QPoint first{40, 10};
@@ -121,8 +111,7 @@ class frmGetPlayersTest : public QObject {
     }
 
     void changesTheListByKeyboard() {
-        LobbyScreen screen{record("Ann", std::string(9, '\0')) +
-                           record("Bob", std::string(9, '\0'))};
+        LobbyScreen screen{record("Ann", kNew) + record("Bob", kNew)};
         screen.boxes.entries = {"Eve", "Zoe"};
         screen.boxes.answers = {BoxAnswer::Yes};
         QTest::keyClick(screen.form.get(), Qt::Key_A, Qt::AltModifier);
@@ -133,12 +122,11 @@ class frmGetPlayersTest : public QObject {
         QTest::keyClick(screen.grid, Qt::Key_Delete);
         QCOMPARE(screen.cell(1, 0), QStringLiteral("Eve"));
         QCOMPARE(screen.grid->currentIndex().row(), 1);
-        QCOMPARE(bytesOf(screen.folder / "Skylob.Data"),
-                 record("Ann", std::string(9, '\0')) + record("Eve", std::string(9, '\0')));
+        QCOMPARE(screen.bytes(), record("Ann", kNew) + record("Eve", kNew));
     }
 
     void storesOptionsAndRefusesToFade() {
-        LobbyScreen screen{record("Ann", std::string(9, '\0'))};
+        LobbyScreen screen{record("Ann", kNew)};
         const auto option = [&screen](const QString& caption) {
             for (auto* button : screen.form->findChildren<QRadioButton*>())
                 if (button->text() == caption) return button;
@@ -157,7 +145,7 @@ class frmGetPlayersTest : public QObject {
     }
 
     void leavesOnlyWhenConfirmed() {
-        LobbyScreen screen{record("Ann", std::string(9, '\0'))};
+        LobbyScreen screen{record("Ann", kNew)};
         QSignalSpy left{screen.form.get(), &frmGetPlayers::programLeft};
         screen.boxes.answers = {BoxAnswer::No, BoxAnswer::Yes};
         screen.form->close();
@@ -187,10 +175,10 @@ class frmGetPlayersTest : public QObject {
     void recordsASetHoweverTheSummaryIsClosed() {
         for (const int key : {int{Qt::Key_Space}, int{Qt::Key_Escape}, 0}) {
             World world;
-            putBytes(world.folder / "Skylob.Data", record("Ann", std::string(9, '\0')));
-            world.shared.PlayerName = {"Ann", "WWWWWWWWWWWWWWWWWWWW"};
-            world.shared.RoundsWon = {5, 0};
-            world.shared.TotalKills = {500, 0};
+            world.put(record("Ann", kNew));
+            world.shared.PlayerName = {"Ann", "Bob"};
+            world.shared.RoundsWon[1] = 5;
+            world.shared.TotalKills[1] = 500;
             world.shared.SetOver = true;
             StringTable strings;
             strings.addLines("2700 Good set!");
@@ -201,13 +189,10 @@ class frmGetPlayersTest : public QObject {
                             world.settings,
                             world.shapes};
             QTimer::singleShot(0, &form, [&] {
-                if (key == 0)
-                    form.close();
-                else
-                    QTest::keyClick(form.focusWidget(), Qt::Key(key));
+                key == 0 ? void(form.close()) : QTest::keyClick(form.focusWidget(), Qt::Key(key));
             });
             form.exec();
-            QCOMPARE(bytesOf(world.folder / "Skylob.Data"), record("Ann", "\1\0\1\0\xCA\0\0\0\0"s));
+            QCOMPARE(world.bytes(), record("Ann", "\1\0\1\0\xCA\0\0\0\0"s));
             QCOMPARE(form.findChildren<QLabel*>().front()->text(),
                      QStringLiteral("Ann wins this Set!"));
         }
