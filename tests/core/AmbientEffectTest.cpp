@@ -5,19 +5,18 @@
 #include "tests/support/SkyRig.h"
 
 namespace skylob::test {
-namespace {
 
 using Effect = void (Battle::*)();
 constexpr Effect kMeteor = &Battle::timerMeteors_Timer, kStorm = &Battle::timerLightning_Timer;
 
 /// Chance in favour of an effect; the rest as the rig has it.
-void begin(SkyRig& rig, Effect tick) {
+static void begin(SkyRig& rig, Effect tick) {
     rig.random.script({0});
     (rig.battle.*tick)();
 }
 
 /// Ticks both timers; chance would be in their favour, but is not even asked.
-void expectNothingFromTicks(SkyRig& rig) {
+static void expectNothingFromTicks(SkyRig& rig) {
     rig.random.script({0, 0});
     const int draws = rig.random.draws();
     rig.battle.timerMeteors_Timer();
@@ -133,5 +132,4 @@ TEST(AmbientEffects, LetTheFieldBeDrawnAnewForAnotherDisplay) {
     }
 }
 
-}  // namespace
 }  // namespace skylob::test

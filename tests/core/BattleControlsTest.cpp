@@ -5,7 +5,6 @@
 #include "tests/support/Fakes.h"
 
 namespace skylob::test {
-namespace {
 
 TEST(ScrollBars, DriveTheirLabelsWithinTheirRanges) {
     StartedRig rig;
@@ -188,5 +187,4 @@ TEST(Options, AreRestoredWithTheirDefaults) {
     EXPECT_EQ(rig.settings.get("GameSpeed", "none"), "none");
 }
 
-}  // namespace
 }  // namespace skylob::test

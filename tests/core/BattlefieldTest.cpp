@@ -2,15 +2,13 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <tuple>
+#include <sstream>
 
 #include "tests/support/Fakes.h"
 
 namespace skylob::test {
-namespace {
 
-Battlefield generated(std::uint64_t seed, int round = 1, int rounds = 10) {
+static Battlefield generated(std::uint64_t seed, int round = 1, int rounds = 10) {
     SeededRandom random{seed};
     Battlefield field;
     generateBattlefield(field, random, round, rounds);
@@ -47,71 +45,32 @@ TEST(SlopeStep, HasAFixedRangeForEachKind) {
 }
 
 /// Mountain, moon, ground's colour, pieces; sum and weighted sum of heights; stars, the first one.
-std::vector<int> figuresOf(const Battlefield& field) {
+static std::string figuresOf(const Battlefield& field) {
     int sum = 0, weightedSum = 0;
     for (int x = 1; x <= 1000; ++x) {
         sum += field.heightAt(x);
         weightedSum += x * field.heightAt(x);
     }
     const auto& star = field.stars.at(0);
-    const int stars = static_cast<int>(field.stars.size());
-    const auto ground = static_cast<int>(field.groundColour);
-    const auto colour = static_cast<int>(star.colour);
-    const auto& [x, y] = std::tie(field.PieceX, field.PieceY);
-    return {field.PeakX,
-            field.leftFoot,
-            field.rightFoot,
-            field.MoonX,
-            field.moonY,
-            ground,
-            x[1],
-            x[2],
-            y[1],
-            y[2],
-            sum,
-            weightedSum,
-            stars,
-            star.x,
-            star.y,
-            colour};
+    std::ostringstream text;
+    text << field.PeakX << ' ' << field.leftFoot << ' ' << field.rightFoot << ", " << field.MoonX
+         << ' ' << field.moonY << ", " << std::hex << field.groundColour << std::dec << ", "
+         << field.PieceX[1] << ' ' << field.PieceX[2] << ' ' << field.PieceY[1] << ' '
+         << field.PieceY[2] << "; " << sum << ' ' << weightedSum << "; " << field.stars.size()
+         << ' ' << star.x << ' ' << star.y << ' ' << std::hex << star.colour;
+    return text.str();
 }
 
 TEST(GenerateBattlefield, IsMadeByItsSeed) {
     // Worked out by a second program that shares no code with this one.
-    using Figures = std::vector<int>;
-    EXPECT_EQ(figuresOf(generated(1)), (Figures{526, 264, 705, 668, 707, 0x008000, 108, 766, 579,
-                                                197, 518645, 198566095, 734, 1, 747, 0xFFFF00}));
-    EXPECT_EQ(figuresOf(generated(2)), (Figures{692, 606, 769, 135, 881, 0x004080, 348, 855, 547,
-                                                702, 584999, 336520710, 703, 1, 350, 0x800000}));
-    EXPECT_EQ(figuresOf(generated(42)), (Figures{676, 580, 737, 624, 812, 0x004080, 28, 757, 159,
-                                                 601, 466969, 275327947, 890, 1, 954, 0x00FF00}));
-    EXPECT_EQ(figuresOf(generated(12)), (Figures{393, 280, 689, 709, 168, 0x800000, 163, 903, 644,
-                                                 26, 406114, 123457831, 733, 1, 913, 0xFFFF00}));
-}
-
-TEST(GenerateBattlefield, KeepsItsPromisesForAnySeed) {
-    for (std::uint64_t seed = 1; seed <= 400; ++seed) {
-        SCOPED_TRACE(seed);
-        const Battlefield field = generated(seed);
-        ASSERT_GE(field.PieceX[1], 20);
-        ASSERT_LE(field.PieceX[1], field.leftFoot - 20);
-        ASSERT_GE(field.PieceX[2], field.rightFoot + 20);
-        ASSERT_LE(field.PieceX[2], 980);
-        for (int x = 1; x <= 1000; ++x) {
-            const bool mountain = x >= field.leftFoot && x <= field.rightFoot;
-            ASSERT_GE(field.heightAt(x), 25) << x;
-            ASSERT_LE(field.heightAt(x), mountain ? 902 : 802) << x;
-        }
-        std::vector<bool> starry(1001);
-        for (const auto& star : field.stars) {
-            starry[static_cast<std::size_t>(star.x)] = true;
-            ASSERT_GE(star.y, field.heightAt(star.x) + 25);
-            ASSERT_LE(star.y, 999);
-            ASSERT_NE(star.colour, kBlack);
-        }
-        for (int x = 1; x <= 1000; ++x)
-            ASSERT_TRUE(starry[static_cast<std::size_t>(x)] || field.heightAt(x) >= 600) << x;
-    }
+    EXPECT_EQ(figuresOf(generated(1)),
+              "526 264 705, 668 707, 8000, 108 766 579 197; 518645 198566095; 734 1 747 ffff00");
+    EXPECT_EQ(figuresOf(generated(2)),
+              "692 606 769, 135 881, 4080, 348 855 547 702; 584999 336520710; 703 1 350 800000");
+    EXPECT_EQ(figuresOf(generated(42)),
+              "676 580 737, 624 812, 4080, 28 757 159 601; 466969 275327947; 890 1 954 ff00");
+    EXPECT_EQ(figuresOf(generated(12)),
+              "393 280 689, 709 168, 800000, 163 903 644 26; 406114 123457831; 733 1 913 ffff00");
 }
 
 TEST(GenerateBattlefield, LetsTheMoonWaneUntilTheLastRound) {
@@ -167,5 +126,4 @@ TEST(DrawBattlefield, ShowsSkyMoonGroundAndPieces) {
     EXPECT_EQ(picture.pixel(888, 230), kWhite);
 }
 
-}  // namespace
 }  // namespace skylob::test

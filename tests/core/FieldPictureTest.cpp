@@ -2,19 +2,18 @@
 
 #include <gtest/gtest.h>
 
-namespace skylob {
-namespace {
+namespace skylob::test {
 
 constexpr Colour kTan = 0x0087D0;
 
-FieldPicture pictureOf(int width, int height, int dotScale = 1) {
+static FieldPicture pictureOf(int width, int height, int dotScale = 1) {
     FieldPicture picture;
     picture.resize(width, height, dotScale);
     return picture;
 }
 
 /// How many device pixels of the screen picture are not black.
-int litPixels(const FieldPicture& picture) {
+static int litPixels(const FieldPicture& picture) {
     int lit = 0;
     for (int i = 0; i < picture.width() * picture.height(); ++i)
         lit += picture.screenPixels()[i] != 0xFF000000u;
@@ -116,5 +115,4 @@ TEST(FieldPicture, TellsWhatHasChanged) {
     EXPECT_EQ(picture.takeDirty(), (PixelRect{7, 7, 8, 8}));
 }
 
-}  // namespace
-}  // namespace skylob
+}  // namespace skylob::test

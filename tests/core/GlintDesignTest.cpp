@@ -7,11 +7,11 @@
 #include "tests/support/GlintFakes.h"
 
 namespace skylob::test {
-namespace {
 
 /// What setting a property sets off on a pressed button that is shown.
 template <typename Value>
-std::string effects(void (GlintDesign::*set)(Value), const std::type_identity_t<Value>& value) {
+static std::string effects(void (GlintDesign::*set)(Value),
+                           const std::type_identity_t<Value>& value) {
     GlintRig rig;
     rig.button.IsShown = true;
     rig.button.currentState = kStatePressed;
@@ -143,5 +143,4 @@ TEST(GlintLayout, ShapesTheWindowByStyle) {
     EXPECT_EQ(contentRectangle(2, {100, 40}), (GlintRect{0, 0, 100, 40}));
 }
 
-}  // namespace
 }  // namespace skylob::test

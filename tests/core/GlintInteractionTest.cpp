@@ -5,7 +5,6 @@
 #include "tests/support/GlintFakes.h"
 
 namespace skylob::test {
-namespace {
 
 constexpr GlintMouse kLeft{1, 2, 30, 10}, kRight{2, 0, 30, 10}, kNone{0, 0, 30, 10};
 
@@ -128,5 +127,4 @@ TEST(GlintInteraction, ShowsUpWithAPaletteOfItsOwn) {
     EXPECT_TRUE(rig.button.IsShown && !rig.button.CaptureBusy);
 }
 
-}  // namespace
 }  // namespace skylob::test

@@ -4,8 +4,7 @@
 
 #include "controls/TransferPicture.h"
 
-namespace skylob {
-namespace {
+namespace skylob::test {
 
 TEST(ShiftColour, MovesEachChannelAndScalesBlueOnDemand) {
     using enum BlueShift;
@@ -84,8 +83,9 @@ TEST(RecalcColours, TakesTheColoursOfTheScheme) {
 
 using Bytes = std::vector<std::uint8_t>;  // blue, green, red and so on
 
-Bytes transferred(const Bytes& picture, Bytes target, const TransferEffects& effects,
-                  std::optional<Colour> transparent = {}, const NearestColour& nearest = {}) {
+static Bytes transferred(const Bytes& picture, Bytes target, const TransferEffects& effects,
+                         std::optional<Colour> transparent = {},
+                         const NearestColour& nearest = {}) {
     const int width = static_cast<int>(picture.size()) / 3;
     TransferPicture({picture, width, 1, width * 3}, {target, width, 1, width * 3}, effects,
                     transparent, nearest);
@@ -129,5 +129,4 @@ TEST(TransferPicture, KeepsToItsRows) {
     EXPECT_EQ(target, (Bytes{1, 1, 1, 8, 8, 2, 2, 2, 8, 8}));
 }
 
-}  // namespace
-}  // namespace skylob
+}  // namespace skylob::test

@@ -5,9 +5,8 @@
 #include "tests/support/SkyRig.h"
 
 namespace skylob::test {
-namespace {
 
-bool always() {
+static bool always() {
     return true;
 }
 
@@ -160,5 +159,4 @@ TEST(LightningStorm, ComesOnceInTenTicksAndStopsOnlyTheTimerWhoseBoxIsTicked) {
     EXPECT_TRUE(rig.panel().timerMeteors);
 }
 
-}  // namespace
 }  // namespace skylob::test

@@ -5,10 +5,9 @@
 #include "tests/support/SkyRig.h"
 
 namespace skylob::test {
-namespace {
 
 /// The r that draws a start column.
-double from(int column) {
+static double from(int column) {
     return (column + 500.5) / 2001;
 }
 
@@ -157,5 +156,4 @@ TEST(Meteors, HoldTheLightningTimerIfItsBoxIsTicked) {
     }
 }
 
-}  // namespace
 }  // namespace skylob::test

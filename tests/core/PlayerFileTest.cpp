@@ -9,7 +9,6 @@
 #include "tests/support/PlayersRig.h"
 
 namespace skylob::test {
-namespace {
 
 using namespace std::string_literals;
 
@@ -151,7 +150,7 @@ TEST_F(PlayerFileTest, TellsWhatFailedAndChangesNothing) {
 }
 
 /// From now on no file of this process can grow beyond that length.
-void limitFileSize(rlim_t most) {
+static void limitFileSize(rlim_t most) {
     std::signal(SIGXFSZ, SIG_IGN);
     rlimit limit;
     getrlimit(RLIMIT_FSIZE, &limit);
@@ -176,5 +175,4 @@ TEST_F(PlayerFileTest, WritesAllOfARecordOrNothing) {
     EXPECT_EQ(bytes(), record("Bob", kNew));
 }
 
-}  // namespace
 }  // namespace skylob::test

@@ -5,11 +5,10 @@
 #include "tests/support/PlayersRig.h"
 
 namespace skylob::test {
-namespace {
 
 using namespace std::string_literals;
 
-PlayerRecord played(int sets, int won, int average) {
+static PlayerRecord played(int sets, int won, int average) {
     PlayerRecord record;
     record.SetsPlayed = static_cast<std::int16_t>(sets);
     record.SetsWon = static_cast<std::int16_t>(won);
@@ -112,5 +111,4 @@ TEST_F(RecordSetResultsTest, LeavesASinglePlayerUnranked) {
     EXPECT_EQ(recordIn(""), "");
 }
 
-}  // namespace
 }  // namespace skylob::test

@@ -8,9 +8,8 @@
 #include "tests/support/Fakes.h"
 
 namespace skylob::test {
-namespace {
 
-Battlefield flatField() {
+static Battlefield flatField() {
     Battlefield field;
     field.TerrainHeight.fill(100);
     return field;
@@ -161,5 +160,4 @@ TEST(Explosion, GrowsInYellowAndWhiteAndLeavesABlackDot) {
     EXPECT_EQ(landingSound(Landing::OutOfBounds), "outofbounds");
 }
 
-}  // namespace
 }  // namespace skylob::test

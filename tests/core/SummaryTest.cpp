@@ -7,7 +7,6 @@
 #include "tests/support/PlayersRig.h"
 
 namespace skylob::test {
-namespace {
 
 using namespace std::chrono;
 using namespace std::string_literals;
@@ -139,5 +138,4 @@ TEST_F(Commentary, FitsTheWinnerAndTheShots) {
     EXPECT_EQ(block("Good set, you guys!", 12), "Don't you want to play one more set?");
 }
 
-}  // namespace
 }  // namespace skylob::test

@@ -56,19 +56,6 @@ class TitleAnimationTest : public QObject {
         }
     }
 
-    void showsTheDuel() {
-        StillAnimation animation{m_shapes};
-        const auto colourAt = [&](double seconds, int x, int y) {
-            animation.showMoment(seconds);
-            return animation.grab().toImage().pixelColor(x, y).name();
-        };
-        QVERIFY(colourAt(0.4, 124, 239) != "#ffe27a");
-        QCOMPARE(colourAt(0.5, 124, 239), "#ffe27a");  // the flash
-        QCOMPARE(colourAt(1.7, 331, 35), "#ffe27a");   // the shell half way
-        QCOMPARE(colourAt(7.7, 331, 35), "#ffe27a");   // the same a loop later
-        QCOMPARE(colourAt(2.8, 540, 240), "#ffffff");  // the hit
-    }
-
   private:
     const QtShapes m_shapes{programDrawings()};
 };

@@ -110,21 +110,6 @@ class frmGetPlayersTest : public QObject {
         QVERIFY(!screen.form->isVisible());
     }
 
-    void changesTheListByKeyboard() {
-        LobbyScreen screen{record("Ann", kNew) + record("Bob", kNew)};
-        screen.boxes.entries = {"Eve", "Zoe"};
-        screen.boxes.answers = {BoxAnswer::Yes};
-        QTest::keyClick(screen.form.get(), Qt::Key_A, Qt::AltModifier);
-        QTRY_COMPARE(screen.cell(2, 0), QStringLiteral("Eve"));
-        QTest::keyClick(screen.grid, Qt::Key_Down);
-        QTest::keyClick(screen.grid, Qt::Key_F2);
-        QCOMPARE(screen.cell(1, 0), QStringLiteral("Zoe"));
-        QTest::keyClick(screen.grid, Qt::Key_Delete);
-        QCOMPARE(screen.cell(1, 0), QStringLiteral("Eve"));
-        QCOMPARE(screen.grid->currentIndex().row(), 1);
-        QCOMPARE(screen.bytes(), record("Ann", kNew) + record("Eve", kNew));
-    }
-
     void storesOptionsAndRefusesToFade() {
         LobbyScreen screen{record("Ann", kNew)};
         const auto option = [&screen](const QString& caption) {
