@@ -76,15 +76,9 @@ TEST(DirectHit, CreditsTheEnemysMenAndLeavesThem) {
     rig.shoot(kDirectHitBy[1]);
     EXPECT_EQ(rig.shared.TotalKills, (PerSide<int>{92, 100}));
     EXPECT_EQ(rig.state().Shooter, 1);
-    EXPECT_EQ(rig.battle.shots().back().landing, Landing::DirectHit);
-}
-
-TEST(SelfHit, CreditsTheOpponent) {
-    StartedRig rig;
-    rig.shoot(kSelfHit);
-    EXPECT_EQ(rig.battle.shots().back().landing, Landing::SelfHit);
-    EXPECT_EQ(rig.shared.TotalKills, (PerSide<int>{0, 100}));
-    EXPECT_EQ(rig.shared.RoundsWon, (PerSide<int>{0, 1}));
+    rig.shoot(kSelfHit);  // credits the opponent
+    EXPECT_EQ(rig.shared.TotalKills, (PerSide<int>{92, 200}));
+    EXPECT_EQ(rig.shared.RoundsWon, (PerSide<int>{1, 2}));
     EXPECT_EQ(rig.state().Shooter, 1);
 }
 
@@ -101,25 +95,21 @@ TEST(NearMiss, KillsSomeOfTheTargetAndExplodesOnIt) {
     EXPECT_EQ(rig.state().MenLeft, (PerSide<int>{92, 83}));
 }
 
-TEST(NearMiss, BesideASideWithoutMenWinsTheRound) {
-    StartedRig rig;
-    for (int shot = 1; shot <= 25; ++shot) rig.shoot(kMiss);
-    rig.shoot(kNearMissBy[1]);
-    EXPECT_EQ(rig.shared.RoundsWon, (PerSide<int>{0, 1}));
-    EXPECT_EQ(rig.shared.TotalKills, (PerSide<int>{0, 0}));
-}
-
-TEST(SideWithoutMen, LosesAtTheStartOfItsTurn) {
-    StartedRig rig;
-    for (int shot = 1; shot <= 25; ++shot) rig.shoot(kMiss);
-    EXPECT_EQ(rig.state().MenLeft, (PerSide<int>{0, 4}));  // 13 times 8, but never below 0
-    rig.boxes.answers = {BoxAnswer::Ok};
-    rig.shoot(kMiss);
-    EXPECT_EQ(rig.boxes.shown, (Log{"Ann loses this round!: Ann-\r\n\r\nYou can't shoot because "
-                                    "you have no men left! (!)"}));
-    EXPECT_EQ(rig.shared.RoundsWon, (PerSide<int>{0, 1}));
-    EXPECT_EQ(rig.shared.TotalKills, (PerSide<int>{0, 0}));  // deserters are nobody's kills
-    EXPECT_EQ(rig.state().Shooter, 1);
+TEST(SideWithoutMen, LosesAtTheStartOfItsTurnOrByANearMiss) {
+    for (const bool beside : {false, true}) {
+        StartedRig rig;
+        for (int shot = 1; shot <= 25; ++shot) rig.shoot(kMiss);
+        EXPECT_EQ(rig.state().MenLeft, (PerSide<int>{0, 4}));  // 13 times 8, but never below 0
+        rig.boxes.answers = {BoxAnswer::Ok};
+        rig.shoot(beside ? kNearMissBy[1] : kMiss);
+        const Log box{
+            "Ann loses this round!: Ann-\r\n\r\nYou can't shoot because you have no men "
+            "left! (!)"};
+        EXPECT_EQ(rig.boxes.shown, beside ? Log{} : box);
+        EXPECT_EQ(rig.shared.RoundsWon, (PerSide<int>{0, 1}));
+        EXPECT_EQ(rig.shared.TotalKills, (PerSide<int>{0, 0}));  // deserters are nobody's kills
+        EXPECT_EQ(rig.state().Shooter, 1);
+    }
 }
 
 TEST(Shot, DisablesEverythingAndHoldsInput) {

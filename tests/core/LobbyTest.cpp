@@ -152,12 +152,4 @@ TEST_F(LobbyTest, SaysGoodbyeOnceInSixTimes) {
     EXPECT_EQ(events(), (Log{"box Confirm", "sound thatsall", "leave", "box Confirm", "leave"}));
 }
 
-TEST_F(LobbyTest, RecommendsTheGameInAWellFormedAddress) {
-    lobby.cmdEmailFriend_Click();
-    const std::string& link = links.targets.at(0);
-    EXPECT_EQ(link.find("mailto:?subject="), 0U);
-    EXPECT_LT(link.find("&body="), link.find("%0D%0A%0D%0Ahttp%3A%2F%2Fwww.example.org/skylob%0D"));
-    EXPECT_EQ(link.find_first_of(" \r\n\"<>'!,"), std::string::npos);
-}
-
 }  // namespace skylob::test

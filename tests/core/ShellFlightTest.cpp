@@ -120,8 +120,7 @@ TEST(FlyShell, ShowsAYellowShellAtEveryStepAndLeavesATrailOnDemand) {
             const Colour left = trail == Trail::None ? kCyan : side == 1 ? 0x0000FF : 0xFF00FF;
             EXPECT_EQ(atTenth.at(10), left);
             EXPECT_EQ(stage.picture.pixel(landed.x, landed.y), kBlack);
-            EXPECT_EQ(stage.picture.penWidth(), 3);
-            EXPECT_TRUE(stage.picture.persistentDrawing());
+            EXPECT_TRUE(stage.picture.penWidth() == 3 && stage.picture.persistentDrawing());
             stage.picture.refresh();
             EXPECT_EQ(stage.picture.pixel(tenth.x, tenth.y), kCyan);  // no trail was persistent
         }

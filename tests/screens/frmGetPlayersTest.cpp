@@ -13,7 +13,6 @@
 #include "app/Fade.h"
 #include "controls/GlintButton.h"
 #include "players/frmGetSkillLevel.h"
-#include "players/frmSummary.h"
 #include "tests/support/Fakes.h"
 #include "tests/support/PlayersRig.h"
 
@@ -155,32 +154,6 @@ class frmGetPlayersTest : public QObject {
         QCOMPARE(answer(Qt::Key_Escape), 6);
         QCOMPARE(answer(Qt::Key_Space), 5);
         QCOMPARE(answer(Qt::Key_G, Qt::AltModifier), 4);
-    }
-
-    void recordsASetHoweverTheSummaryIsClosed() {
-        for (const int key : {int{Qt::Key_Space}, int{Qt::Key_Escape}, 0}) {
-            World world;
-            world.put(record("Ann", kNew));
-            world.shared.PlayerName = {"Ann", "Bob"};
-            world.shared.RoundsWon[1] = 5;
-            world.shared.TotalKills[1] = 500;
-            world.shared.SetOver = true;
-            StringTable strings;
-            strings.addLines("2700 Good set!");
-            ScriptedRandom random{{}, 0};
-            frmSummary form{world.shared,
-                            SummaryKind::Set,
-                            {world.clock, random, world.sounds, world.boxes, strings, world.file},
-                            world.settings,
-                            world.shapes};
-            QTimer::singleShot(0, &form, [&] {
-                key == 0 ? void(form.close()) : QTest::keyClick(form.focusWidget(), Qt::Key(key));
-            });
-            form.exec();
-            QCOMPARE(world.bytes(), record("Ann", "\1\0\1\0\xCA\0\0\0\0"s));
-            QCOMPARE(form.findChildren<QLabel*>().front()->text(),
-                     QStringLiteral("Ann wins this Set!"));
-        }
     }
 };
 
