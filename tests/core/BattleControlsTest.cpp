@@ -179,7 +179,6 @@ TEST(Options, AreRestoredWithTheirDefaults) {
     EXPECT_TRUE(rig.panel().chkMeteors && rig.panel().chkLightning && !rig.panel().chkWind);
     EXPECT_EQ(rig.state().Wind, 0);
     rig.controls().cmdQuit_Click();  // 50 instead of nothing is no change of speed
-    EXPECT_TRUE(rig.boxes.shown.empty());
     EXPECT_EQ(rig.settings.get("GameSpeed", "none"), "none");
 }
 

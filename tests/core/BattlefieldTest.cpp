@@ -71,6 +71,10 @@ TEST(GenerateBattlefield, IsMadeByItsSeed) {
               "676 580 737, 624 812, 4080, 28 757 159 601; 466969 275327947; 890 1 954 ff00");
     EXPECT_EQ(figuresOf(generated(12)),
               "393 280 689, 709 168, 800000, 163 903 644 26; 406114 123457831; 733 1 913 ffff00");
+    for (std::uint64_t seed = 1; seed <= 400; ++seed) {
+        const Battlefield field = generated(seed);
+        EXPECT_LT(std::max(field.PeakX - field.leftFoot, field.rightFoot - field.PeakX), 300);
+    }
 }
 
 TEST(GenerateBattlefield, LetsTheMoonWaneUntilTheLastRound) {
@@ -104,7 +108,7 @@ TEST(DrawBattlefield, ShowsSkyMoonGroundAndPieces) {
     EXPECT_EQ(picture.pixel(701, 899), 0x0000FFu);
     EXPECT_EQ(picture.penWidth(), 2);
     picture.setPenWidth(1);
-    drawBattlefield(field, picture, 2);
+    drawBattlefield(field, picture, 1);
 
     EXPECT_EQ(picture.pixel(700, 900), 0x0000FFu);
     EXPECT_EQ(picture.pixel(700, 899), kBlack);

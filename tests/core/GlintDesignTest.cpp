@@ -21,15 +21,11 @@ static std::string effects(void (GlintDesign::*set)(Value),
 
 TEST(GlintDesign, SetsOffItsEffectsInOrder) {
     using D = GlintDesign;
-    EXPECT_EQ(effects(&D::setBackColor, 1), "palette;Redraw(2, true);mark BCOL;");
     EXPECT_EQ(effects(&D::setButtonType, 3), "layout;region 12;Redraw(2, true);mark BTYPE;");
     EXPECT_EQ(effects(&D::setButtonType, 11),
               "capture background;layout;region 0;Redraw(2, true);mark BTYPE;");
-    EXPECT_EQ(effects(&D::setCaption, "x"), "access key;layout;Redraw(2, true);mark TX;");
     EXPECT_EQ(effects(&D::setEnabled, false), "Redraw(0, true);disabled;mark ENAB;");
-    EXPECT_EQ(effects(&D::setFontBold, true), "font;layout;Redraw(2, true);");
     EXPECT_EQ(effects(&D::setColorScheme, 3), "palette;Redraw(0, true);mark COLTYPE;");
-    EXPECT_EQ(effects(&D::setPictureNormal, "x"), "measure;layout;Redraw(2, true);mark PICN;");
     EXPECT_EQ(effects(&D::setPicturePosition, 1), "mark PICPOS;layout;Redraw(2, true);");
     // These are drawn only where they show.
     EXPECT_EQ(effects(&D::setUseMaskColor, true), "mark UMCOL;");

@@ -108,13 +108,13 @@ TEST(LightningStorm, LastsFrom50SecondsTo50AndAsManyForEachBolt) {
     };
     // All bolts start in column 50 and lean to the left: 46 points each, with runs of 1.
     for (const Row& row : {Row{0, 0, 0, {"wait 50000", "sound thunder1"}},
-                           Row{0, .9999, .49, {"wait 100000", "sound thunder1"}},
+                           Row{.25, .9999, .49, {"wait 150000", "sound thunder1"}},
                            Row{.9, 0, .49, {"wait 50000", "sound thunder2"}},
                            Row{.9, .9999, .5, {"wait 250000", "sound thunder3"}}}) {
         SkyRig rig;
         rig.controls().chkSound_Click(true);
         rig.passTime();
-        const int bolts = row.bolts == 0 ? 1 : 4;
+        const int bolts = 1 + static_cast<int>(4 * row.bolts);
         std::deque<double> script{0, row.bolts};
         for (int bolt = 1; bolt <= bolts; ++bolt)  // coin, column, tendency, 46 runs
             script.insert(script.end(), (bolt > 1) + 2u + 46 * 2, 0.0);

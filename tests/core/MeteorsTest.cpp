@@ -134,6 +134,11 @@ TEST(Meteors, ExplodeWhereTheyComeDownWithoutASound) {
     EXPECT_EQ(impact.back(), kBlack);
     EXPECT_EQ(rig.state().MenLeft, (PerSide<int>{100, 100}));
     EXPECT_EQ(rig.events(), Log{});
+    rig.passTime();
+    rig.random.script(script);
+    rig.atYield(9, [&] { rig.controls().chkMeteors_Click(false); });
+    rig.battle.timerMeteors_Timer();
+    EXPECT_EQ(rig.pacer.counts.size(), 9u);  // interrupted, it does not explode
 }
 
 TEST(Meteors, HoldTheLightningTimerIfItsBoxIsTicked) {

@@ -91,51 +91,40 @@ TEST_F(SummaryTest, OfASetDecidesAndRecordsIt) {
     EXPECT_EQ(bytes(), record("Bob", "\1\0\1\0\x37\0\0\0\0"s));
 }
 
-struct Commentary : testing::Test {
-    Commentary() { strings.addLines(bytesOf(SKYLOB_RESOURCES "/strings/commentary.txt")); }
-
-    std::optional<std::string> draw(double r) {
-        ScriptedRandom random{{r}};
-        return drawRemark(shared, strings, random);
-    }
-    /// The last remark of the block that fits, which has this first one and so many of them.
-    std::string block(const std::string& first, int size) {
-        EXPECT_EQ(draw(0), first);
-        for (int i = 0; i < size; ++i) EXPECT_NE(draw((i + 0.5) / size), "");
-        return draw(0.9999999).value();
-    }
-
+TEST(Commentary, FitsTheWinnerAndTheShots) {
+    StringTable numbers, remarks;  // each text of the one is its number
+    remarks.addLines(bytesOf(SKYLOB_RESOURCES "/strings/commentary.txt"));
+    for (int i = 2000; i < 2800; ++i) numbers.addLines(std::to_string(i) + " " + std::to_string(i));
     basSkylob shared;
-    StringTable strings;
-};
-
-TEST_F(Commentary, FitsTheWinnerAndTheShots) {
+    const auto block = [&] {
+        std::string ends;
+        for (const double r : {0., 0.9999999}) {
+            ScriptedRandom random{{r}};
+            ends += drawRemark(shared, numbers, random).value_or("none") + " ";
+        }
+        for (double r = 0; r < 1; r += 0.01) {
+            ScriptedRandom random{{r}};
+            EXPECT_NE(drawRemark(shared, remarks, random), "");
+        }
+        return ends;
+    };
     shared.PlayerName = {"Ann", "Bob"};
     shared.Winner = 2;
-    shared.RoundShots = {9, 0};
-    ScriptedRandom none{{}};
-    EXPECT_EQ(drawRemark(shared, strings, none), std::nullopt);
-    shared.RoundShots[2] = 1;
-    EXPECT_EQ(block("Wow! Home run!", 14), "Well, sizzle my CPU!");
-    shared.RoundShots[2] = 2;
-    EXPECT_EQ(block("Well, you're just REALLY hot, huh?", 19), "The blood is everywhere!");
-    shared.RoundShots[2] = 3;
-    EXPECT_EQ(block("I'm looking for psychological significance here...", 22),
-              "C'mon, now... you can get better use out of my CPU than this!");
-    shared.RoundShots[2] = 4;
-    EXPECT_EQ(block("I know a lobotomy patient who plays like you...", 23),
-              "I've seen snails with better trigger fingers...");
+    shared.RoundShots[1] = 9;
+    const char* const ofShots[] = {"none none ", "2300 2313 ", "2400 2418 ",
+                                   "2500 2521 ", "2600 2622 ", "2600 2622 "};
+    for (int shots = 0; shots <= 5; ++shots) {
+        shared.RoundShots[2] = shots;
+        EXPECT_EQ(block(), ofShots[shots]);
+    }
     shared.PlayerName[2] = "Computer";
-    EXPECT_EQ(block("Man, am I hot or WHAT?!", 35),
-              "Are you seeking philosophical wisdom through failure?");
+    EXPECT_EQ(block(), "2100 2134 ");
     shared.Winner = 1;
-    EXPECT_EQ(block("Well, I felt sorry for you, so...", 20),
-              "Careful! Don't get too big for your britches!");
+    EXPECT_EQ(block(), "2200 2219 ");
     shared.SelfHit = true;
-    EXPECT_EQ(block("You just shot yourself. (Thought you'd want to know...)", 24),
-              "Take some medication and chill out!");
+    EXPECT_EQ(block(), "2000 2023 ");
     shared.SetOver = true;
-    EXPECT_EQ(block("Good set, you guys!", 12), "Don't you want to play one more set?");
+    EXPECT_EQ(block(), "2700 2711 ");
 }
 
 }  // namespace skylob::test

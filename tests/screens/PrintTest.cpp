@@ -6,7 +6,6 @@
 #include <QTest>
 #include <QTimer>
 
-#include "app/PrintLayout.h"
 #include "app/QtManualPrinter.h"
 
 using namespace skylob;
@@ -21,11 +20,6 @@ QString textOf(const QString& pdf, const QStringList& options) {
     return QString::fromUtf8(process.readAllStandardOutput());
 }
 
-QString manualText(int number) {
-    QFile file{QString{":/strings/manual/%1.txt"}.arg(number)};
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString{};
-}
-
 }  // namespace
 
 class PrintTest : public QObject {
@@ -34,24 +28,6 @@ class PrintTest : public QObject {
   private slots:
     void initTestCase() {
         qputenv("CUPS_SERVER", "/nonexistent");  // nothing here is to come out of a real printer
-    }
-
-    void printsEveryTopicWhole() {
-        for (const int number : {1000, 1100, 1200, 1300}) {
-            const QString text = manualText(number), pdf = m_folder.filePath("topic.pdf");
-            QVERIFY(text.size() > 500);
-            QVERIFY(printToPdf(pdf, helpSectionHeader("Topic"), text.toStdString()));
-            const QStringList pages = textOf(pdf, {"-raw"}).split('\f', Qt::SkipEmptyParts);
-            QCOMPARE(pages.size() > 1, number != 1000);
-            QString printed;
-            for (int i = 0; i < pages.size(); ++i) {
-                const QString top = QString{"Skylob, Help Section: Topic (page %1) "}.arg(i + 1);
-                const QString page = pages[i].simplified() + ' ';
-                QVERIFY2(page.startsWith(top), qPrintable(page.left(80)));
-                printed += page.mid(top.size());
-            }
-            QCOMPARE(printed.simplified(), text.simplified());
-        }
     }
 
     void keepsItsMarginsInArial() {

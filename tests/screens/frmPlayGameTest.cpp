@@ -96,13 +96,11 @@ class frmPlayGameTest : public QObject {
         QVERIFY(screen.shows("Angle:   80"));
         QVERIFY(screen.shoot()->hasFocus());
         QTest::keyClick(screen.shoot(), Qt::Key_Space);
-        QCOMPARE(screen.shots(), 1u);
-        QCOMPARE(screen.form->battle().shots()[0].speed, 999);
-        QCOMPARE(screen.form->battle().shots()[0].angle, 80);
+        QCOMPARE(screen.form->battle().shots().at(0).speed, 999);
+        QCOMPARE(screen.form->battle().shots().at(0).angle, 80);
         QVERIFY(screen.shoot()->hasFocus());  // it was there, so it stays
         QTest::keyClick(screen.form.get(), Qt::Key_A, Qt::AltModifier);
-        QVERIFY(screen.find<QScrollBar>("Angle")->hasFocus());
-        QVERIFY(!angle->hasFocus());  // the other side's now
+        QVERIFY(screen.find<QScrollBar>("Angle")->hasFocus() && !angle->hasFocus());
         QTest::keyClick(screen.form.get(), Qt::Key_S, Qt::AltModifier);
         QCOMPARE(screen.shots(), 2u);
         QVERIFY(speed->hasFocus());
@@ -125,14 +123,12 @@ class frmPlayGameTest : public QObject {
         screen.pacer.duringFlight = [&] {
             if (++flights != 3) return;
             // Queued as the window system queues it: seen only when events are served again.
-            for (QWidget* target :
-                 {static_cast<QWidget*>(shoot), static_cast<QWidget*>(enemySpeed)}) {
-                for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+            for (QWidget* target : std::initializer_list<QWidget*>{shoot, enemySpeed}) {
+                const QPointF at{5, 5};
+                for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease})
                     QCoreApplication::postEvent(
-                        target,
-                        new QMouseEvent(type, QPointF{5, 5}, target->mapToGlobal(QPointF{5, 5}),
-                                        Qt::LeftButton, Qt::LeftButton, {}));
-                }
+                        target, new QMouseEvent(type, at, target->mapToGlobal(at), Qt::LeftButton,
+                                                Qt::LeftButton, {}));
             }
             QTest::keyClick(screen.form.get(), Qt::Key_Escape);
             QVERIFY(!screen.form->close());
