@@ -68,20 +68,6 @@ TEST(Wind, IsDrawnUntilItIsStrongEnough) {
     }
 }
 
-TEST(Wind, BlowsAnewEveryRoundAndIsDrawnOnlyThen) {
-    BattleRig rig;
-    rig.settings.save("WindSetting", "1");
-    rig.random.script({0.0, 0.1, 0.9});  // wind, first shooter, then the field: low ground
-    rig.start();
-    EXPECT_EQ(rig.state().Wind, -39);
-    EXPECT_EQ(rig.state().Shooter, 1);
-    EXPECT_LT(rig.state().field.heightAt(1), 200);
-    rig.random.script({0.9999});
-    rig.shoot({227, 84});  // the wind brings it back: a self hit ends the round
-    EXPECT_EQ(rig.state().RoundNumber, 2);
-    EXPECT_EQ(rig.panel().chkWindCaption, "Wind  39-->");
-}
-
 TEST(Timers, FollowTheirBoxesInTheirOwnWay) {
     StartedRig rig;
     EXPECT_TRUE(rig.bothTimersRun());
