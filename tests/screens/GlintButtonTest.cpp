@@ -202,7 +202,8 @@ class GlintButtonTest : public QObject {
             "BCOL": -2147483635, "BCOLO": 1, "FCOL": 255, "FCOLO": 2, "MCOL": 7, "MPTR": 5,
             "MICON": "hand", "PICN": "ok 16", "PICH": "bin 16", "UMCOL": false, "SOFT": true,
             "PICPOS": 4, "NGREY": true, "FX": 9, "CHECK": true, "VALUE": true},
-            "wrong": {"BTYPE": 2.5, "TX": 7, "ENAB": 1, "FONT": "x"}, "some": {"BCOL": -2147483635, "FCOL": 255}})",
+            "wrong": {"BTYPE": 2.5, "TX": 7, "ENAB": 1, "FONT": "x"},
+            "some": {"BCOL": -2147483635, "FCOL": 255}})",
                                "form"};
         const QtShapes shapes{programDrawings()};
         const auto copied = [&](const char* from) {
