@@ -17,6 +17,7 @@ TEST(GlintInteraction, ClicksWithTheLeftButton) {
     EXPECT_EQ(rig.taken(),
               "MouseDown 1 2 30 10;Redraw(2, false);MouseUp 1 2 30 10;"
               "Redraw(0, false);Redraw(0, true);Click;");
+    EXPECT_FALSE(rig.button.Value);  // no check box
     rig.button.Enabled = false;
     rig.interaction.click();
     EXPECT_EQ(rig.taken(), "");
