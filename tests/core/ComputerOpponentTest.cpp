@@ -85,6 +85,7 @@ TEST(ComputerOpponent, CorrectsItsLastShot) {
     // The mountain's top is in column 500, the target in column 200.
     for (const Row& row : {
              Row{"short of the top", 4, {.5}, 501, 74, 300, 75, 337, 77},
+             Row{"floor + 2", 4, {.5}, 650, 74, 300, 76, 356, 78},
              Row{"floor + 3", 4, {.5}, 650, 74, 300, 77, 356, 77},
              Row{"at most 999 and 90", 4, {.5}, 900, 88, 990, 89, 999, 90},
              Row{"on the top", 4, {.5}, 500, 74, 300, 75, 320, 74},
