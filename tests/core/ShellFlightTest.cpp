@@ -7,10 +7,9 @@
 #include "battle/Explosion.h"
 #include "tests/support/Fakes.h"
 
-namespace skylob {
-namespace {
+namespace skylob::test {
 
-Battlefield flatField() {
+static Battlefield flatField() {
     Battlefield field;
     field.TerrainHeight.fill(100);
     return field;
@@ -25,23 +24,17 @@ TEST(ShellFlight, FliesTheTabledPaths) {
         FieldPoint tenth, fiftieth;  // 0, 0 where the flight was over by then
     };
     for (const Row& row : {
-             Row{1, 100, 300, 75, 0, {711, 89}, 147, {136, 230}, {297, 577}},
-             Row{1, 100, 300, 75, -39, {483, 89}, 147, {131, 230}, {259, 577}},
              // With the factor in double precision this one comes down in column 826.
              Row{1, 100, 344, 71, -37, {827, 97}, 164, {147, 246}, {348, 663}},
              Row{1, 100, 999, 10, 0, {1045, 215}, 20, {546, 168}, {}},
-             Row{1, 100, 100, 10, 0, {170, 99}, 15, {145, 107}, {}},
              Row{1, 100, 300, 90, -6, {63, 93}, 152, {99, 235}, {94, 603}},
              Row{1, 500, 500, 90, 17, {768, 83}, 252, {502, 325}, {517, 1093}},
              Row{2, 900, 300, 75, 0, {289, 89}, 147, {864, 230}, {703, 577}},
              Row{2, 900, 640, 75, 17, {-7, 2294}, 111, {826, 378}, {496, 1381}},
-             Row{2, 900, 300, 90, 0, {900, 93}, 152, {900, 235}, {900, 603}},
              Row{2, 100, 800, 85, 0, {0, 1145}, 29, {68, 458}, {}},
-             Row{2, 300, 150, 45, 0, {4, 99}, 55, {251, 147}, {32, 124}},
              Row{1, 700, 150, 45, 0, {996, 99}, 55, {749, 147}, {968, 124}},
          }) {
-        SCOPED_TRACE(testing::Message() << row.side << " from " << row.pieceX << " at " << row.speed
-                                        << "/" << row.angle << ", " << row.wind);
+        SCOPED_TRACE(testing::Message() << row.landing.x << ", " << row.landing.y);
         const Battlefield field = flatField();
         ShellFlight flight{{row.side, row.speed, row.angle, row.pieceX, 100, row.wind}};
         std::vector<FieldPoint> path{flight.position()};
@@ -49,20 +42,14 @@ TEST(ShellFlight, FliesTheTabledPaths) {
             flight.advance();
             path.push_back(flight.position());
         }
-        EXPECT_EQ(path.front(), (FieldPoint{row.pieceX, 108}));
         EXPECT_EQ(path.back(), row.landing);
         EXPECT_EQ(path.size(), static_cast<std::size_t>(row.positions));
         EXPECT_EQ(path.at(9), row.tenth);
-        if (row.fiftieth.x != 0) {
-            EXPECT_EQ(path.at(49), row.fiftieth);
-        }
+        EXPECT_EQ(path.size() < 50 ? FieldPoint{} : path[49], row.fiftieth);
     }
-}
-
-TEST(ShellFlight, RoundsTiesToEven) {
     ShellFlight flight{{2, 300, 90, 900, 100, 0}};
     for (int step = 0; step < 5; ++step) flight.advance();
-    EXPECT_EQ(flight.position(), (FieldPoint{900, 180}));  // 108 + 75 - 2.5 = 180.5
+    EXPECT_EQ(flight.position(), (FieldPoint{900, 180}));  // a tie: 108 + 75 - 2.5 = 180.5
 }
 
 TEST(Landing, IsDecidedByTheColumnAlone) {
@@ -99,53 +86,43 @@ TEST(NearMiss, KillsTheFewerTheFartherHalvesToEven) {
             << row.men << "/" << row.distance;
 }
 
-TEST(FlightDelayCount, IsTheContractOfTheGameSpeed) {
-    EXPECT_EQ(FlightDelayCount(99), 1);
-    EXPECT_EQ(FlightDelayCount(50), 24'500'001);
-    EXPECT_EQ(FlightDelayCount(1), 49'000'001);
-}
-
 /// A picture with a pixel for each unit, and everything that moves on it recorded.
 struct AnimatedField {
     AnimatedField() { picture.resize(1000, 1000, 1); }
 
-    test::Log log;
+    Log log;
     FieldPicture picture;
-    test::RecordingView view{log};
-    test::RecordingPacer pacer{log};
+    RecordingView view{log};
+    RecordingPacer pacer{log};
     FieldAnimation animation{picture, view, pacer};
 };
 
-TEST(FlyShell, ShowsAYellowShellAtEveryStepAndLeavesAColouredTrail) {
+TEST(FlyShell, ShowsAYellowShellAtEveryStepAndLeavesATrailOnDemand) {
     for (const int side : {1, 2}) {
-        AnimatedField stage;
-        std::vector<Colour> atTenth;
-        const FieldPoint tenth{side == 1 ? 136 : 864, 230};
-        stage.view.onShowField = [&] { atTenth.push_back(stage.picture.pixel(tenth.x, tenth.y)); };
-        const FieldPoint landed = flyShell({side, 300, 75, side == 1 ? 100 : 900, 100, 0},
-                                           flatField(), Trail::Coloured, stage.animation, 77);
-        EXPECT_EQ(landed, (FieldPoint{side == 1 ? 711 : 289, 89}));
-        EXPECT_EQ(stage.pacer.counts, std::vector<std::int32_t>(147, 77));
-        EXPECT_EQ(atTenth.at(8), kBlack);
-        EXPECT_EQ(atTenth.at(9), kYellow);
-        EXPECT_EQ(atTenth.at(10), side == 1 ? 0x0000FFu : 0xFF00FFu);
-        EXPECT_EQ(stage.picture.pixel(landed.x, landed.y), kBlack);
-        stage.picture.refresh();
-        EXPECT_EQ(stage.picture.pixel(tenth.x, tenth.y), kBlack);  // none of it was persistent
+        for (const Trail trail : {Trail::Coloured, Trail::None}) {
+            AnimatedField stage;
+            const FieldPoint tenth{side == 1 ? 136 : 864, 230};
+            stage.picture.setPoint(tenth.x, tenth.y, kCyan);  // a star on the shell's way
+            stage.picture.setPenWidth(3);
+            std::vector<Colour> atTenth;
+            stage.view.onShowField = [&] {
+                atTenth.push_back(stage.picture.pixel(tenth.x, tenth.y));
+                EXPECT_EQ(stage.picture.penWidth(), 1);
+            };
+            const FieldPoint landed = flyShell({side, 300, 75, side == 1 ? 100 : 900, 100, 0},
+                                               flatField(), trail, stage.animation, 77);
+            EXPECT_EQ(landed, (FieldPoint{side == 1 ? 711 : 289, 89}));
+            EXPECT_EQ(stage.pacer.counts, std::vector<std::int32_t>(147, 77));
+            EXPECT_EQ(atTenth.at(8), kCyan);
+            EXPECT_EQ(atTenth.at(9), kYellow);
+            const Colour left = trail == Trail::None ? kCyan : side == 1 ? 0x0000FF : 0xFF00FF;
+            EXPECT_EQ(atTenth.at(10), left);
+            EXPECT_EQ(stage.picture.pixel(landed.x, landed.y), kBlack);
+            EXPECT_TRUE(stage.picture.penWidth() == 3 && stage.picture.persistentDrawing());
+            stage.picture.refresh();
+            EXPECT_EQ(stage.picture.pixel(tenth.x, tenth.y), kCyan);  // no trail was persistent
+        }
     }
-}
-
-TEST(FlyShell, LeavesTheSkyAsItWasWithoutATrail) {
-    AnimatedField stage;
-    stage.picture.setPoint(136, 230, kCyan);  // a star on the shell's way
-    stage.picture.setPenWidth(3);
-    flyShell({1, 300, 75, 100, 100, 0}, flatField(), Trail::None, stage.animation, 1);
-    EXPECT_EQ(stage.picture.pixel(136, 230), kCyan);
-    EXPECT_EQ(stage.picture.pixel(297, 577), kBlack);
-    EXPECT_EQ(stage.picture.penWidth(), 3);
-    stage.picture.setPoint(5, 5, kRed);
-    stage.picture.refresh();
-    EXPECT_EQ(stage.picture.pixel(5, 5), kRed);  // drawing is persistent again
 }
 
 TEST(Explosion, GrowsInYellowAndWhiteAndLeavesABlackDot) {
@@ -180,5 +157,4 @@ TEST(Explosion, GrowsInYellowAndWhiteAndLeavesABlackDot) {
     EXPECT_EQ(landingSound(Landing::OutOfBounds), "outofbounds");
 }
 
-}  // namespace
-}  // namespace skylob
+}  // namespace skylob::test

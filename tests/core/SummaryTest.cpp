@@ -2,16 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include "players/Commentary.h"
 #include "tests/support/Fakes.h"
-#include "tests/support/FileFakes.h"
+#include "tests/support/PlayersRig.h"
 
 namespace skylob::test {
 
-namespace {
-
 using namespace std::chrono;
-
-const std::string kNew(9, '\0');
+using namespace std::string_literals;
 
 TEST(DateTimeText, IsTheSameEverywhere) {
     const auto at = [](sys_days day, milliseconds time) {
@@ -20,7 +18,6 @@ TEST(DateTimeText, IsTheSameEverywhere) {
     EXPECT_EQ(at(2026y / 11 / 21, 21h + 41min + 59s), "11/21/26 - 9:41pm");
     EXPECT_EQ(at(2009y / 1 / 2, 0h + 5min), "01/02/09 - 12:05am");
     EXPECT_EQ(at(2000y / 12 / 31, 12h), "12/31/00 - 12:00pm");
-    EXPECT_EQ(at(2099y / 10 / 10, 11h + 59min), "10/10/99 - 11:59am");
 }
 
 TEST(RoundSound, FollowsTheSecondsAgainstTheComputerAlone) {
@@ -43,7 +40,7 @@ TEST(RoundSound, FollowsTheSecondsAgainstTheComputerAlone) {
     EXPECT_EQ(sounds(shared), "- - - - - - - - - - ");
 }
 
-struct SummaryTest : testing::Test {
+struct SummaryTest : testing::Test, PlayersRig {
     SummaryTest() {
         strings.addLines("2000 self\n2023 self\n2300 one\n2313 one\n2700 set\n2711 set\n");
         shared.PlayerName = {"Ann", "Bob"};
@@ -54,11 +51,6 @@ struct SummaryTest : testing::Test {
     }
 
     Log log;
-    TempFolder folder;
-    std::string path = folder / "Skylob.Data";
-    DiskFiles disk;
-    PlayerFile file{disk, path};
-    basSkylob shared;
     HandSetClock clock;
     ScriptedRandom random{{}, 0};
     RecordingSounds sounds{log};
@@ -68,19 +60,20 @@ struct SummaryTest : testing::Test {
 };
 
 TEST_F(SummaryTest, OfARoundRecordsNothing) {
-    putBytes(path, record("Ann", kNew) + record("Bob", kNew));
+    const std::string list = record("Ann", kNew) + record("Bob", kNew);
+    put(list);
     Summary summary{shared, SummaryKind::Round, ports};
     summary.Form_Activate();
     EXPECT_EQ(summary.heading(), "Ann wins this Round!");
     EXPECT_EQ(summary.labelComputerSays(), "one");
     EXPECT_EQ(summary.labelDateTime(), "01/01/70 - 12:00am");
     summary.cmdOkay_Click();
-    EXPECT_EQ(bytesOf(path), record("Ann", kNew) + record("Bob", kNew));
+    EXPECT_EQ(bytes(), list);
     EXPECT_TRUE(log.empty());
 }
 
 TEST_F(SummaryTest, OfASetDecidesAndRecordsIt) {
-    putBytes(path, record("Ann", kNew) + record("Bob", kNew));
+    put(record("Ann", kNew) + record("Bob", kNew));
     shared.SetOver = true;
     shared.SelfHit = true;
     boxes.answers = {BoxAnswer::Ok};
@@ -89,24 +82,49 @@ TEST_F(SummaryTest, OfASetDecidesAndRecordsIt) {
     EXPECT_EQ(summary.heading(), "Bob wins this Set!");
     EXPECT_EQ(summary.labelComputerSays(), "set");
     summary.cmdOkay_Click();
-    using namespace std::string_literals;
-    EXPECT_EQ(bytesOf(path),
+    EXPECT_EQ(bytes(),
               record("Bob", "\1\0\1\0\x37\0\1\0\0"s) + record("Ann", "\1\0\0\0\x37\0\2\0\0"s));
     EXPECT_EQ(log, (Log{"sound set", "box Players Update"}));
-    EXPECT_EQ(boxes.shown[0].text,
-              "Ann & Bob--\r\nYour overall rating and standing among other players\r\nhave been "
-              "updated and recorded in the Player List.");
+    EXPECT_EQ(boxes.shown[0].find("Players Update: Ann & Bob--\r\nYour overall rating"), 0U);
+    put(record("Bob", kNew));
+    summary.cmdOkay_Click();  // no box about a list of one
+    EXPECT_EQ(bytes(), record("Bob", "\1\0\1\0\x37\0\0\0\0"s));
 }
 
-TEST_F(SummaryTest, OfASetKeepsQuietAboutAListOfOne) {
-    putBytes(path, record("Bob", kNew));
+TEST(Commentary, FitsTheWinnerAndTheShots) {
+    StringTable numbers, remarks;  // each text of the one is its number
+    remarks.addLines(bytesOf(SKYLOB_RESOURCES "/strings/commentary.txt"));
+    for (int i = 2000; i < 2800; ++i) numbers.addLines(std::to_string(i) + " " + std::to_string(i));
+    basSkylob shared;
+    const auto block = [&] {
+        std::string ends;
+        for (const double r : {0., 0.9999999}) {
+            ScriptedRandom random{{r}};
+            ends += drawRemark(shared, numbers, random).value_or("none") + " ";
+        }
+        for (double r = 0; r < 1; r += 0.01) {
+            ScriptedRandom random{{r}};
+            EXPECT_NE(drawRemark(shared, remarks, random), "");
+        }
+        return ends;
+    };
+    shared.PlayerName = {"Ann", "Bob"};
+    shared.Winner = 2;
+    shared.RoundShots[1] = 9;
+    const char* const ofShots[] = {"none none ", "2300 2313 ", "2400 2418 ",
+                                   "2500 2521 ", "2600 2622 ", "2600 2622 "};
+    for (int shots = 0; shots <= 5; ++shots) {
+        shared.RoundShots[2] = shots;
+        EXPECT_EQ(block(), ofShots[shots]);
+    }
+    shared.PlayerName[2] = "Computer";
+    EXPECT_EQ(block(), "2100 2134 ");
+    shared.Winner = 1;
+    EXPECT_EQ(block(), "2200 2219 ");
+    shared.SelfHit = true;
+    EXPECT_EQ(block(), "2000 2023 ");
     shared.SetOver = true;
-    Summary summary{shared, SummaryKind::Set, ports};
-    summary.Form_Activate();
-    summary.cmdOkay_Click();
-    EXPECT_EQ(log, Log{"sound set"});
+    EXPECT_EQ(block(), "2700 2711 ");
 }
-
-}  // namespace
 
 }  // namespace skylob::test

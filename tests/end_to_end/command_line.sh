@@ -27,12 +27,9 @@ expect() {
 }
 
 expect 0 --help
-grep -q -- '--seed N' out || fail "--help does not tell of --seed"
 expect 0 --version
 grep -qx 'Skylob [0-9.]*' out || fail "--version says: $(<out)"
 expect 2 --fast
-expect 2 --seed
-expect 2 --seed twelve
 touch file
 expect 2 --data-dir file
 expect 2 --data-dir file/below

@@ -47,11 +47,8 @@ class ScreenFadeTest : public QObject {
         QTRY_VERIFY(!fade.isFading());
         QCOMPARE(left, 1);
         QCOMPARE(screen.windowOpacity(), fades ? 0.0 : 1.0);
-
-        // Shown once more, without fading, it is there.
         settings.save("FadeStatus", "False");
         fade.load();
-        QCOMPARE(shared.FadeActive, false);
         QCOMPARE(screen.windowOpacity(), 1.0);
     }
 

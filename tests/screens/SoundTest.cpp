@@ -1,15 +1,13 @@
 #include <unistd.h>
 
-#include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 #include <QTemporaryFile>
 #include <QTest>
 #include <cmath>
 
 #include "app/SdlSoundPlayer.h"
-#include "app/WaveImage.h"
 
 using namespace skylob;
 
@@ -38,53 +36,6 @@ class SoundTest : public QObject {
     Q_OBJECT
 
   private slots:
-    void hasEverySoundInItsFormatAndLength_data() {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<int>("rate");
-        QTest::addColumn<int>("bits");
-        QTest::addColumn<int>("frames");  // of the tabled seconds
-        QTest::newRow("1.2 s") << "beep" << 8000 << 8 << 9600;
-        QTest::newRow("3.3 s") << "bullseye" << 6993 << 8 << 23077;
-        QTest::newRow("0.01 s") << "click" << 11025 << 8 << 110;
-        QTest::newRow("2.2 s") << "contempt" << 11025 << 8 << 24255;
-        QTest::newRow("1.7 s") << "daffy" << 11025 << 0 << 18743;
-        QTest::newRow("0.9 s") << "explosion" << 11025 << 8 << 9923;
-        QTest::newRow("4.0 s") << "gameover" << 11025 << 8 << 44100;
-        QTest::newRow("1.1 s") << "nearmiss" << 11025 << 8 << 12128;
-        QTest::newRow("1.3 s") << "outofbounds" << 11025 << 8 << 14333;
-        QTest::newRow("1.4 s") << "set" << 11025 << 8 << 15435;
-        QTest::newRow("0.5 s") << "shot" << 11025 << 8 << 5513;
-        QTest::newRow("1.6 s") << "thatsall" << 11025 << 8 << 17640;
-        QTest::newRow("3.7 s") << "thunder1" << 8000 << 8 << 29600;
-        QTest::newRow("3.4 s") << "thunder2" << 8000 << 8 << 27200;
-        QTest::newRow("9.6 s") << "thunder3" << 8000 << 8 << 76800;
-        QTest::newRow("2.6 s") << "whatsup" << 11025 << 8 << 28665;
-        QTest::newRow("1.3 s, 16 bits") << "woody" << 8012 << 16 << 10416;
-    }
-    void hasEverySoundInItsFormatAndLength() {
-        QFETCH(QString, name);
-        QFETCH(int, rate);
-        QFETCH(int, bits);
-        QFETCH(int, frames);
-        QFile file{":/sounds/" + name + ".wav"};
-        QVERIFY2(file.open(QIODevice::ReadOnly), qPrintable(name));
-        const QByteArray bytes = file.readAll();
-        const auto image = readWaveImage(
-            std::as_bytes(std::span{bytes.data(), static_cast<std::size_t>(bytes.size())}));
-        QVERIFY(image);
-        QCOMPARE(image->channels, 1);
-        QCOMPARE(image->rate, rate);
-        QCOMPARE(image->bitsPerSample, bits);
-        if (name == "daffy") {
-            QCOMPARE(image->formatTag, 85);
-            QCOMPARE(image->factSamples, static_cast<std::uint32_t>(frames));
-            QVERIFY(image->data[0] == std::byte{0xFF});  // an MPEG frame begins at once
-        } else {
-            QCOMPARE(image->formatTag, 1);
-            QCOMPARE(static_cast<int>(image->data.size()), frames * bits / 8);
-        }
-    }
-
     void playsTheCompressedOne() {
         const QTemporaryDir folder;
         const QString capture = captureTo(folder);
@@ -101,20 +52,14 @@ class SoundTest : public QObject {
         SdlSoundPlayer player;
         player.PlaySound("THUNDER3");  // 9.6 s
         QTRY_VERIFY(framesIn(capture) > kRate / 2);
-        QVERIFY(player.isPlaying());
         player.PlaySound("shot");  // 0.5 s
         const qint64 switched = framesIn(capture);
         QVERIFY(switched < 5 * kRate);  // or the thunder would be as good as over
         QTRY_VERIFY(framesIn(capture) > switched + 2 * kRate);
         QVERIFY(!player.isPlaying());
-        const qint64 buffers = 4 * 1024;
-        const qint64 last = lastLoudFrame(capture);
+        const qint64 buffers = 4 * 1024, last = lastLoudFrame(capture);
         QVERIFY2(last < switched + kRate / 2 + buffers,
                  qPrintable(QString::number(last - switched)));
-    }
-
-    void refusesAnUnknownName() {
-        SdlSoundPlayer player;
         QVERIFY_EXCEPTION_THROWN(player.PlaySound("silence"), std::out_of_range);
     }
 

@@ -13,35 +13,25 @@
 #include "app/Fade.h"
 #include "controls/GlintButton.h"
 #include "players/frmGetSkillLevel.h"
-#include "players/frmSummary.h"
 #include "tests/support/Fakes.h"
-#include "tests/support/FileFakes.h"
+#include "tests/support/PlayersRig.h"
 
 namespace skylob::test {
 
-class NoLinks : public LinkOpener {
-  public:
-    bool open(const std::string&) override { return true; }
-};
-
 /// What all screens of the players share.
-struct World {
+struct World : PlayersRig {
     Log log;
-    TempFolder folder;
-    DiskFiles disk;
-    PlayerFile file{disk, folder / "Skylob.Data"};
-    basSkylob shared;
     HandSetClock clock;
     QueuedBoxes boxes{log};
     MemorySettings settings;
     RecordingSounds sounds{log};
-    NoLinks links;
+    RecordingLinks links;
     const QtShapes shapes{programDrawings()};
 };
 
 struct LobbyScreen : World {
     explicit LobbyScreen(const std::string& list) {
-        putBytes(folder / "Skylob.Data", list);
+        put(list);
         form = std::make_unique<frmGetPlayers>(
             shared, frmGetPlayersPorts{file, clock, boxes, settings, sounds, links, shapes,
                                        [this] { ++skillQuestions; }});
@@ -73,7 +63,7 @@ class frmGetPlayersTest : public QObject {
     void showsTheListAsItIs() {
         LobbyScreen screen{record("\xC5sa & <b>Bo</b>", "\x0E\0\x0B\0\x2E\0\1\0\0"s) +
                            record("", "\xFF\xFF\0\0\xFF\xFF\xFE\xFF\0"s) +
-                           record("WWWWWWWWWWWWWWWWWWWW", std::string(9, '\0'))};
+                           record("WWWWWWWWWWWWWWWWWWWW", kNew)};
         QCOMPARE(screen.grid->model()->rowCount(), 3);
         const char* const cells[3][5] = {{"\xC3\x85sa & <b>Bo</b>", "14/11", "46", "1", "1"},
                                          {"", "-1/0", "-1", "-2", "2"},
@@ -89,8 +79,7 @@ class frmGetPlayersTest : public QObject {
     }
 
     void pairsByMouseAndByKeyboard() {
-        LobbyScreen screen{record("Ann", std::string(9, '\0')) +
-                           record("Bob", std::string(9, '\0'))};
+        LobbyScreen screen{record("Ann", kNew) + record("Bob", kNew)};
         QSignalSpy battle{screen.form.get(), &frmGetPlayers::battleChosen};
         QWidget* const rows = screen.grid->viewport();
         const QPoint first{40, 10};
@@ -120,25 +109,8 @@ class frmGetPlayersTest : public QObject {
         QVERIFY(!screen.form->isVisible());
     }
 
-    void changesTheListByKeyboard() {
-        LobbyScreen screen{record("Ann", std::string(9, '\0')) +
-                           record("Bob", std::string(9, '\0'))};
-        screen.boxes.entries = {"Eve", "Zoe"};
-        screen.boxes.answers = {BoxAnswer::Yes};
-        QTest::keyClick(screen.form.get(), Qt::Key_A, Qt::AltModifier);
-        QTRY_COMPARE(screen.cell(2, 0), QStringLiteral("Eve"));
-        QTest::keyClick(screen.grid, Qt::Key_Down);
-        QTest::keyClick(screen.grid, Qt::Key_F2);
-        QCOMPARE(screen.cell(1, 0), QStringLiteral("Zoe"));
-        QTest::keyClick(screen.grid, Qt::Key_Delete);
-        QCOMPARE(screen.cell(1, 0), QStringLiteral("Eve"));
-        QCOMPARE(screen.grid->currentIndex().row(), 1);
-        QCOMPARE(bytesOf(screen.folder / "Skylob.Data"),
-                 record("Ann", std::string(9, '\0')) + record("Eve", std::string(9, '\0')));
-    }
-
     void storesOptionsAndRefusesToFade() {
-        LobbyScreen screen{record("Ann", std::string(9, '\0'))};
+        LobbyScreen screen{record("Ann", kNew)};
         const auto option = [&screen](const QString& caption) {
             for (auto* button : screen.form->findChildren<QRadioButton*>())
                 if (button->text() == caption) return button;
@@ -157,7 +129,7 @@ class frmGetPlayersTest : public QObject {
     }
 
     void leavesOnlyWhenConfirmed() {
-        LobbyScreen screen{record("Ann", std::string(9, '\0'))};
+        LobbyScreen screen{record("Ann", kNew)};
         QSignalSpy left{screen.form.get(), &frmGetPlayers::programLeft};
         screen.boxes.answers = {BoxAnswer::No, BoxAnswer::Yes};
         screen.form->close();
@@ -182,35 +154,6 @@ class frmGetPlayersTest : public QObject {
         QCOMPARE(answer(Qt::Key_Escape), 6);
         QCOMPARE(answer(Qt::Key_Space), 5);
         QCOMPARE(answer(Qt::Key_G, Qt::AltModifier), 4);
-    }
-
-    void recordsASetHoweverTheSummaryIsClosed() {
-        for (const int key : {int{Qt::Key_Space}, int{Qt::Key_Escape}, 0}) {
-            World world;
-            putBytes(world.folder / "Skylob.Data", record("Ann", std::string(9, '\0')));
-            world.shared.PlayerName = {"Ann", "WWWWWWWWWWWWWWWWWWWW"};
-            world.shared.RoundsWon = {5, 0};
-            world.shared.TotalKills = {500, 0};
-            world.shared.SetOver = true;
-            StringTable strings;
-            strings.addLines("2700 Good set!");
-            ScriptedRandom random{{}, 0};
-            frmSummary form{world.shared,
-                            SummaryKind::Set,
-                            {world.clock, random, world.sounds, world.boxes, strings, world.file},
-                            world.settings,
-                            world.shapes};
-            QTimer::singleShot(0, &form, [&] {
-                if (key == 0)
-                    form.close();
-                else
-                    QTest::keyClick(form.focusWidget(), Qt::Key(key));
-            });
-            form.exec();
-            QCOMPARE(bytesOf(world.folder / "Skylob.Data"), record("Ann", "\1\0\1\0\xCA\0\0\0\0"s));
-            QCOMPARE(form.findChildren<QLabel*>().front()->text(),
-                     QStringLiteral("Ann wins this Set!"));
-        }
     }
 };
 

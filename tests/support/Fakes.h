@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "app/LinkOpener.h"
 #include "app/basSkylob.h"
 #include "battle/Battle.h"
 #include "battle/HeadlessBattle.h"
@@ -38,86 +39,85 @@ class ScriptedRandom : public RandomSource {
     int m_draws = 0;
 };
 
-class HandSetClock : public Clock {
-  public:
+struct HandSetClock : Clock {
     DateTime now() const override { return time; }
     DateTime time{};
 };
 
-/// What happened in a battle, in order: one log that all the recorders below write into.
+/// What happened, in order: one log that all the recorders below write into.
 using Log = std::vector<std::string>;
 
-class RecordingPacer : public Pacer {
-  public:
-    explicit RecordingPacer(Log& log) : m_log{log} {}
+struct RecordingPacer : Pacer {
+    explicit RecordingPacer(Log& events) : log{events} {}
 
     void startPacing() override { counts.clear(); }
     void countedWait(std::int32_t count) override { counts.push_back(count); }
     void Wait(float seconds) override {
-        m_log.push_back("wait " + std::to_string(waitMilliseconds(seconds)));
+        log.push_back("wait " + std::to_string(waitMilliseconds(seconds)));
         if (onWait) onWait();
     }
     void yieldToEvents() override {
-        m_log.push_back("yield");
+        log.push_back("yield");
         if (const auto action = std::exchange(onYield, {})) action();
     }
 
+    Log& log;
     std::vector<std::int32_t> counts;  ///< since the last startPacing()
     std::function<void()> onYield;     ///< run once, at the next yield
     std::function<void()> onWait;
-
-  private:
-    Log& m_log;
 };
 
-class RecordingSounds : public SoundPlayer {
-  public:
-    explicit RecordingSounds(Log& log) : m_log{log} {}
-    void PlaySound(std::string_view name) override {
-        m_log.push_back("sound " + std::string{name});
-    }
+struct RecordingSounds : SoundPlayer {
+    explicit RecordingSounds(Log& events) : log{events} {}
+    void PlaySound(std::string_view name) override { log.push_back("sound " + std::string{name}); }
 
-  private:
-    Log& m_log;
+    Log& log;
+};
+
+struct RecordingLinks : LinkOpener {
+    bool open(const std::string& target) override {
+        targets.push_back(target);
+        return works;
+    }
+    std::vector<std::string> targets;
+    bool works = true;
 };
 
 /// Answers from a queue; a box that nobody expected is an error.
-class QueuedBoxes : public MessageBoxes {
-  public:
-    explicit QueuedBoxes(Log& log) : m_log{log} {}
+struct QueuedBoxes : MessageBoxes {
+    explicit QueuedBoxes(Log& events) : log{events} {}
 
     BoxAnswer show(const MessageBox& box) override {
-        m_log.push_back("box " + box.title);
+        log.push_back("box " + box.title);
         if (answers.empty()) throw std::logic_error("unexpected box: " + box.title);
         if (onShow) onShow();
-        shown.push_back(box);
+        constexpr const char* kIcons[] = {"", " (?)", " (!)"};
+        shown.push_back(box.title + ": " + box.text + kIcons[static_cast<int>(box.icon)]);
+        if (box.buttons == BoxButtons::YesNo)
+            shown.back() += box.preset == BoxAnswer::Yes ? " Yes/no" : " yes/No";
         const BoxAnswer answer = answers.front();
         answers.pop_front();
         return answer;
     }
-
     std::optional<std::string> ask(const InputBox& box) override {
-        m_log.push_back("ask " + box.title);
-        asked.push_back(box);
+        log.push_back("ask " + box.title);
         if (entries.empty()) throw std::logic_error("unexpected question: " + box.prompt);
+        asked.push_back(box.title + ": " + box.prompt + " [" + box.entry + "]");
         const auto entry = entries.front();
         entries.pop_front();
         return entry;
     }
 
+    Log& log;
     std::deque<BoxAnswer> answers;
     std::deque<std::optional<std::string>> entries;
-    std::vector<InputBox> asked;
-    std::vector<MessageBox> shown;
+    /// "Title: Text" with icon and buttons, "Title: Prompt [Entry]".
+    std::vector<std::string> shown, asked;
     std::function<void()> onShow;
-
-  private:
-    Log& m_log;
 };
 
-class RecordingView : public HeadlessView {
-  public:
-    explicit RecordingView(Log& log) : m_log{log} {}
+struct RecordingView : HeadlessView {
+    explicit RecordingView(Log& events) : log{events} {}
 
     void showField() override {
         if (onShowField) onShowField();
@@ -126,29 +126,31 @@ class RecordingView : public HeadlessView {
     void holdInput() override { inputHeld = true; }
     void releaseInput() override {
         inputHeld = false;
-        m_log.push_back("release input");
+        log.push_back("release input");
     }
     void queue(std::function<void()> task) override {
-        m_log.push_back("queue");
+        log.push_back("queue");
         HeadlessView::queue(std::move(task));
     }
     void showSummary(SummaryKind kind) override {
-        m_log.push_back(kind == SummaryKind::Round ? "summary Round" : "summary Set");
+        log.push_back(kind == SummaryKind::Round ? "summary Round" : "summary Set");
     }
     void showCursor(BattleCursor cursor) override {
-        if (cursor == BattleCursor::Hourglass) m_log.push_back("hourglass");
+        if (cursor == BattleCursor::Hourglass) log.push_back("hourglass");
     }
     void closeBattle() override {
-        m_log.push_back("close");
+        log.push_back("close");
         HeadlessView::closeBattle();
     }
 
+    Log& log;
     std::function<void()> onShowField;
     bool inputHeld = false;
-    int width = 1024;
+    int width = 801;
+};
 
-  private:
-    Log& m_log;
+struct Aim {
+    int speed, angle;
 };
 
 /// A battle between "Ann" and "Bob" (or the computer) with every port in the test's hands.
@@ -166,18 +168,20 @@ struct BattleRig {
     void start() { battle.Form_Activate(); }
 
     /// Aims for the side whose turn it is, fires, and runs what that queued.
-    void shoot(int speed, int angle) {
-        fire(speed, angle);
+    void shoot(const Aim& aim) {
+        fire(aim);
         view.runQueue();
     }
-    void fire(int speed, int angle) {
-        battle.controls().setSpeed(battle.state().Shooter, speed);
-        battle.controls().setAngle(battle.state().Shooter, angle);
+    void fire(const Aim& aim) {
+        battle.controls().setSpeed(state().Shooter, aim.speed);
+        battle.controls().setAngle(state().Shooter, aim.angle);
         battle.cmdShoot_Click();
     }
 
     BattleControls& controls() { return battle.controls(); }
     const BattlePanel& panel() { return battle.controls().panel(); }
+    const BattleState& state() const { return battle.state(); }
+    bool bothTimersRun() { return panel().timerMeteors && panel().timerLightning; }
 
     Log log;
     basSkylob shared;
@@ -189,6 +193,15 @@ struct BattleRig {
     MemorySettings settings;
     RecordingView view{log};
     Battle battle{shared, {random, clock, pacer, sounds, boxes, settings, view}};
+};
+
+/// A battle that waits for side 1, with nothing in its log yet.
+struct StartedRig : BattleRig {
+    explicit StartedRig(int rounds = 5) : BattleRig{"Bob", rounds} {
+        random.script({0});
+        start();
+        log.clear();
+    }
 };
 
 }  // namespace skylob::test

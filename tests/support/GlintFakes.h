@@ -1,9 +1,7 @@
 #pragma once
 
-#include <map>
 #include <sstream>
 #include <string>
-#include <variant>
 #include <vector>
 
 #include "controls/GlintDesign.h"
@@ -16,8 +14,6 @@ namespace skylob::test {
 /// log. A caption takes 7 pixels for each of its bytes in one line of 10.
 class GlintRig : public GlintSurface, public GlintPointer, public GlintEvents {
   public:
-    using Log = std::vector<std::string>;
-
     void paint(int state, bool flag) override {
         note("Redraw(" + std::to_string(state) + (flag ? ", true)" : ", false)"));
         drawnOver = button.IsOver;
@@ -74,9 +70,9 @@ class GlintRig : public GlintSurface, public GlintPointer, public GlintEvents {
     void captureMouse() override { note("capture mouse"); }
 
     void raiseClick() override { note("Click"); }
-    void raiseMouseDown(const GlintMouse& mouse) override { note("MouseDown" + text(mouse)); }
-    void raiseMouseMove(const GlintMouse& mouse) override { note("MouseMove" + text(mouse)); }
-    void raiseMouseUp(const GlintMouse& mouse) override { note("MouseUp" + text(mouse)); }
+    void raiseMouseDown(const GlintMouse& mouse) override { note("MouseDown", mouse); }
+    void raiseMouseMove(const GlintMouse& mouse) override { note("MouseMove", mouse); }
+    void raiseMouseUp(const GlintMouse& mouse) override { note("MouseUp", mouse); }
     void raiseKeyPress(std::int16_t key) override { note("KeyPress " + std::to_string(key)); }
     void raiseKeyDown(std::int16_t key, std::int16_t shift) override {
         note("KeyDown " + std::to_string(key) + " " + std::to_string(shift));
@@ -88,8 +84,8 @@ class GlintRig : public GlintSurface, public GlintPointer, public GlintEvents {
     void raiseMouseIn() override { note("MouseIn"); }
     void raiseMouseOut() override { note("MouseOut"); }
 
-    /// What has been logged since the last call.
-    Log taken() { return std::exchange(log, {}); }
+    /// What has happened since the last call, each followed by a semicolon.
+    std::string taken() { return std::exchange(log, {}); }
 
     GlintState button;
     bool userMode = true, inside = true, timerRuns = false;
@@ -102,52 +98,15 @@ class GlintRig : public GlintSurface, public GlintPointer, public GlintEvents {
     GlintInteraction interaction{button, *this, *this, *this};
 
   private:
-    static std::string text(const GlintMouse& mouse) {
+    void note(const std::string& what) const { log += what + ";"; }
+    void note(const char* event, const GlintMouse& mouse) const {
         std::ostringstream text;
-        text << ' ' << mouse.button << ' ' << mouse.shift << ' ' << mouse.x << ' ' << mouse.y;
-        return text.str();
+        text << event << ' ' << mouse.button << ' ' << mouse.shift << ' ' << mouse.x << ' '
+             << mouse.y;
+        note(text.str());
     }
-    void note(const std::string& what) const { log.push_back(what); }
 
-    mutable Log log;
-};
-
-/// A bag in memory that also tells in which order its keys were read or written.
-class MemoryBag : public PropertyBag {
-  public:
-    using Value = std::variant<std::int32_t, bool, std::string, GlintFont>;
-
-    std::int32_t readInteger(std::string_view key, std::int32_t fallback) const override {
-        return read(key, fallback);
-    }
-    bool readBoolean(std::string_view key, bool fallback) const override {
-        return read(key, fallback);
-    }
-    std::string readText(std::string_view key, const std::string& fallback) const override {
-        return read(key, fallback);
-    }
-    GlintFont readFont(std::string_view key, const GlintFont& fallback) const override {
-        return read(key, fallback);
-    }
-    void writeInteger(std::string_view key, std::int32_t value) override { write(key, value); }
-    void writeBoolean(std::string_view key, bool value) override { write(key, value); }
-    void writeText(std::string_view key, const std::string& value) override { write(key, value); }
-    void writeFont(std::string_view key, const GlintFont& value) override { write(key, value); }
-
-    std::map<std::string, Value, std::less<>> values;
-    mutable std::string keys;
-
-  private:
-    template <typename Type>
-    Type read(std::string_view key, const Type& fallback) const {
-        keys += std::string{key} + " ";
-        const auto found = values.find(key);
-        return found == values.end() ? fallback : std::get<Type>(found->second);
-    }
-    void write(std::string_view key, Value value) {
-        keys += std::string{key} + " ";
-        values.insert_or_assign(std::string{key}, std::move(value));
-    }
+    mutable std::string log;
 };
 
 }  // namespace skylob::test

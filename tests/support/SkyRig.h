@@ -8,25 +8,26 @@ namespace skylob::test {
 
 /// A battle that waits for side 1 with meteors and lightning on and without sound, on the field of
 /// the BattleRig; a pixel is a unit. Twelve seconds have gone by.
-struct SkyRig : BattleRig {
+struct SkyRig : StartedRig {
     SkyRig() {
-        battle.picture().resize(1000, 1000, 1);
-        random.script({0});
-        start();
+        picture().resize(1000, 1000, 1);
+        battle.redrawField();
+        passTime();
+    }
+
+    void passTime() {
         clock.time += std::chrono::seconds{12};
         log.clear();
     }
-
     FieldPicture& picture() { return battle.picture(); }
 
     std::vector<std::uint32_t> pixels() {
         const FieldPicture& shown = picture();
         return {shown.screenPixels(), shown.screenPixels() + shown.width() * shown.height()};
     }
-
-    long lit(std::uint32_t pixel) {
+    long yellowPixels() {
         const auto all = pixels();
-        return std::count(all.begin(), all.end(), pixel);
+        return std::count(all.begin(), all.end(), 0xFFFFFF00u);
     }
 
     /// Runs `action` once, at the yield of that number, 1 or more, from now on.
@@ -47,7 +48,5 @@ struct SkyRig : BattleRig {
     }
     std::ptrdiff_t yields() const { return std::count(log.begin(), log.end(), "yield"); }
 };
-
-inline constexpr std::uint32_t kYellowPixel = 0xFFFFFF00u;
 
 }  // namespace skylob::test
