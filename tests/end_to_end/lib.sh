@@ -65,34 +65,6 @@ expect_players() {
 }
 expect_setting() { grep -qxF "$1" "$settings" || fail "no $1 in: $(<"$settings")"; }
 
-shown() { [[ -n $(window "$1") ]]; }
-is_over() { ! kill -0 "$game" 2>/dev/null; }
-
-lobby="Skylob - Player List"
-battle="Skylob - Battlefield"
-skill="Select a Skill Level"
-
-# The player file, in which `players RECORD...` puts records of NAME:PLAYED:WON:AVERAGE:RANKING and
-# `expect_players RECORD...` compares it with them.
-list=$work/data/Skylob.Data
-two_bytes() { printf '\\x%02x\\x%02x' $(($1 & 255)) $(($1 >> 8 & 255)); }
-records() {
-    local record name figures figure
-    for record in "$@"; do
-        IFS=: read -r name figures <<<"$record:0:0:0:0"
-        printf '%-20s' "$name"
-        for figure in $(cut -d: -f1-4 <<<"$figures" | tr : ' '); do
-            printf "$(two_bytes "$figure")"
-        done
-        printf '\0'
-    done
-}
-players() { records "$@" >"$list"; }
-expect_players() {
-    records "$@" | cmp - "$list" || fail "not these players: $*: $(od -c "$list")"
-}
-expect_setting() { grep -qxF "$1" "$settings" || fail "no $1 in: $(<"$settings")"; }
-
 shown() { until_true "${2:-20}" is_shown "$1" || fail "no window '$1': $(<"$work/stderr")"; }
 gone() { until_true "${2:-20}" not is_shown "$1" || fail "the window '$1' stays"; }
 not() { ! "$@"; }
