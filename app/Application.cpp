@@ -79,7 +79,9 @@ Application::Application(int& argc, char** argv, const CommandLine& commandLine)
         m_strings.add(topic, resourceText(QStringLiteral(":/strings/manual/%1.txt").arg(topic)));
 }
 
-Application::~Application() = default;
+Application::~Application() {
+    delete m_manual;
+}
 
 int Application::run() {
     try {
@@ -175,8 +177,8 @@ void Application::showSummary(SummaryKind kind) {
 }
 
 void Application::quitWhenSilent() {
-    constexpr int kPause = 50;  // milliseconds
-    delete m_manual;
+    constexpr int kPause = 50;       // milliseconds
+    if (m_manual) m_manual->hide();  // not deleted yet: it may be at work on a print
     m_singleCopy.release();
     auto* timer = new QTimer{this};
     connect(timer, &QTimer::timeout, this, [this] {

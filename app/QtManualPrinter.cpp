@@ -7,6 +7,7 @@
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QStandardPaths>
+#include <QTimer>
 #include <QWindow>
 #include <string_view>
 
@@ -76,8 +77,8 @@ bool printManual(QWidget& window, const std::string& header, const std::string& 
     const bool hasPrinter = !QPrinterInfo::defaultPrinter().isNull();
     const QString file = hasPrinter ? QString{} : askForFile(window);
     if (!hasPrinter && file.isEmpty()) return true;
-    QtInputGate gate{&window};
-    gate.close();
+    auto* gate = new QtInputGate{&window};
+    gate->close();
     QApplication::setOverrideCursor(Qt::WaitCursor);
     bool done = true;
     if (hasPrinter) {
@@ -87,7 +88,9 @@ bool printManual(QWidget& window, const std::string& header, const std::string& 
         done = printToPdf(file, header, text);
     }
     QApplication::restoreOverrideCursor();
-    gate.dropInputAndOpen();
+    // When the input that has been waiting is dropped, and not from here: events that are let in
+    // meanwhile may delete the window.
+    QTimer::singleShot(0, gate, &QObject::deleteLater);
     return done;
 }
 

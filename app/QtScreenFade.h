@@ -37,6 +37,10 @@ class QtScreenFade : public QObject {
 
     bool isFading() const { return m_fade.isActive(); }
 
+    /// Whether the screen may be closed now: it neither fades nor has left. What closes its window
+    /// may have been waiting behind what made it leave.
+    bool takesClosing() const { return !isFading() && !m_leaves; }
+
   private:
     void StartFade(int start, int end, int step, AfterFade after);
     bool frameIsDue() const;

@@ -87,7 +87,7 @@ void frmTitlePage::paintEvent(QPaintEvent*) {
 
 void frmTitlePage::closeEvent(QCloseEvent* event) {
     event->ignore();
-    if (m_fade->isFading()) return;
+    if (!m_fade->takesClosing()) return;
     hide();
     emit closed();
 }

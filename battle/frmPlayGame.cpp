@@ -217,7 +217,7 @@ void frmPlayGame::showEvent(QShowEvent* event) {
 
 void frmPlayGame::closeEvent(QCloseEvent* event) {
     event->ignore();
-    if (!m_fade->isFading()) m_battle.controls().cmdQuit_Click();
+    if (m_fade->takesClosing()) m_battle.controls().cmdQuit_Click();
 }
 
 void frmPlayGame::paintEvent(QPaintEvent* event) {

@@ -188,7 +188,7 @@ void frmGetPlayers::showEvent(QShowEvent* event) {
 
 void frmGetPlayers::closeEvent(QCloseEvent* event) {
     event->ignore();
-    if (!m_fade->isFading()) m_lobby.cmdQuit_Click();
+    if (m_fade->takesClosing()) m_lobby.cmdQuit_Click();
 }
 
 void frmGetPlayers::fillGrid(std::vector<PlayerRecord> records) {

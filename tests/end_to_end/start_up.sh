@@ -18,7 +18,7 @@ sleep 0.5 # a title page would come now
 [[ $(xdotool search --onlyvisible --name "$title" | wc -l) == 1 ]] || fail "two title pages"
 press Terminating Return
 ! wait "$second" || fail "a second copy ends well"
-is_shown "$title" || fail "the first copy has gone"
+shown "$title" # the first copy is still there
 
 kill -9 "$game"
 wait "$game" || true

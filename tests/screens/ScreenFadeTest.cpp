@@ -36,7 +36,7 @@ class ScreenFadeTest : public QObject {
         QCOMPARE(fade.isFading(), fades);
         QTest::keyClick(&screen, Qt::Key_A);
         QCOMPARE(screen.keys, fades ? 0 : 1);
-        QTRY_VERIFY(!fade.isFading());
+        QTRY_VERIFY(fade.takesClosing());
         QCOMPARE(screen.windowOpacity(), 1.0);
         QTest::keyClick(&screen, Qt::Key_A);
         QCOMPARE(screen.keys, fades ? 1 : 2);
@@ -45,6 +45,7 @@ class ScreenFadeTest : public QObject {
         for (int time = 0; time < 2; ++time) fade.leave([&left] { ++left; });
         QCOMPARE(left, fades ? 0 : 1);
         QTRY_VERIFY(!fade.isFading());
+        QVERIFY(!fade.takesClosing());
         QCOMPARE(left, 1);
         QCOMPARE(screen.windowOpacity(), fades ? 0.0 : 1.0);
         settings.save("FadeStatus", "False");
