@@ -46,10 +46,8 @@ TEST_F(StartUpTest, RefusesASecondCopyBeforeItTouchesAnything) {
     boxes.answers = {BoxAnswer::Ok};
     EXPECT_FALSE(start(Copies::AnotherOne));
     EXPECT_EQ(folder.content(), "Skylob.Dat ");
-    ASSERT_EQ(boxes.shown.size(), 1U);
-    EXPECT_EQ(boxes.shown[0].title, "Terminating...");
-    EXPECT_EQ(boxes.shown[0].text, "Skylob is already loaded\r\nand running on your computer!");
-    EXPECT_EQ(boxes.shown[0].icon, BoxIcon::Critical);
+    EXPECT_EQ(boxes.shown, Log{"Terminating...: Skylob is already loaded\r\n"
+                               "and running on your computer! (!)"});
 }
 
 TEST(TitlePage, GreetsInTheFirstTwentySecondsOfAMinute) {
