@@ -95,6 +95,7 @@ void frmManual::menuHelpTopic_Click(int index) {
     QAction& item = *menuHelpTopic->actions().at(index);
     item.setChecked(true);  // and no other
     labelHelpTopic->setText(captionOf(item));
+    txtManual->setAccessibleName(captionOf(item));
     txtManual->setPlainText(QString::fromStdString(m_ports.strings.text(item.data().toInt())));
 }
 

@@ -20,15 +20,19 @@ press Terminating Return
 ! wait "$second" || fail "a second copy ends well"
 shown "$title" # the first copy is still there
 
+press "$title" space
+shown "New User Overview"
+press "New User Overview" space
+shown "$lobby"
 kill -9 "$game"
 wait "$game" || true
-gone "$title"
+gone "$lobby"
 start_program
 press "$title" space
 shown "New User Overview"
 press "New User Overview" alt+d alt+F4
 shown "$lobby"
-! grep -qs NewUser "$settings" || fail "closing the welcome saves: $(<"$settings")"
+! grep -qs NewUser "$settings" || fail "the welcome saves without a tick and Continue: $(<"$settings")"
 leave_program
 
 start_program

@@ -30,22 +30,22 @@ class frmManualTest : public QObject {
   private slots:
     void initTestCase() {
         for (const int number : {1000, 1100, 1200, 1300})
-            m_strings.add(number, "Text " + std::to_string(number) + "\n\n<b>&amp;\n");
+            m_strings.add(number, "<b>Text " + std::to_string(number) + "</b>\n\n&amp;\n");
     }
 
     void showsOneTopicAtATime() {
         frmManual manual{m_shared, {m_strings, m_settings, m_links, m_boxes, m_shapes}};
         manual.show();
         QVERIFY(QTest::qWaitForWindowActive(&manual));
-        QCOMPARE(shownBy(manual), "Program Overview|Text 1000\n\n<b>&amp;|Program &Overview");
+        QCOMPARE(shownBy(manual), "Program Overview|<b>Text 1000</b>\n\n&amp;|1 Program &Overview");
         const auto choose = [&manual](Qt::Key key) {
             QTest::keyClick(&manual, Qt::Key_F1);
             QTest::keyClick(manual.findChild<QMenu*>(), key);
             return shownBy(manual);
         };
-        QCOMPARE(choose(Qt::Key_S), "Strategy|Text 1300\n\n<b>&amp;|&Strategy");
-        QCOMPARE(choose(Qt::Key_P), "The Player List|Text 1100\n\n<b>&amp;|The &Player List");
-        QCOMPARE(choose(Qt::Key_R), "Rules of a Game|Text 1200\n\n<b>&amp;|&Rules of a Game");
+        QCOMPARE(choose(Qt::Key_S), "Strategy|<b>Text 1300</b>\n\n&amp;|4 &Strategy");
+        QCOMPARE(choose(Qt::Key_P), "The Player List|<b>Text 1100</b>\n\n&amp;|2 The &Player List");
+        QCOMPARE(choose(Qt::Key_R), "Rules of a Game|<b>Text 1200</b>\n\n&amp;|3 &Rules of a Game");
         QTest::keyClick(manual.findChild<QtLinkLabel*>(), Qt::Key_Space);
         QCOMPARE(m_links.targets, std::vector<std::string>{"mailto:skylob@example.org"});
     }
@@ -56,8 +56,9 @@ class frmManualTest : public QObject {
         for (const QLabel* label : manual.findChildren<QLabel*>())
             if (label->property("role") == "topic") shown += label->text();
         shown += "|" + manual.findChild<QTextEdit*>()->toPlainText();
-        for (const QAction* item : manual.findChild<QMenu*>()->actions())
-            if (item->isChecked()) shown += "|" + item->text();
+        const QList<QAction*> items = manual.findChild<QMenu*>()->actions();
+        for (int i = 0; i < items.size(); ++i)
+            if (items[i]->isChecked()) shown += QString{"|%1 %2"}.arg(i + 1).arg(items[i]->text());
         return shown;
     }
 
