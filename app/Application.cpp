@@ -6,6 +6,7 @@
 #include <exception>
 
 #include "app/Main.h"
+#include "app/QtLinkLabel.h"
 #include "app/frmManual.h"
 #include "app/frmNewUser.h"
 #include "app/frmTitlePage.h"
@@ -71,6 +72,7 @@ Application::Application(int& argc, char** argv, const CommandLine& commandLine)
       m_shapes{programDrawings()},
       m_playerFile{m_files, m_shared.PlayerFileName} {
     GlintButtonAccessible::install();
+    QtLinkLabel::installAccessible();
     setApplicationName(QStringLiteral("Skylob"));
     // One screen may close before the next is shown.
     setQuitOnLastWindowClosed(false);

@@ -9,6 +9,7 @@
 #include <QTextDocument>
 #include <QVariant>
 #include <QWidget>
+#include <algorithm>
 
 namespace skylob {
 
@@ -79,7 +80,9 @@ void showFitting(QLabel& label, const QString& text, std::initializer_list<int> 
 
 void centreOnDisplay(QWidget& screen) {
     const QRect display = screen.screen()->availableGeometry();
-    screen.move(display.center() - screen.rect().center());
+    const QPoint middle = display.center() - screen.rect().center();
+    // Of a screen that is larger than its display the upper left corner is seen.
+    screen.move(std::max(middle.x(), display.left()), std::max(middle.y(), display.top()));
 }
 
 void setStyleProperty(QWidget& widget, const char* name, int value) {

@@ -24,10 +24,7 @@ constexpr QPoint kSkyOfTitle{20, 32};  ///< the part of the title's sky that is 
 
 frmNewUser::frmNewUser(basSkylob& shared, const std::string& overview, SettingsStore& settings,
                        const QtShapes& shapes)
-    : m_settings{settings},
-      m_shapes{shapes},
-      m_fade{new QtScreenFade{this, shared, settings}},
-      chkDontShow{new QCheckBox{tr("Don't show this screen again"), this}} {
+    : m_settings{settings}, m_shapes{shapes}, m_fade{new QtScreenFade{this, shared, settings}} {
     setWindowTitle(QStringLiteral(" Skylob - New User Overview"));
     applyLook(*this);
     setFixedSize(600, 448);
@@ -39,6 +36,7 @@ frmNewUser::frmNewUser(basSkylob& shared, const std::string& overview, SettingsS
     auto* rule = new QFrame{this};
     rule->setObjectName(QStringLiteral("rule"));
     rule->setGeometry(24, 376, 552, 1);
+    chkDontShow = new QCheckBox{tr("Don't show this screen again"), this};
     chkDontShow->setGeometry(24, 396, 300, 28);
     auto* shortcut = new QShortcut{Qt::ALT | Qt::Key_D, this};
     connect(shortcut, &QShortcut::activated, chkDontShow, &QCheckBox::click);
