@@ -4,6 +4,7 @@
 #include <QGuiApplication>
 #include <QTimer>
 #include <QWidget>
+#include <utility>
 
 #include "battle/Battle.h"
 
@@ -24,19 +25,21 @@ void run(QTimer& timer, bool running) {
 QtEffectTimers::QtEffectTimers(QWidget* screen, Battle& battle)
     : QObject{screen},
       m_battle{battle},
-      timerMeteors{makeTimer(QStringLiteral("timerMeteors"), 333, &Battle::timerMeteors_Timer)},
-      timerLightning{
-          makeTimer(QStringLiteral("timerLightning"), 500, &Battle::timerLightning_Timer)} {
+      timerMeteors{makeTimer(QStringLiteral("timerMeteors"), 333,
+                             [this] { m_battle.timerMeteors_Timer(); })},
+      timerLightning{makeTimer(QStringLiteral("timerLightning"), 500,
+                               [this] { m_battle.timerLightning_Timer(); })} {
     screen->installEventFilter(this);
 }
 
-QTimer* QtEffectTimers::makeTimer(const QString& name, int milliseconds, void (Battle::*tick)()) {
+QTimer* QtEffectTimers::makeTimer(const QString& name, int milliseconds,
+                                  std::function<void()> tick) {
     auto* timer = new QTimer{this};
     timer->setObjectName(name);
     timer->setInterval(milliseconds);
-    connect(timer, &QTimer::timeout, this, [this, tick] {
+    connect(timer, &QTimer::timeout, this, [tick = std::move(tick)] {
         // A storm swallows the release of a button that is held, and it would stay held.
-        if (QGuiApplication::mouseButtons() == Qt::NoButton) (m_battle.*tick)();
+        if (QGuiApplication::mouseButtons() == Qt::NoButton) tick();
     });
     return timer;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <functional>
 
 class QTimer;
 
@@ -27,7 +28,7 @@ class QtEffectTimers : public QObject {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    QTimer* makeTimer(const QString& name, int milliseconds, void (Battle::*tick)());
+    QTimer* makeTimer(const QString& name, int milliseconds, std::function<void()> tick);
     void follow();
 
     Battle& m_battle;
