@@ -10,7 +10,7 @@ namespace skylob {
 
 namespace {
 
-constexpr int kFrameMilliseconds = 60;
+constexpr int kFrameMilliseconds = 66;
 
 QRect boundsOf(const TitleSpot& spot) {
     const double reach = spot.radius + spot.ringWidth / 2;

@@ -12,7 +12,7 @@ namespace skylob {
 
 class QtShapes;
 
-/// The animated picture of the title page, 640 x 280. It moves 16 times a second as long as it is
+/// The animated picture of the title page, 640 x 280. It moves 15 times a second as long as it is
 /// seen, and only what has changed is painted again.
 class QtTitleAnimation : public QWidget {
     Q_OBJECT
