@@ -11,19 +11,6 @@
 
 using namespace skylob;
 
-namespace {
-
-class RecordingLinks : public LinkOpener {
-  public:
-    bool open(const std::string& target) override {
-        targets.push_back(target);
-        return true;
-    }
-    std::vector<std::string> targets;
-};
-
-}  // namespace
-
 class frmManualTest : public QObject {
     Q_OBJECT
 
@@ -66,7 +53,7 @@ class frmManualTest : public QObject {
     basSkylob m_shared;
     StringTable m_strings;
     MemorySettings m_settings;
-    RecordingLinks m_links;
+    test::RecordingLinks m_links;
     test::QueuedBoxes m_boxes{m_log};
     const QtShapes m_shapes{programDrawings()};
 };
