@@ -77,7 +77,9 @@ SdlSoundPlayer::SdlSoundPlayer() {
     // Ctrl+C ends the program, not only its sound.
     SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
     m_silenceTimer.setInterval(kSilence);
-    QObject::connect(&m_silenceTimer, &QTimer::timeout, [this] { closeAfterSilence(); });
+    QObject::connect(&m_silenceTimer, &QTimer::timeout, [this] {
+        if (!isPlaying()) closeDevice();
+    });
 }
 
 SdlSoundPlayer::~SdlSoundPlayer() {
@@ -93,10 +95,6 @@ void SdlSoundPlayer::closeDevice() {
     Mix_Quit();
     SDL_QuitSubSystem(SDL_INIT_AUDIO);
     m_device = Device::Closed;
-}
-
-void SdlSoundPlayer::closeAfterSilence() {
-    if (!isPlaying()) closeDevice();
 }
 
 void SdlSoundPlayer::FreeChunk::operator()(Mix_Chunk* chunk) const {

@@ -37,7 +37,6 @@ class SdlSoundPlayer final : public SoundPlayer {
 
     bool openDevice();
     void closeDevice();
-    void closeAfterSilence();
     Mix_Chunk* chunk(const std::string& name);
 
     enum class Device { Closed, Open, Missing };

@@ -16,7 +16,8 @@ constexpr double kHit = 2.8;
 constexpr double kBlastOver = 3.7;
 constexpr double kTrailGone = 3.8;
 
-constexpr double kTwinklesPerSecond = 1.5;  ///< brightness changes of a star
+constexpr double kTwinklesPerSecond =
+    1.5;  ///< brightness changes of a star, a whole number in the loop
 constexpr int kStars = 110;
 constexpr int kTrailDots = 64;
 constexpr int kSparks = 14;

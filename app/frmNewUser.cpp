@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QLabel>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QShortcut>
 
@@ -56,6 +57,7 @@ void frmNewUser::showEvent(QShowEvent* event) {
 
 void frmNewUser::paintEvent(QPaintEvent* event) {
     QDialog::paintEvent(event);
+    if (!event->rect().intersects(kSky)) return;
     QPainter painter{this};
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setClipRect(kSky);

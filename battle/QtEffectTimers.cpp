@@ -44,12 +44,6 @@ QTimer* QtEffectTimers::makeTimer(const QString& name, int milliseconds,
     return timer;
 }
 
-void QtEffectTimers::showPanel(const BattlePanel& panel) {
-    m_meteors = panel.timerMeteors;
-    m_lightning = panel.timerLightning;
-    follow();
-}
-
 void QtEffectTimers::end() {
     m_hasEnded = true;
     follow();
@@ -64,9 +58,10 @@ bool QtEffectTimers::eventFilter(QObject*, QEvent* event) {
 }
 
 void QtEffectTimers::follow() {
+    const BattlePanel& panel = m_battle.controls().panel();
     const bool mayRun = m_isShown && !m_hasEnded;
-    run(*timerMeteors, mayRun && m_meteors);
-    run(*timerLightning, mayRun && m_lightning);
+    run(*timerMeteors, mayRun && panel.timerMeteors);
+    run(*timerLightning, mayRun && panel.timerLightning);
 }
 
 }  // namespace skylob

@@ -8,7 +8,6 @@ class QTimer;
 namespace skylob {
 
 class Battle;
-struct BattlePanel;
 
 /// The battle screen's timers: they run while the panel says so and the screen is shown, and tick
 /// into the battle.
@@ -19,7 +18,8 @@ class QtEffectTimers : public QObject {
     /// `screen` is to be the parent as well; `battle` must outlive both.
     QtEffectTimers(QWidget* screen, Battle& battle);
 
-    void showPanel(const BattlePanel& panel);
+    /// The panel has changed: runs and stops the timers as it says.
+    void follow();
 
     /// The screen is leaving: no tick from now on.
     void end();
@@ -29,11 +29,9 @@ class QtEffectTimers : public QObject {
 
   private:
     QTimer* makeTimer(const QString& name, int milliseconds, std::function<void()> tick);
-    void follow();
 
     Battle& m_battle;
     QTimer *timerMeteors, *timerLightning;
-    bool m_meteors = false, m_lightning = false;  ///< whether the panel says that they run
     bool m_isShown = false, m_hasEnded = false;
 };
 

@@ -244,7 +244,7 @@ void frmPlayGame::showPanel(const BattlePanel& panel) {
     showTicked(*chkWind, panel.chkWind);
     chkWind->setText(QString::fromStdString(panel.chkWindCaption));
     showCommands(panel);
-    m_timers->showPanel(panel);
+    m_timers->follow();
     // While the thread is blocked nothing else would bring the changes to the display.
     if (m_gate->isClosed()) QCoreApplication::sendPostedEvents(this, QEvent::UpdateRequest);
 }
