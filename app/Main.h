@@ -1,8 +1,8 @@
 #pragma once
 
-#include "app/FileSystem.h"
-#include "app/MessageBoxes.h"
-#include "app/basSkylob.h"
+#include "base/FileSystem.h"
+#include "base/MessageBoxes.h"
+#include "base/basSkylob.h"
 
 namespace skylob {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/basSkylob.h"
+#include "base/basSkylob.h"
 #include "battle/AmbientEffect.h"
 #include "battle/BattlePanel.h"
 #include "battle/BattlePorts.h"

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "app/PerSide.h"
+#include "base/PerSide.h"
 
 namespace skylob {
 

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "app/Clock.h"
-#include "app/MessageBoxes.h"
-#include "app/Pacer.h"
-#include "app/RandomInt.h"
-#include "app/SettingsStore.h"
-#include "app/SoundPlayer.h"
+#include "base/Clock.h"
+#include "base/MessageBoxes.h"
+#include "base/Pacer.h"
+#include "base/RandomInt.h"
+#include "base/SettingsStore.h"
+#include "base/SoundPlayer.h"
 #include "battle/BattleView.h"
 
 namespace skylob {

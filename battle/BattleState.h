@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/Clock.h"
-#include "app/PerSide.h"
+#include "base/Clock.h"
+#include "base/PerSide.h"
 #include "battle/Battlefield.h"
 
 namespace skylob {

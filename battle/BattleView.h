@@ -2,8 +2,8 @@
 
 #include <functional>
 
+#include "base/SummaryKind.h"
 #include "battle/BattlePanel.h"
-#include "players/SummaryKind.h"
 
 namespace skylob {
 

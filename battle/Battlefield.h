@@ -4,9 +4,9 @@
 #include <cstddef>
 #include <vector>
 
-#include "app/Colour.h"
-#include "app/PerSide.h"
-#include "app/RandomInt.h"
+#include "base/Colour.h"
+#include "base/PerSide.h"
+#include "base/RandomInt.h"
 #include "battle/FieldPicture.h"
 
 namespace skylob {

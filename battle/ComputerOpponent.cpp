@@ -4,7 +4,7 @@
 #include <cmath>
 #include <cstdlib>
 
-#include "app/Rounding.h"
+#include "base/Rounding.h"
 
 namespace skylob {
 

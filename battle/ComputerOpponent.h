@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/basSkylob.h"
+#include "base/basSkylob.h"
 #include "battle/BattleControls.h"
 #include "battle/BattlePorts.h"
 #include "battle/BattleState.h"

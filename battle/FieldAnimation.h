@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "app/Pacer.h"
+#include "base/Pacer.h"
 #include "battle/BattleView.h"
 #include "battle/FieldPicture.h"
 

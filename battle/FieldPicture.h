@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <vector>
 
-#include "app/Colour.h"
-#include "app/PerSide.h"
+#include "base/Colour.h"
+#include "base/PerSide.h"
 
 namespace skylob {
 

@@ -2,44 +2,13 @@
 
 #include <cstdint>
 #include <functional>
-#include <map>
 #include <queue>
-#include <string>
 
+#include "base/NullPorts.h"
+#include "base/SeededRandom.h"
 #include "battle/Battle.h"
 
 namespace skylob {
-
-/// Takes no time.
-class InstantPacer : public Pacer {
-  public:
-    void startPacing() override {}
-    void countedWait(std::int32_t) override {}
-    void Wait(float) override {}
-    void yieldToEvents() override {}
-};
-
-class SilentSounds : public SoundPlayer {
-  public:
-    void PlaySound(std::string_view) override {}
-};
-
-/// Answers Yes to every question.
-class AgreeingBoxes : public MessageBoxes {
-  public:
-    BoxAnswer show(const MessageBox& box) override;
-    std::optional<std::string> ask(const InputBox& box) override;
-};
-
-/// Settings that last as long as the object.
-class MemorySettings : public SettingsStore {
-  public:
-    std::string get(std::string_view key, std::string_view fallback) const override;
-    void save(std::string_view key, std::string_view value) override;
-
-  private:
-    std::map<std::string, std::string, std::less<>> m_values;
-};
 
 /// A screen that nobody looks at. Its queue is run by hand.
 class HeadlessView : public BattleView {
@@ -86,7 +55,7 @@ class HeadlessBattle {
   private:
     basSkylob m_shared;
     SeededRandom m_random;
-    SystemClock m_clock;
+    StoppedClock m_clock;
     InstantPacer m_pacer;
     SilentSounds m_sounds;
     AgreeingBoxes m_boxes;

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "app/basSkylob.h"
+#include "base/basSkylob.h"
 #include "battle/BattleControls.h"
 #include "battle/BattlePorts.h"
 #include "battle/BattleState.h"

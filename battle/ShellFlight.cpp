@@ -3,7 +3,7 @@
 #include <cmath>
 #include <cstdlib>
 
-#include "app/Rounding.h"
+#include "base/Rounding.h"
 
 namespace skylob {
 

@@ -7,10 +7,10 @@
 #include <random>
 #include <stdexcept>
 
-#include "app/DiskFiles.h"
-#include "app/QtLook.h"
-#include "players/QtPlayerGrid.h"
+#include "look/qt/QtLook.h"
+#include "platform/DiskFiles.h"
 #include "players/Ranking.h"
+#include "players/qt/QtPlayerGrid.h"
 
 namespace skylob {
 

@@ -1,7 +1,7 @@
 // The game up to the first paint of its title page.
 
 #include "FirstPaint.h"
-#include "app/Application.h"
+#include "app/qt/Application.h"
 
 int main(int argc, char** argv) {
     skylob::Application application{argc, argv, {}};

@@ -10,16 +10,17 @@
 
 #include "FigureTable.h"
 #include "RecordFigures.h"
-#include "app/CountedWait.h"
-#include "app/QtLook.h"
-#include "app/QtPacer.h"
-#include "app/QtShapes.h"
+#include "base/SeededRandom.h"
 #include "battle/HeadlessBattle.h"
-#include "battle/frmPlayGameLayout.h"
-#include "battle/picGameField.h"
-#include "controls/GlintButton.h"
-#include "controls/QtPropertyBagFile.h"
+#include "battle/qt/frmPlayGameLayout.h"
+#include "battle/qt/picGameField.h"
 #include "controls/TransferPicture.h"
+#include "controls/qt/GlintButton.h"
+#include "controls/qt/QtPropertyBagFile.h"
+#include "look/qt/QtLook.h"
+#include "look/qt/QtShapes.h"
+#include "platform/CountedWait.h"
+#include "platform/qt/QtPacer.h"
 
 namespace skylob {
 

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-#include "app/Colour.h"
+#include "base/Colour.h"
 
 namespace skylob {
 

@@ -1,6 +1,6 @@
 #include "controls/TransferPicture.h"
 
-#include "app/Rounding.h"
+#include "base/Rounding.h"
 
 namespace skylob {
 

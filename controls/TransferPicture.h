@@ -6,7 +6,7 @@
 #include <optional>
 #include <span>
 
-#include "app/Colour.h"
+#include "base/Colour.h"
 
 namespace skylob {
 

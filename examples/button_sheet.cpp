@@ -5,10 +5,10 @@
 #include <QApplication>
 #include <QPainter>
 
-#include "app/QtShapes.h"
-#include "controls/GlintButton.h"
-#include "controls/GlintButtonPictures.h"
-#include "controls/GlintPainter.h"
+#include "controls/qt/GlintButton.h"
+#include "controls/qt/GlintButtonPictures.h"
+#include "controls/qt/GlintPainter.h"
+#include "look/qt/QtShapes.h"
 
 namespace {
 

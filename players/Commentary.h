@@ -3,9 +3,9 @@
 #include <optional>
 #include <string>
 
-#include "app/RandomInt.h"
-#include "app/StringTable.h"
-#include "app/basSkylob.h"
+#include "base/RandomInt.h"
+#include "base/StringTable.h"
+#include "base/basSkylob.h"
 
 namespace skylob {
 

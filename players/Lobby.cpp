@@ -1,8 +1,8 @@
 #include "players/Lobby.h"
 
-#include "app/OpenLink.h"
-#include "app/Release.h"
-#include "app/Settings.h"
+#include "base/OpenLink.h"
+#include "base/Release.h"
+#include "base/Settings.h"
 
 namespace skylob {
 

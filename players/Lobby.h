@@ -6,12 +6,12 @@
 #include <string_view>
 #include <vector>
 
-#include "app/Clock.h"
-#include "app/LinkOpener.h"
-#include "app/MessageBoxes.h"
-#include "app/SettingsStore.h"
-#include "app/SoundPlayer.h"
-#include "app/basSkylob.h"
+#include "base/Clock.h"
+#include "base/LinkOpener.h"
+#include "base/MessageBoxes.h"
+#include "base/SettingsStore.h"
+#include "base/SoundPlayer.h"
+#include "base/basSkylob.h"
 #include "players/Pairing.h"
 #include "players/PlayerFile.h"
 

@@ -1,6 +1,6 @@
 #include "players/Pairing.h"
 
-#include "app/basSkylob.h"
+#include "base/basSkylob.h"
 
 namespace skylob {
 

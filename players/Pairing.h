@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "app/PerSide.h"
+#include "base/PerSide.h"
 
 namespace skylob {
 

@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "app/TrimBlanks.h"
+#include "base/TrimBlanks.h"
 
 namespace skylob {
 

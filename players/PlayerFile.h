@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "app/FileSystem.h"
+#include "base/FileSystem.h"
 #include "players/PlayerRecord.h"
 
 namespace skylob {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "app/TrimBlanks.h"
+#include "base/TrimBlanks.h"
 #include "players/Windows1252.h"
 
 namespace skylob {

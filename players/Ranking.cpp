@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-#include "app/TrimBlanks.h"
+#include "base/TrimBlanks.h"
 #include "players/SetResult.h"
 
 namespace skylob {

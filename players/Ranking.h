@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "app/basSkylob.h"
+#include "base/basSkylob.h"
 #include "players/PlayerFile.h"
 
 namespace skylob {

@@ -4,14 +4,14 @@
 #include <string>
 #include <string_view>
 
-#include "app/Clock.h"
-#include "app/MessageBoxes.h"
-#include "app/RandomInt.h"
-#include "app/SoundPlayer.h"
-#include "app/StringTable.h"
-#include "app/basSkylob.h"
+#include "base/Clock.h"
+#include "base/MessageBoxes.h"
+#include "base/RandomInt.h"
+#include "base/SoundPlayer.h"
+#include "base/StringTable.h"
+#include "base/SummaryKind.h"
+#include "base/basSkylob.h"
 #include "players/PlayerFile.h"
-#include "players/SummaryKind.h"
 
 namespace skylob {
 

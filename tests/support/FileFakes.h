@@ -7,7 +7,7 @@
 #include <set>
 #include <string>
 
-#include "app/DiskFiles.h"
+#include "platform/DiskFiles.h"
 
 namespace skylob::test {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/basSkylob.h"
+#include "base/basSkylob.h"
 #include "players/PlayerFile.h"
 #include "tests/support/FileFakes.h"
 

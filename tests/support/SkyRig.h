@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "tests/support/Fakes.h"
+#include "tests/support/BattleRig.h"
 
 namespace skylob::test {
 

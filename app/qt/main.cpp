@@ -1,0 +1,76 @@
+#include <QDir>
+#include <QStandardPaths>
+#include <QtGlobal>
+#include <cstdio>
+#include <cstdlib>
+#include <string_view>
+#include <vector>
+
+#include "app/CommandLine.h"
+#include "app/qt/Application.h"
+#include "base/Release.h"
+
+namespace {
+
+constexpr int kUnusableArguments = 2;
+
+void print(std::string_view text) {
+    std::fwrite(text.data(), 1, text.size(), stdout);
+}
+
+/// Makes the chosen folder the working directory.
+bool enterDataFolder(const skylob::CommandLine& commandLine) {
+    if (!commandLine.dataDir && !commandLine.userData) return true;
+    const QString folder =
+        commandLine.userData
+            ? QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/Skylob"
+            : QString::fromStdString(*commandLine.dataDir);
+    if (QDir{}.mkpath(folder) && QDir::setCurrent(folder)) return true;
+    std::fprintf(stderr, "skylob: cannot use the folder '%s'\n", qPrintable(folder));
+    return false;
+}
+
+bool hasDisplay() {
+    for (const char* variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        if (const char* value = std::getenv(variable); value && *value) return true;
+    std::fputs("skylob: there is no display to show the game on\n", stderr);
+    return false;
+}
+
+/// While the toolkit starts: what it has to say is worth a line only when it gives up, and then
+/// one line is enough.
+void endWhereThereIsNoDisplay(QtMsgType type, const QMessageLogContext&, const QString&) {
+    if (type != QtFatalMsg) return;
+    std::fputs("skylob: the display cannot be used\n", stderr);
+    std::_Exit(EXIT_FAILURE);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    using Request = skylob::CommandLine::Request;
+    const std::vector<std::string_view> arguments{argv + 1, argv + argc};
+    const auto commandLine = skylob::parseCommandLine(arguments);
+    switch (commandLine.request) {
+        case Request::Help:
+            print(skylob::commandLineHelp());
+            return 0;
+        case Request::Version:
+            print("Skylob ");
+            print(skylob::kVersion);
+            print("\n");
+            return 0;
+        case Request::Refused:
+            std::fprintf(stderr, "skylob: %s\n", commandLine.error.c_str());
+            return kUnusableArguments;
+        case Request::Play:
+            break;
+    }
+    if (!enterDataFolder(commandLine)) return kUnusableArguments;
+    if (!hasDisplay()) return EXIT_FAILURE;
+    int toolkitArguments = 1;  // the arguments are ours alone
+    const auto usualHandler = qInstallMessageHandler(endWhereThereIsNoDisplay);
+    skylob::Application application{toolkitArguments, argv, commandLine};
+    qInstallMessageHandler(usualHandler);
+    return application.run();
+}

@@ -1,0 +1,28 @@
+#include "battle/qt/QtMenGauge.h"
+
+#include <QPainter>
+#include <algorithm>
+
+namespace skylob {
+
+QtMenGauge::QtMenGauge(QWidget* parent) : QWidget{parent} {
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+void QtMenGauge::show(int menLeft, const QColor& colour) {
+    if (menLeft == m_menLeft && colour == m_colour) return;
+    m_menLeft = menLeft;
+    m_colour = colour;
+    update();
+}
+
+void QtMenGauge::paintEvent(QPaintEvent*) {
+    QPainter painter{this};
+    painter.fillRect(rect(), QColor{0x35425F});
+    painter.fillRect(rect().adjusted(1, 1, -1, -1), QColor{0x090D18});
+    QRect men = rect().adjusted(1, 1, -1, -1);
+    men.setWidth(men.width() * std::clamp(m_menLeft, 0, 100) / 100);
+    painter.fillRect(men, m_colour);
+}
+
+}  // namespace skylob

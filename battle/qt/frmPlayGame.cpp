@@ -1,0 +1,304 @@
+#include "battle/qt/frmPlayGame.h"
+
+#include <QCheckBox>
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QFrame>
+#include <QLabel>
+#include <QPainter>
+#include <QScreen>
+#include <QScrollBar>
+#include <QShortcut>
+#include <QSignalBlocker>
+#include <QWindow>
+#include <algorithm>
+#include <utility>
+
+#include "battle/qt/QtEffectTimers.h"
+#include "battle/qt/QtSidePanel.h"
+#include "battle/qt/frmPlayGameLayout.h"
+#include "battle/qt/picGameField.h"
+#include "controls/qt/GlintButton.h"
+#include "controls/qt/QtFormButtons.h"
+#include "look/qt/QtLook.h"
+#include "screen/qt/QtInputGate.h"
+#include "screen/qt/QtScreenFade.h"
+
+namespace skylob {
+
+namespace {
+
+void showTicked(QCheckBox& box, bool ticked) {
+    const QSignalBlocker quiet{box};
+    box.setChecked(ticked);
+}
+
+void enable(GlintButton& button, bool enabled) {
+    if (button.state().Enabled != enabled) button.design().setEnabled(enabled);
+}
+
+}  // namespace
+
+frmPlayGame::frmPlayGame(basSkylob& shared, const frmPlayGamePorts& ports)
+    : m_layout{layoutForScreenSize(shared.ScreenSize)},
+      m_showSummary{ports.showSummary},
+      m_shared{shared},
+      m_battle{shared,
+               {ports.random, ports.clock, ports.pacer, ports.sounds, ports.boxes, ports.settings,
+                *this}},
+      m_shapes{ports.shapes},
+      m_gate{new QtInputGate{this}},
+      m_fade{new QtScreenFade{this, shared, ports.settings}},
+      m_timers{new QtEffectTimers{this, m_battle}},
+      m_field{new picGameField{m_battle.picture(), m_shapes, this}} {
+    setWindowTitle(QStringLiteral(" Skylob - Battlefield"));
+    applyLook(*this);
+    setFixedSize(m_layout.screen);
+    m_field->setGeometry(m_layout.field);
+    makeSidePanels();
+    makeButtons();
+    makeOptions();
+    connectControls();
+    addShortcuts();
+    setTabOrder();
+    showPanel(m_battle.controls().panel());
+    centreOnDisplay(*this);
+    m_fade->load();
+}
+
+void frmPlayGame::makeSidePanels() {
+    for (const int side : {1, 2}) {
+        m_side[side] = new QtSidePanel{side, caption(side), m_layout.inFrame, this};
+        m_side[side]->setGeometry(m_layout.frame[side - 1]);
+    }
+}
+
+QString frmPlayGame::caption(int side) const {
+    const QString name = QString::fromStdString(m_shared.PlayerName[side]);
+    if (!m_shared.isComputer(side)) return name;
+    switch (m_shared.SkillLevel) {
+        case 4:
+            return name + QStringLiteral(" (Skill level: Good)");
+        case 5:
+            return name + QStringLiteral(" (Skill level: Fair)");
+        case 6:
+            return name + QStringLiteral(" (Skill level: Poor)");
+        default:
+            return name;
+    }
+}
+
+void frmPlayGame::makeButtons() {
+    labelRoundNumber = new QLabel{this};
+    labelRoundNumber->setGeometry(m_layout.labelRoundNumber);
+    labelRoundNumber->setAlignment(Qt::AlignCenter);
+    labelRoundNumber->setProperty("role", m_layout.oneFrameAtATime ? "round-small" : "round");
+
+    QtFormButtons buttons{QStringLiteral("frmPlayGame"), m_shapes, *this};
+    cmdShoot = buttons.make(QStringLiteral("cmdShoot"), m_layout.cmdShoot);
+    if (!m_layout.shootHasCaption) {
+        cmdShoot->design().setCaption({});
+        cmdShoot->design().setPictureNormal("shell " + std::to_string(m_layout.shootPicture));
+        cmdShoot->setToolTip(tr(" Shoot your Artillery Piece "));
+    }
+    cmdQuit = buttons.make(QStringLiteral("cmdQuit"), m_layout.cmdQuit);
+}
+
+void frmPlayGame::makeOptions() {
+    auto* strip = new QFrame{this};
+    strip->setObjectName(QStringLiteral("strip"));
+    strip->setGeometry(m_layout.strip);
+
+    QWidget* const gameSpeedParent =
+        m_layout.gameSpeedInStrip ? strip : static_cast<QWidget*>(this);
+    labelGameSpeed = new QLabel{gameSpeedParent};
+    labelGameSpeed->setGeometry(m_layout.labelGameSpeed);
+    if (!m_layout.gameSpeedInStrip) labelGameSpeed->setAlignment(Qt::AlignCenter);
+    scrollGameSpeed =
+        makeScrollBar(BattlePanel{}.scrollGameSpeed, m_layout.scrollGameSpeed, gameSpeedParent);
+    scrollGameSpeed->setAccessibleName(tr("Game speed"));
+
+    chkSound = makeBox(tr("S&ound"), m_layout.chkSound, strip);
+    chkTrajectory = makeBox(tr("&Trajectory"), m_layout.chkTrajectory, strip);
+    chkMeteors = makeBox(tr("&Meteors"), m_layout.chkMeteors, strip);
+    chkLightning = makeBox(tr("&Lightning"), m_layout.chkLightning, strip);
+    chkWind = makeBox({}, m_layout.chkWind, strip);
+}
+
+QCheckBox* frmPlayGame::makeBox(const QString& caption, const QRect& place, QWidget* strip) {
+    auto* box = new QCheckBox{caption, strip};
+    box->setGeometry(place);
+    return box;
+}
+
+void frmPlayGame::connectControls() {
+    BattleControls& controls = m_battle.controls();
+    for (const int side : {1, 2}) {
+        connect(m_side[side], &QtSidePanel::speedMoved, this,
+                [&controls](int which, int value) { controls.setSpeed(which, value); });
+        connect(m_side[side], &QtSidePanel::angleMoved, this,
+                [&controls](int which, int value) { controls.setAngle(which, value); });
+    }
+    connect(scrollGameSpeed, &QScrollBar::valueChanged, this,
+            [&controls](int value) { controls.setGameSpeed(value); });
+    const auto onToggle = [this, &controls](QCheckBox* box, void (BattleControls::*handler)(bool)) {
+        connect(box, &QCheckBox::toggled, this, [this, &controls, handler](bool ticked) {
+            // A box clicks a moment after its access key: perhaps too late.
+            if (controls.panel().commandsEnabled)
+                (controls.*handler)(ticked);
+            else
+                showPanel(controls.panel());
+        });
+    };
+    onToggle(chkSound, &BattleControls::chkSound_Click);
+    onToggle(chkTrajectory, &BattleControls::chkTrajectory_Click);
+    onToggle(chkMeteors, &BattleControls::chkMeteors_Click);
+    onToggle(chkLightning, &BattleControls::chkLightning_Click);
+    onToggle(chkWind, &BattleControls::chkWind_Click);
+    connect(cmdShoot, &GlintButton::Click, this, [this] { m_battle.cmdShoot_Click(); });
+    connect(cmdQuit, &GlintButton::Click, this, [&controls] { controls.cmdQuit_Click(); });
+    connect(m_field, &picGameField::pieceClicked, this, [this] { m_battle.FieldPiece_Click(); });
+}
+
+void frmPlayGame::addShortcuts() {
+    const auto onKey = [this](const QKeySequence& key, std::function<void()> action) {
+        auto* shortcut = new QShortcut{key, this};
+        shortcut->setAutoRepeat(false);  // a key that is held is pressed once
+        connect(shortcut, &QShortcut::activated, this, std::move(action));
+    };
+    const auto shooterSide = [this] { return m_side[m_battle.state().Shooter]; };
+    onKey(Qt::Key_Escape, [this] { m_battle.controls().cmdQuit_Click(); });
+    onKey(Qt::ALT | Qt::Key_P, [shooterSide] { shooterSide()->scrollSpeed()->setFocus(); });
+    onKey(Qt::ALT | Qt::Key_A, [shooterSide] { shooterSide()->scrollAngle()->setFocus(); });
+    onKey(Qt::ALT | Qt::Key_G, [this] { scrollGameSpeed->setFocus(); });
+    onKey(Qt::ALT | Qt::Key_W, [this] { chkWind->click(); });
+    if (!m_layout.shootHasCaption)
+        onKey(Qt::ALT | Qt::Key_S, [this] { m_battle.cmdShoot_Click(); });
+}
+
+void frmPlayGame::setTabOrder() {
+    const QList<QWidget*> order{m_side[1]->scrollSpeed(),
+                                m_side[1]->scrollAngle(),
+                                m_side[2]->scrollSpeed(),
+                                m_side[2]->scrollAngle(),
+                                cmdShoot,
+                                cmdQuit,
+                                scrollGameSpeed,
+                                chkSound,
+                                chkTrajectory,
+                                chkMeteors,
+                                chkLightning,
+                                chkWind};
+    for (qsizetype i = 1; i < order.size(); ++i) QWidget::setTabOrder(order[i - 1], order[i]);
+}
+
+void frmPlayGame::Form_Activate() {
+    m_fade->activate();
+    m_battle.Form_Activate();
+}
+
+void frmPlayGame::fitField() {
+    const bool refitted = m_field->fitPicture();
+    const int width = displayWidth();
+    const bool anotherDisplay = std::exchange(m_displayWidth, width) != width;
+    if ((refitted || anotherDisplay) && m_battle.state().RoundNumber > 0) m_battle.redrawField();
+}
+
+void frmPlayGame::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    fitField();
+    // What is not in the persistent picture, such as a shell's trail, is lost with the window.
+    m_battle.picture().refresh();
+    m_field->update();
+    connect(windowHandle(), &QWindow::screenChanged, this, &frmPlayGame::fitField,
+            Qt::UniqueConnection);
+    queue([this] { Form_Activate(); });
+}
+
+void frmPlayGame::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    if (m_fade->takesClosing()) m_battle.controls().cmdQuit_Click();
+}
+
+void frmPlayGame::paintEvent(QPaintEvent* event) {
+    QWidget::paintEvent(event);
+    QPainter{this}.fillRect(m_layout.field.adjusted(-1, -1, 1, 1), QColor{0x35425F});
+}
+
+void frmPlayGame::showField() {
+    m_field->showChanges();
+}
+
+void frmPlayGame::showPanel(const BattlePanel& panel) {
+    for (const int side : {1, 2}) {
+        m_side[side]->showPanel(panel.side[side], panel.turn == side);
+        if (m_layout.oneFrameAtATime) m_side[side]->setVisible(side == std::max(panel.turn, 1));
+    }
+    labelRoundNumber->setText(QString::fromStdString(panel.labelRoundNumber));
+    labelGameSpeed->setText(QString::fromStdString(panel.labelGameSpeed));
+    showValue(*scrollGameSpeed, panel.scrollGameSpeed);
+    showTicked(*chkSound, panel.chkSound);
+    showTicked(*chkTrajectory, panel.chkTrajectory);
+    showTicked(*chkMeteors, panel.chkMeteors);
+    showTicked(*chkLightning, panel.chkLightning);
+    showTicked(*chkWind, panel.chkWind);
+    chkWind->setText(QString::fromStdString(panel.chkWindCaption));
+    showCommands(panel);
+    m_timers->follow();
+    // While the thread is blocked nothing else would bring the changes to the display.
+    if (m_gate->isClosed()) QCoreApplication::sendPostedEvents(this, QEvent::UpdateRequest);
+}
+
+void frmPlayGame::showCommands(const BattlePanel& panel) {
+    const bool wereEnabled = cmdShoot->isEnabled();
+    if (wereEnabled && !panel.commandsEnabled) m_focusStaysOnShoot = cmdShoot->hasFocus();
+    for (GlintButton* button : {cmdShoot, cmdQuit}) enable(*button, panel.commandsEnabled);
+    for (QWidget* command : std::initializer_list<QWidget*>{
+             scrollGameSpeed, chkSound, chkTrajectory, chkMeteors, chkLightning, chkWind})
+        command->setEnabled(panel.commandsEnabled);
+    if (!wereEnabled && panel.commandsEnabled) moveFocusToTurn(panel.turn);
+}
+
+void frmPlayGame::moveFocusToTurn(int turn) {
+    if (m_focusStaysOnShoot)
+        cmdShoot->setFocus();
+    else
+        m_side[turn]->scrollSpeed()->setFocus();
+}
+
+void frmPlayGame::showCursor(BattleCursor cursor) {
+    if (cursor == BattleCursor::Hourglass)
+        setCursor(Qt::WaitCursor);
+    else
+        unsetCursor();
+}
+
+void frmPlayGame::holdInput() {
+    m_gate->close();
+}
+
+void frmPlayGame::releaseInput() {
+    m_gate->dropInputAndOpen();
+}
+
+int frmPlayGame::displayWidth() const {
+    return screen()->size().width();
+}
+
+void frmPlayGame::queue(std::function<void()> task) {
+    QMetaObject::invokeMethod(this, std::move(task), Qt::QueuedConnection);
+}
+
+void frmPlayGame::showSummary(SummaryKind kind) {
+    m_showSummary(kind);
+}
+
+void frmPlayGame::closeBattle() {
+    m_timers->end();
+    m_fade->leave([this] {
+        hide();
+        emit battleClosed();
+    });
+}
+
+}  // namespace skylob

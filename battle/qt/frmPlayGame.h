@@ -1,0 +1,100 @@
+#pragma once
+
+#include <QWidget>
+#include <functional>
+
+#include "battle/Battle.h"
+#include "battle/BattleView.h"
+#include "look/qt/QtShapes.h"
+
+class QCheckBox;
+class QLabel;
+class QScrollBar;
+
+namespace skylob {
+
+class GlintButton;
+class QtEffectTimers;
+class QtInputGate;
+class QtScreenFade;
+class QtSidePanel;
+class picGameField;
+struct frmPlayGameLayout;
+
+/// What the battle screen needs beside the shared state; all of it must outlive the screen.
+struct frmPlayGamePorts {
+    RandomSource& random;
+    const Clock& clock;
+    Pacer& pacer;
+    SoundPlayer& sounds;
+    MessageBoxes& boxes;
+    SettingsStore& settings;
+    const QtShapes& shapes;
+    /// Shows the summary of a round or set and returns when the user has closed it.
+    std::function<void(SummaryKind)> showSummary;
+};
+
+/// The battle screen: the field, and below it the two sides' controls and the options. Widgets
+/// only report what the player does to the Battle and show what it says.
+class frmPlayGame : public QWidget, private BattleView {
+    Q_OBJECT
+
+  public:
+    /// Laid out for shared.ScreenSize; the set starts when the screen is shown.
+    frmPlayGame(basSkylob& shared, const frmPlayGamePorts& ports);
+
+    const Battle& battle() const { return m_battle; }
+
+  signals:
+    /// The set is over or has been left; the screen is hidden. Receivers must not delete it
+    /// before the present event has been handled.
+    void battleClosed();
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    void showField() override;
+    void showPanel(const BattlePanel& panel) override;
+    void showCursor(BattleCursor cursor) override;
+    void holdInput() override;
+    void releaseInput() override;
+    int displayWidth() const override;
+    void queue(std::function<void()> task) override;
+    void showSummary(SummaryKind kind) override;
+    void closeBattle() override;
+
+    void makeSidePanels();
+    void makeButtons();
+    void makeOptions();
+    QCheckBox* makeBox(const QString& caption, const QRect& place, QWidget* strip);
+    void connectControls();
+    void addShortcuts();
+    void setTabOrder();
+    QString caption(int side) const;
+    void showCommands(const BattlePanel& panel);
+    void moveFocusToTurn(int turn);
+    void Form_Activate();
+    void fitField();
+
+    const frmPlayGameLayout& m_layout;
+    std::function<void(SummaryKind)> m_showSummary;
+    basSkylob& m_shared;
+    Battle m_battle;
+    const QtShapes& m_shapes;
+    QtInputGate* m_gate;
+    QtScreenFade* m_fade;
+    QtEffectTimers* m_timers;
+    picGameField* m_field;
+    PerSide<QtSidePanel*> m_side;
+    QLabel *labelRoundNumber, *labelGameSpeed;
+    QScrollBar* scrollGameSpeed;
+    GlintButton *cmdShoot, *cmdQuit;
+    QCheckBox *chkSound, *chkTrajectory, *chkMeteors, *chkLightning, *chkWind;
+    int m_displayWidth = 0;  ///< that the field was drawn for
+    bool m_focusStaysOnShoot = false;
+};
+
+}  // namespace skylob

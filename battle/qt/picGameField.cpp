@@ -1,0 +1,93 @@
+#include "battle/qt/picGameField.h"
+
+#include <QHelpEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QToolTip>
+#include <algorithm>
+#include <utility>
+
+#include "look/qt/QtShapes.h"
+
+namespace skylob {
+
+namespace {
+
+FieldPicture::PieceImage pieceImage(const QImage& drawing) {
+    FieldPicture::PieceImage image{drawing.width(), drawing.height(), {}};
+    for (int y = 0; y < drawing.height(); ++y) {
+        const auto* line = reinterpret_cast<const QRgb*>(drawing.constScanLine(y));
+        image.pixels.insert(image.pixels.end(), line, line + drawing.width());
+    }
+    return image;
+}
+
+}  // namespace
+
+picGameField::picGameField(FieldPicture& picture, const QtShapes& shapes, QWidget* parent)
+    : QWidget{parent}, m_picture{picture}, m_shapes{shapes} {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+bool picGameField::fitPicture() {
+    const qreal ratio = devicePixelRatioF();
+    const QSize pixels{qRound(width() * ratio), qRound(height() * ratio)};
+    if (pixels == QSize{m_picture.width(), m_picture.height()}) return false;
+    m_picture.resize(pixels.width(), pixels.height(), std::max(1, qRound(ratio)));
+    const auto [pieceWidth, pieceHeight] = m_picture.pieceSize();
+    for (const int side : {1, 2}) {
+        const QString name = QStringLiteral("piece%1").arg(side);
+        m_picture.setPieceImage(side, pieceImage(m_shapes.render(name, {pieceWidth, pieceHeight},
+                                                                 QtShapes::Edges::Smooth)));
+    }
+    return true;
+}
+
+void picGameField::showChanges() {
+    const PixelRect changed = m_picture.takeDirty();
+    if (!changed.isEmpty()) repaint(logical(changed).toAlignedRect());
+}
+
+void picGameField::paintEvent(QPaintEvent* event) {
+    if (m_picture.width() == 0) return;
+    QImage image{reinterpret_cast<const uchar*>(m_picture.screenPixels()), m_picture.width(),
+                 m_picture.height(), QImage::Format_RGB32};
+    const qreal ratio = devicePixelRatioF();
+    const QRectF source{event->rect().x() * ratio, event->rect().y() * ratio,
+                        event->rect().width() * ratio, event->rect().height() * ratio};
+    QPainter{this}.drawImage(QRectF{event->rect()}, image, source);
+}
+
+void picGameField::mousePressEvent(QMouseEvent* event) {
+    m_pressedPiece = event->button() == Qt::LeftButton ? pieceAt(event->position()) : 0;
+}
+
+void picGameField::mouseReleaseEvent(QMouseEvent* event) {
+    const int pressed = std::exchange(m_pressedPiece, 0);
+    if (pressed != 0 && pieceAt(event->position()) == pressed) emit pieceClicked(pressed);
+}
+
+bool picGameField::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip) return QWidget::event(event);
+    const auto* help = static_cast<QHelpEvent*>(event);
+    if (const int side = pieceAt(help->pos()); side != 0) {
+        QToolTip::showText(help->globalPos(), tr(" Click here to shoot "), this,
+                           logical(m_picture.pieceArea(side)).toAlignedRect());
+    } else {
+        QToolTip::hideText();
+    }
+    return true;
+}
+
+QRectF picGameField::logical(const PixelRect& area) const {
+    const qreal ratio = devicePixelRatioF();
+    return {area.x / ratio, area.y / ratio, area.width / ratio, area.height / ratio};
+}
+
+int picGameField::pieceAt(QPointF position) const {
+    for (const int side : {1, 2})
+        if (logical(m_picture.pieceArea(side)).contains(position)) return side;
+    return 0;
+}
+
+}  // namespace skylob

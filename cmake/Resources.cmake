@@ -1,0 +1,24 @@
+# Sounds, pictures and forms are part of the program. They hang on the executables that use them: in a
+# static library the linker would drop them.
+function(skylob_add_resources target)
+    file(GLOB sounds CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/resources/sounds/*.wav)
+    file(GLOB look CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/resources/look/*.png
+        ${PROJECT_SOURCE_DIR}/resources/look/*.qss)
+    file(GLOB pictures CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/resources/pictures/*.png
+        ${PROJECT_SOURCE_DIR}/resources/pictures/*.txt)
+    file(GLOB strings CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/resources/strings/*.txt)
+    file(GLOB manual CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/resources/strings/manual/*.txt)
+    file(GLOB forms CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/resources/forms/*.json)
+    qt_add_resources(${target} forms PREFIX /forms
+        BASE ${PROJECT_SOURCE_DIR}/resources/forms FILES ${forms})
+    qt_add_resources(${target} strings PREFIX /strings
+        BASE ${PROJECT_SOURCE_DIR}/resources/strings FILES ${strings})
+    qt_add_resources(${target} manual PREFIX /strings/manual
+        BASE ${PROJECT_SOURCE_DIR}/resources/strings/manual FILES ${manual})
+    qt_add_resources(${target} sounds PREFIX /sounds
+        BASE ${PROJECT_SOURCE_DIR}/resources/sounds FILES ${sounds})
+    qt_add_resources(${target} look PREFIX /look
+        BASE ${PROJECT_SOURCE_DIR}/resources/look FILES ${look})
+    qt_add_resources(${target} pictures PREFIX /pictures
+        BASE ${PROJECT_SOURCE_DIR}/resources/pictures FILES ${pictures})
+endfunction()

@@ -1,0 +1,65 @@
+# A room is a folder of the program: its rules at the top, what needs the toolkit in qt/. Each of the
+# two layers is a library of its own, skylob_<room> and skylob_<room>_qt, and sees of other rooms the
+# headers of those layers that it links, nothing else: a wrong include does not compile.
+#
+# For that every layer has a folder of links to its own headers, build/<preset>/rooms/<library>, which
+# stands on the include path of whoever links it.
+
+# skylob_add_layer(<library> <room folder>
+#     SOURCES <source>... HEADERS <header>... LINKS <public>... USES <private>...)
+# Sources and headers are named within the room's folder. A layer of headers only has no sources.
+function(skylob_add_layer library room)
+    cmake_parse_arguments(PARSE_ARGV 2 layer "" "" "SOURCES;HEADERS;LINKS;USES")
+    set(seen ${PROJECT_BINARY_DIR}/rooms/${library})
+    file(REMOVE_RECURSE ${seen})
+    foreach(header IN LISTS layer_HEADERS)
+        cmake_path(GET header PARENT_PATH folder)
+        file(MAKE_DIRECTORY ${seen}/${room}/${folder})
+        file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR}/${header} ${seen}/${room}/${header} SYMBOLIC)
+    endforeach()
+
+    if(layer_SOURCES)
+        add_library(${library} STATIC ${layer_SOURCES})
+        target_include_directories(${library} PUBLIC ${seen})
+        target_link_libraries(${library} PUBLIC ${layer_LINKS} PRIVATE ${layer_USES} skylob_strict)
+        # A flight is the same on every machine: no fused multiply-add where the rules round twice.
+        target_compile_options(${library} PRIVATE -ffp-contract=off)
+    else()
+        add_library(${library} INTERFACE)
+        target_include_directories(${library} INTERFACE ${seen})
+        target_link_libraries(${library} INTERFACE ${layer_LINKS})
+    endif()
+endfunction()
+
+# The rules' headers, each compiled by itself; a source of the toolkit's layers includes its own header
+# first, which shows the same.
+function(skylob_check_headers)
+    set(alone)
+    set(libraries)
+    file(GLOB_RECURSE headers LIST_DIRECTORIES OFF RELATIVE ${PROJECT_BINARY_DIR}/rooms
+        ${PROJECT_BINARY_DIR}/rooms/*.h)
+    list(FILTER headers EXCLUDE REGEX "(_qt|_test_support)/")
+    foreach(header IN LISTS headers)
+        string(REGEX MATCH "^([^/]+)/(.+)$" _ ${header})
+        set(source ${PROJECT_BINARY_DIR}/headers/${CMAKE_MATCH_2}.cpp)
+        file(CONFIGURE OUTPUT ${source} CONTENT "#include \"${CMAKE_MATCH_2}\"\n")
+        list(APPEND alone ${source})
+        list(APPEND libraries ${CMAKE_MATCH_1})
+    endforeach()
+    list(REMOVE_DUPLICATES libraries)
+    add_library(headers_alone OBJECT EXCLUDE_FROM_ALL ${alone})
+    target_link_libraries(headers_alone PRIVATE ${libraries} skylob_strict)
+endfunction()
+
+# The same for a room's qt/ folder; nothing at all in a build of the rules alone.
+function(skylob_add_qt_layer library room)
+    if(NOT SKYLOB_FRONT_END)
+        return()
+    endif()
+    skylob_add_layer(${library} ${room} ${ARGN})
+    get_target_property(kind ${library} TYPE)
+    if(NOT kind STREQUAL INTERFACE_LIBRARY)
+        set_target_properties(${library} PROPERTIES AUTOMOC ON)
+        target_compile_definitions(${library} PRIVATE QT_NO_CAST_TO_ASCII)
+    endif()
+endfunction()

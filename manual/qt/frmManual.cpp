@@ -1,0 +1,131 @@
+#include "manual/qt/frmManual.h"
+
+#include <QActionGroup>
+#include <QCloseEvent>
+#include <QLabel>
+#include <QMenu>
+#include <QShortcut>
+#include <QTextEdit>
+
+#include "base/OpenLink.h"
+#include "controls/qt/GlintButton.h"
+#include "controls/qt/QtFormButtons.h"
+#include "look/qt/QtLook.h"
+#include "manual/PrintLayout.h"
+#include "manual/qt/QtManualPrinter.h"
+#include "screen/qt/QtLinkLabel.h"
+#include "screen/qt/QtScreenFade.h"
+
+namespace skylob {
+
+namespace {
+
+struct Topic {
+    const char* caption;
+    int text;  ///< number in the string table
+};
+
+constexpr Topic kTopics[] = {{"Program &Overview", 1000},
+                             {"The &Player List", 1100},
+                             {"&Rules of a Game", 1200},
+                             {"&Strategy", 1300}};
+
+/// Without its access key.
+QString captionOf(const QAction& item) {
+    return item.text().remove(QLatin1Char{'&'});
+}
+
+}  // namespace
+
+frmManual::frmManual(basSkylob& shared, const frmManualPorts& ports)
+    : m_ports{ports},
+      m_fade{new QtScreenFade{this, shared, ports.settings}},
+      labelHelpTopic{new QLabel{this}},
+      txtManual{new QTextEdit{this}},
+      m_topics{new QMenu{this}},
+      menuHelpTopic{new QActionGroup{this}} {
+    setWindowTitle(QStringLiteral(" Skylob - Help Window"));
+    applyLook(*this);
+    setFixedSize(720, 540);
+    labelHelpTopic->setGeometry(16, 12, 688, 32);
+    labelHelpTopic->setProperty("role", "topic");
+    txtManual->setGeometry(16, 52, 688, 408);
+    txtManual->setReadOnly(true);
+    txtManual->setTabChangesFocus(true);
+    makeMenu();
+    makeButtons();
+    txtManual->setFocus();
+    menuHelpTopic_Click(0);
+    centreOnDisplay(*this);
+    m_fade->load();
+}
+
+void frmManual::makeMenu() {
+    for (const Topic& topic : kTopics) {
+        QAction* item = m_topics->addAction(tr(topic.caption));
+        item->setCheckable(true);
+        item->setData(topic.text);
+        menuHelpTopic->addAction(item);
+    }
+    connect(menuHelpTopic, &QActionGroup::triggered, this, [this](QAction* item) {
+        menuHelpTopic_Click(static_cast<int>(menuHelpTopic->actions().indexOf(item)));
+    });
+}
+
+void frmManual::makeButtons() {
+    QtFormButtons buttons{QStringLiteral("frmManual"), m_ports.shapes, *this};
+    cmdHelpTopic = buttons.make(QStringLiteral("cmdHelpTopic"), {16, 472, 176, 52});
+    connect(cmdHelpTopic, &GlintButton::Click, this, &frmManual::cmdHelpTopic_Click);
+    connect(new QShortcut{Qt::Key_F1, this}, &QShortcut::activated, this,
+            &frmManual::cmdHelpTopic_Click);
+    cmdPrintHelp = buttons.make(QStringLiteral("cmdPrintHelp"), {204, 472, 120, 52},
+                                QStringLiteral(" Be sure your printer is ready! "));
+    connect(cmdPrintHelp, &GlintButton::Click, this, &frmManual::cmdPrintHelp_Click);
+    auto* labelContact = new QtLinkLabel{tr("Questions? Write to us."), this};
+    labelContact->move(348, 488);
+    connect(labelContact, &QtLinkLabel::Click, this,
+            [this] { OpenLink(LinkKind::Mail, "", m_ports.links, m_ports.boxes); });
+    cmdReturn = buttons.make(QStringLiteral("cmdReturn"), {560, 472, 144, 52});
+    connect(cmdReturn, &GlintButton::Click, this, &frmManual::cmdReturn_Click);
+    connect(new QShortcut{Qt::Key_Escape, this}, &QShortcut::activated, this,
+            &frmManual::cmdReturn_Click);
+}
+
+void frmManual::menuHelpTopic_Click(int index) {
+    QAction& item = *menuHelpTopic->actions().at(index);
+    item.setChecked(true);  // and no other
+    labelHelpTopic->setText(captionOf(item));
+    txtManual->setAccessibleName(captionOf(item));
+    txtManual->setPlainText(QString::fromStdString(m_ports.strings.text(item.data().toInt())));
+}
+
+void frmManual::cmdHelpTopic_Click() {
+    const int height = m_topics->sizeHint().height();
+    m_topics->popup(cmdHelpTopic->mapToGlobal(QPoint{0, -height}));
+}
+
+void frmManual::cmdPrintHelp_Click() {
+    const QAction& item = *menuHelpTopic->checkedAction();
+    if (!printManual(*this, helpSectionHeader(captionOf(item).toStdString()),
+                     m_ports.strings.text(item.data().toInt())))
+        m_ports.boxes.show({"Error", "The file could not be written!", BoxIcon::Critical});
+}
+
+void frmManual::cmdReturn_Click() {
+    m_fade->leave([this] {
+        hide();
+        emit returned();
+    });
+}
+
+void frmManual::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    m_fade->activate();
+}
+
+void frmManual::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    if (!m_fade->isFading()) cmdReturn_Click();
+}
+
+}  // namespace skylob

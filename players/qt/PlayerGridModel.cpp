@@ -1,0 +1,64 @@
+#include "players/qt/PlayerGridModel.h"
+
+namespace skylob {
+
+namespace {
+
+/// The left column's texts begin at its left edge, all others are centred.
+QVariant alignment(int column) {
+    return QVariant::fromValue(column == PlayerGridModel::Name ? Qt::AlignLeft | Qt::AlignVCenter
+                                                               : Qt::AlignCenter);
+}
+
+QString unlessZero(int number) {
+    return number == 0 ? QString{} : QString::number(number);
+}
+
+QString text(const PlayerRecord& record, int column, int row) {
+    switch (column) {
+        case PlayerGridModel::Name:
+            return QString::fromStdString(nameOf(record));
+        case PlayerGridModel::Sets:
+            return QStringLiteral("%1/%2").arg(record.SetsPlayed).arg(record.SetsWon);
+        case PlayerGridModel::Average:
+            return unlessZero(record.AverageScore);
+        case PlayerGridModel::Ranking:
+            return unlessZero(record.Ranking);
+        default:
+            return QString::number(row + 1);
+    }
+}
+
+}  // namespace
+
+void PlayerGridModel::fill(std::vector<PlayerRecord> records) {
+    beginResetModel();
+    m_records = std::move(records);
+    endResetModel();
+}
+
+int PlayerGridModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(m_records.size());
+}
+
+int PlayerGridModel::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : ColumnCount;
+}
+
+QVariant PlayerGridModel::data(const QModelIndex& index, int role) const {
+    if (role == Qt::TextAlignmentRole) return alignment(index.column());
+    if (role != Qt::DisplayRole) return {};
+    return text(m_records[static_cast<std::size_t>(index.row())], index.column(), index.row());
+}
+
+QVariant PlayerGridModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (orientation != Qt::Horizontal) return {};
+    if (role == Qt::TextAlignmentRole) return alignment(section);
+    if (role != Qt::DisplayRole) return {};
+    constexpr const char* kHeaders[ColumnCount] = {"Double-Click to Select Player",
+                                                   "Sets Played/Won", "Average Score",
+                                                   "Current Ranking", "Rec#Holder"};
+    return QString::fromLatin1(kHeaders[section]);
+}
+
+}  // namespace skylob

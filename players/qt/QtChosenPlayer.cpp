@@ -1,0 +1,52 @@
+#include "players/qt/QtChosenPlayer.h"
+
+#include <QKeyEvent>
+
+#include "look/qt/QtLook.h"
+
+namespace skylob {
+
+namespace {
+
+constexpr QRect kSlot{12, 34, 260, 38};
+
+QLabel* labelInSlot(const char* role, QWidget* parent) {
+    auto* label = new QLabel{parent};
+    label->setGeometry(kSlot);
+    label->setAlignment(Qt::AlignCenter);
+    label->setTextFormat(Qt::PlainText);
+    label->setProperty("role", role);
+    return label;
+}
+
+}  // namespace
+
+QtChosenPlayer::QtChosenPlayer(int side, QWidget* parent)
+    : QtSideFrame{side, parent},
+      m_name{labelInSlot("chosen", this)},
+      m_hint{labelInSlot("slot", this)} {
+    setBadge(Badge::Filled);
+    m_hint->setText(side == 1 ? tr("Double-click a name") : tr("Double-click another name"));
+    m_name->installEventFilter(this);
+    if (side == 1) m_name->setFocusPolicy(Qt::StrongFocus);
+}
+
+void QtChosenPlayer::setName(const QString& name) {
+    m_name->setAccessibleName(tr("Player %1: %2").arg(side()).arg(name));
+    m_name->setVisible(!name.isEmpty());
+    m_hint->setVisible(name.isEmpty());
+    showFitting(*m_name, name, {17, 13});
+}
+
+bool QtChosenPlayer::eventFilter(QObject*, QEvent* event) {
+    const auto isEnter = [event] {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        return key == Qt::Key_Return || key == Qt::Key_Enter;
+    };
+    const bool doubleClick = event->type() == QEvent::MouseButtonDblClick;
+    if (!doubleClick && !(event->type() == QEvent::KeyPress && isEnter())) return false;
+    emit nameDoubleClicked();
+    return true;
+}
+
+}  // namespace skylob

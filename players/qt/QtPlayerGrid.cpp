@@ -1,0 +1,107 @@
+#include "players/qt/QtPlayerGrid.h"
+
+#include <QHeaderView>
+#include <QHelpEvent>
+#include <QScrollBar>
+#include <QShortcut>
+#include <QStyledItemDelegate>
+#include <QTextDocument>
+#include <QToolTip>
+#include <algorithm>
+
+#include "players/qt/PlayerGridModel.h"
+
+namespace skylob {
+
+namespace {
+
+constexpr int kHeaderHeight = 32, kRowHeight = 30;
+constexpr int kNameWidth = 214, kSetsWidth = 128, kAverageWidth = 114;
+
+class WholeTextToolTips : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                   const QModelIndex& index) override {
+        const bool cut = sizeHint(option, index).width() > view->visualRect(index).width();
+        // Made into markup, because a name that looks like markup would be taken for it.
+        QToolTip::showText(event->globalPos(),
+                           cut ? Qt::convertFromPlainText(index.data().toString()) : QString{},
+                           view);
+        return true;
+    }
+};
+
+}  // namespace
+
+QtPlayerGrid::QtPlayerGrid(QWidget* parent)
+    : QTableView{parent}, m_model{new PlayerGridModel{this}} {
+    setModel(m_model);
+    setItemDelegate(new WholeTextToolTips{this});
+    setAccessibleName(tr("Player list"));
+    setShowGrid(false);
+    setAlternatingRowColors(true);
+    setWordWrap(false);
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(SingleSelection);
+    setEditTriggers(NoEditTriggers);
+    setTabKeyNavigation(false);
+    setCornerButtonEnabled(false);
+    setVerticalScrollMode(ScrollPerPixel);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    layOutColumns();
+    connect(this, &QTableView::doubleClicked, this,
+            [this](const QModelIndex& index) { choose(index.row()); });
+    for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
+        connect(new QShortcut{key, this, nullptr, nullptr, Qt::WidgetShortcut},
+                &QShortcut::activated, this, [this] {
+                    if (const auto player = highlighted()) emit chosen(*player);
+                });
+    }
+}
+
+void QtPlayerGrid::layOutColumns() {
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultSectionSize(kRowHeight);
+    QHeaderView* const header = horizontalHeader();
+    header->setFixedHeight(kHeaderHeight);
+    header->setSectionsClickable(false);
+    header->setHighlightSections(false);
+    header->setSectionResizeMode(QHeaderView::Fixed);
+    setColumnHidden(PlayerGridModel::RecordNumber, true);
+    setColumnWidth(PlayerGridModel::Name, kNameWidth);
+    setColumnWidth(PlayerGridModel::Sets, kSetsWidth);
+    setColumnWidth(PlayerGridModel::Average, kAverageWidth);
+    header->setSectionResizeMode(PlayerGridModel::Ranking, QHeaderView::Stretch);
+}
+
+void QtPlayerGrid::fill(std::vector<PlayerRecord> records) {
+    m_model->fill(std::move(records));
+    highlight(0);
+}
+
+void QtPlayerGrid::highlight(int row) {
+    const int last = m_model->rowCount() - 1;
+    setCurrentIndex(m_model->index(std::min(row, last), PlayerGridModel::Name));
+}
+
+ListedPlayer QtPlayerGrid::playerIn(int row) const {
+    const auto cell = [this, row](int column) {
+        return m_model->index(row, column).data().toString();
+    };
+    return {cell(PlayerGridModel::RecordNumber).toInt(), cell(PlayerGridModel::Name).toStdString()};
+}
+
+std::optional<ListedPlayer> QtPlayerGrid::highlighted() const {
+    const QModelIndexList rows = selectionModel()->selectedRows();
+    if (rows.isEmpty()) return std::nullopt;
+    return playerIn(rows.front().row());
+}
+
+void QtPlayerGrid::choose(int row) {
+    emit chosen(playerIn(row));
+}
+
+}  // namespace skylob

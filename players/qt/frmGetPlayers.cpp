@@ -1,0 +1,239 @@
+#include "players/qt/frmGetPlayers.h"
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QCloseEvent>
+#include <QFrame>
+#include <QGroupBox>
+#include <QRadioButton>
+#include <QShortcut>
+#include <QSignalBlocker>
+#include <utility>
+
+#include "base/Settings.h"
+#include "base/qt/QtText.h"
+#include "controls/qt/GlintButton.h"
+#include "controls/qt/QtFormButtons.h"
+#include "look/qt/QtLook.h"
+#include "players/qt/QtChosenPlayer.h"
+#include "players/qt/QtPlayerGrid.h"
+#include "screen/Fade.h"
+#include "screen/qt/QtScreenFade.h"
+#include "screen/qt/modFadeInOut.h"
+
+namespace skylob {
+
+namespace {
+
+constexpr QSize kScreen{784, 504};
+constexpr QRect kGrid{16, 16, 580, 256};
+constexpr QRect kChosen[] = {{16, 284, 284, 84}, {312, 284, 284, 84}};
+constexpr QRect kComputerPanel{608, 284, 160, 84}, kComputerBox{16, 18, 132, 48};
+constexpr QSize kOptionFrame{184, 108}, kOption{156, 24};
+constexpr int kOptionTop = 380;
+constexpr QPoint kFirstOption{14, 30};
+
+/// Without its telling anybody.
+void check(QButtonGroup& group, int id) {
+    const QSignalBlocker quiet{group};
+    group.button(id)->setChecked(true);
+}
+
+}  // namespace
+
+frmGetPlayers::frmGetPlayers(basSkylob& shared, const frmGetPlayersPorts& ports)
+    : m_shared{shared},
+      m_ports{ports},
+      m_lobby{
+          shared,
+          {ports.file, ports.clock, ports.boxes, ports.settings, ports.sounds, ports.links, *this}},
+      m_fade{new QtScreenFade{this, shared, ports.settings}},
+      grid{new QtPlayerGrid{this}} {
+    setWindowTitle(QStringLiteral(" Skylob - Player List"));
+    applyLook(*this);
+    setFixedSize(kScreen);
+    grid->setGeometry(kGrid);
+    makeButtons();
+    for (const int side : {1, 2}) {
+        frame[side] = new QtChosenPlayer{side, this};
+        frame[side]->setGeometry(kChosen[side - 1]);
+    }
+    makeComputerBox();
+    makeOptions();
+    connectControls();
+    addShortcuts();
+    setTabOrder();
+    showPairing(m_lobby.pairing());
+    centreOnDisplay(*this);
+    m_fade->load();
+}
+
+void frmGetPlayers::makeButtons() {
+    QtFormButtons buttons{QStringLiteral("frmGetPlayers"), m_ports.shapes, *this};
+    cmdAdd = buttons.make(QStringLiteral("cmdAdd"), {608, 16, 160, 40}, toQt(Lobby::kAddToolTip));
+    cmdModify =
+        buttons.make(QStringLiteral("cmdModify"), {608, 64, 160, 40}, toQt(Lobby::kModifyToolTip));
+    cmdDelete = buttons.make(QStringLiteral("cmdDelete"), {608, 112, 160, 40},
+                             QStringLiteral(" Delete the Highlighted Player "));
+    cmdEmailFriend = buttons.make(QStringLiteral("cmdEmailFriend"), {608, 168, 160, 48},
+                                  QStringLiteral(" Email a friend about this game! "));
+    cmdHelp =
+        buttons.make(QStringLiteral("cmdHelp"), {608, 224, 160, 48}, QStringLiteral(" Help <F1> "));
+    cmdQuit = buttons.make(QStringLiteral("cmdQuit"), {608, 440, 160, 48});
+}
+
+void frmGetPlayers::makeComputerBox() {
+    auto* panel = new QFrame{this};
+    panel->setObjectName(QStringLiteral("strip"));
+    panel->setGeometry(kComputerPanel);
+    chkComputer = new QCheckBox{tr("Play the\nComputer!"), panel};
+    chkComputer->setGeometry(kComputerBox);
+}
+
+void frmGetPlayers::makeOptions() {
+    optScreenSize =
+        makeOptionGroup(tr("Playing field size"), {tr("Small"), tr("Normal"), tr("Large")}, 16);
+    optRounds =
+        makeOptionGroup(tr("Rounds per Set"),
+                        {QStringLiteral("5"), QStringLiteral("10"), QStringLiteral("20")}, 214);
+    optFormFade = makeOptionGroup(tr("Form Fade effects"), {tr("Enabled"), tr("Disabled")}, 412);
+}
+
+QButtonGroup* frmGetPlayers::makeOptionGroup(const QString& title, const QStringList& captions,
+                                             int left) {
+    auto* box = new QGroupBox{title, this};
+    box->setGeometry({{left, kOptionTop}, kOptionFrame});
+    auto* group = new QButtonGroup{box};
+    for (int i = 0; i < captions.size(); ++i) {
+        auto* button = new QRadioButton{captions[i], box};
+        button->setGeometry({kFirstOption + QPoint{0, i * kOption.height()}, kOption});
+        group->addButton(button, i + 1);
+    }
+    return group;
+}
+
+void frmGetPlayers::connectControls() {
+    connect(grid, &QtPlayerGrid::chosen, this,
+            [this](const ListedPlayer& player) { m_lobby.grid_DblClick(player); });
+    connect(frame[1], &QtChosenPlayer::nameDoubleClicked, this,
+            [this] { m_lobby.labelPlayerName_DblClick(); });
+    connect(chkComputer, &QCheckBox::toggled, this,
+            [this](bool ticked) { m_lobby.chkComputer_Click(ticked); });
+    connect(cmdAdd, &GlintButton::Click, this, [this] { m_lobby.cmdAdd_Click(); });
+    connect(cmdModify, &GlintButton::Click, this,
+            [this] { m_lobby.cmdModify_Click(grid->highlighted()); });
+    connect(cmdDelete, &GlintButton::Click, this,
+            [this] { m_lobby.cmdDelete_Click(grid->highlighted()); });
+    connect(cmdEmailFriend, &GlintButton::Click, this, [this] { m_lobby.cmdEmailFriend_Click(); });
+    connect(cmdHelp, &GlintButton::Click, this, &frmGetPlayers::helpWanted);
+    connect(cmdQuit, &GlintButton::Click, this, [this] { m_lobby.cmdQuit_Click(); });
+    connect(optScreenSize, &QButtonGroup::idClicked, this,
+            [this](int index) { m_lobby.optScreenSize_Click(index); });
+    connect(optRounds, &QButtonGroup::idClicked, this,
+            [this](int index) { m_lobby.optRounds_Click(index); });
+    connect(optFormFade, &QButtonGroup::idClicked, this,
+            [this](int index) { m_lobby.optFormFade_Click(index); });
+}
+
+void frmGetPlayers::addShortcuts() {
+    const auto onKey = [](QWidget* where, const QKeySequence& key, std::function<void()> action,
+                          Qt::ShortcutContext context = Qt::WindowShortcut) {
+        auto* shortcut = new QShortcut{key, where, nullptr, nullptr, context};
+        shortcut->setAutoRepeat(false);
+        connect(shortcut, &QShortcut::activated, where, std::move(action));
+    };
+    onKey(this, Qt::Key_Escape, [this] { m_lobby.cmdQuit_Click(); });
+    onKey(this, Qt::Key_F1, [this] { emit helpWanted(); });
+    onKey(this, Qt::ALT | Qt::Key_C, [this] { chkComputer->click(); });
+    onKey(
+        grid, Qt::Key_F2, [this] { m_lobby.cmdModify_Click(grid->highlighted()); },
+        Qt::WidgetShortcut);
+    onKey(
+        grid, Qt::Key_Delete, [this] { m_lobby.cmdDelete_Click(grid->highlighted()); },
+        Qt::WidgetShortcut);
+}
+
+void frmGetPlayers::setTabOrder() {
+    const QList<QWidget*> order{grid,
+                                cmdAdd,
+                                cmdModify,
+                                cmdDelete,
+                                cmdEmailFriend,
+                                cmdHelp,
+                                frame[1]->labelPlayerName(),
+                                chkComputer,
+                                optScreenSize->button(1),
+                                optScreenSize->button(2),
+                                optScreenSize->button(3),
+                                optRounds->button(1),
+                                optRounds->button(2),
+                                optRounds->button(3),
+                                optFormFade->button(1),
+                                optFormFade->button(2),
+                                cmdQuit};
+    for (qsizetype i = 1; i < order.size(); ++i) QWidget::setTabOrder(order[i - 1], order[i]);
+    grid->setFocus();
+}
+
+void frmGetPlayers::Form_Activate() {
+    m_fade->activate();
+    m_lobby.Form_Activate();
+}
+
+void frmGetPlayers::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    QMetaObject::invokeMethod(
+        this, [this] { Form_Activate(); }, Qt::QueuedConnection);
+}
+
+void frmGetPlayers::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    if (m_fade->takesClosing()) m_lobby.cmdQuit_Click();
+}
+
+void frmGetPlayers::fillGrid(std::vector<PlayerRecord> records) {
+    grid->fill(std::move(records));
+}
+
+void frmGetPlayers::highlightRow(int row) {
+    grid->highlight(row);
+}
+
+void frmGetPlayers::showPairing(const Pairing& pairing) {
+    for (const int side : {1, 2}) {
+        frame[side]->setCaption(toQt(pairing.frameCaption(side)));
+        frame[side]->setName(QString::fromStdString(pairing.labelPlayerName(side)));
+    }
+    const QSignalBlocker quiet{chkComputer};
+    chkComputer->setChecked(pairing.chkComputer());
+}
+
+void frmGetPlayers::showOptions() {
+    check(*optScreenSize, m_shared.ScreenSize);
+    check(*optRounds, settings::readRoundsChoice(m_ports.settings));
+    check(*optFormFade, m_shared.FadeStatus ? 1 : 2);
+}
+
+bool frmGetPlayers::canFade() {
+    return SetFormAlpha(*this, kOpaque, FadeDemand::Always, m_ports.settings);
+}
+
+void frmGetPlayers::chooseSkillLevel() {
+    m_ports.chooseSkillLevel();
+}
+
+void frmGetPlayers::leaveForBattle() {
+    m_fade->leave([this] {
+        hide();
+        emit battleChosen();
+    });
+}
+
+void frmGetPlayers::leaveProgram() {
+    m_fade->leave([this] {
+        hide();
+        emit programLeft();
+    });
+}
+
+}  // namespace skylob

@@ -1,0 +1,147 @@
+#include "players/qt/frmSummary.h"
+
+#include <QFrame>
+#include <QLabel>
+#include <QPainter>
+#include <QTimer>
+
+#include "controls/qt/GlintButton.h"
+#include "controls/qt/QtFormButtons.h"
+#include "look/qt/QtLook.h"
+#include "look/qt/QtShapes.h"
+#include "screen/qt/QtScreenFade.h"
+#include "screen/qt/QtSideFrame.h"
+
+namespace skylob {
+
+namespace {
+
+constexpr int kMinute = 60'000;
+constexpr QRect kFrames[] = {{16, 88, 276, 140}, {308, 88, 276, 140}};
+constexpr QRect kFace{16, 256, 54, 54}, kBubble{88, 244, 496, 112};
+constexpr QPoint kBubbleTip{76, 283};
+constexpr int kBubbleTipHalf = 8;
+
+QLabel* makeLabel(const QRect& place, const char* role, QWidget* parent) {
+    auto* label = new QLabel{parent};
+    label->setGeometry(place);
+    label->setTextFormat(Qt::PlainText);
+    label->setProperty("role", role);
+    return label;
+}
+
+void addRow(QtSideFrame& frame, int top, const QString& text, int number) {
+    constexpr int kRowHeight = 28;
+    makeLabel({12, top, 190, kRowHeight}, "caption", &frame)->setText(text);
+    auto* figure = makeLabel({204, top, 60, kRowHeight}, "figure", &frame);
+    figure->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    figure->setText(QString::number(number));
+    figure->setAccessibleName(QStringLiteral("%1: %2").arg(text).arg(number));
+}
+
+void addRule(QtSideFrame& frame, int top) {
+    auto* rule = new QFrame{&frame};
+    rule->setObjectName(QStringLiteral("rule"));
+    rule->setGeometry(12, top, 252, 1);
+}
+
+}  // namespace
+
+frmSummary::frmSummary(basSkylob& shared, SummaryKind kind, const SummaryPorts& ports,
+                       const SettingsStore& settings, const QtShapes& shapes)
+    : m_shared{shared},
+      m_shapes{shapes},
+      m_summary{shared, kind, ports},
+      m_fade{new QtScreenFade{this, shared, settings}},
+      label{makeLabel({16, 16, 568, 36}, "heading", this)},
+      labelDateTime{makeLabel({16, 52, 568, 20}, "note", this)} {
+    setWindowTitle(kind == SummaryKind::Round ? QStringLiteral(" Skylob - Round Summary")
+                                              : QStringLiteral(" Skylob - Set Summary"));
+    applyLook(*this);
+    setFixedSize(600, 444);
+    for (QLabel* line : {label, labelDateTime}) line->setAlignment(Qt::AlignCenter);
+    makeBubble();
+    makeOkay();
+    auto* timerDateTime = new QTimer{this};
+    connect(timerDateTime, &QTimer::timeout, this, &frmSummary::timerDateTime_Timer);
+    timerDateTime->start(kMinute);
+    centreOnDisplay(*this);
+    m_fade->load();
+}
+
+void frmSummary::makeFrames() {
+    for (const int side : {1, 2}) {
+        auto* frame = new QtSideFrame{side, this};
+        frame->setGeometry(kFrames[side - 1]);
+        frame->setCaption(QString::fromStdString(m_shared.PlayerName[side]));
+        frame->setBadge(QtSideFrame::Badge::Filled);
+        frame->setTurn(side == m_shared.Winner);
+        addRow(*frame, 36, tr("Rounds won"), m_shared.RoundsWon[side]);
+        addRule(*frame, 66);
+        addRow(*frame, 68, tr("Enemy killed this round"), m_shared.RoundKills[side]);
+        addRule(*frame, 98);
+        addRow(*frame, 100, tr("Enemy killed this set"), m_shared.TotalKills[side]);
+        frame->show();
+    }
+}
+
+void frmSummary::makeBubble() {
+    auto* bubble = new QFrame{this};
+    bubble->setObjectName(QStringLiteral("bubble"));
+    bubble->setGeometry(kBubble);
+    makeLabel({16, 14, 464, 20}, "note", bubble)->setText(tr("The computer says:"));
+    labelComputerSays = makeLabel({16, 38, 464, 60}, "remark", bubble);
+    labelComputerSays->setWordWrap(true);
+    labelComputerSays->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+}
+
+void frmSummary::makeOkay() {
+    auto* cmdOkay = QtFormButtons{QStringLiteral("frmSummary"), m_shapes, *this}.make(
+        QStringLiteral("cmdOkay"), {228, 376, 144, 52});
+    cmdOkay->setFocus();
+    connect(cmdOkay, &GlintButton::Click, this, &frmSummary::cmdOkay_Click);
+}
+
+void frmSummary::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    if (!m_activated) Form_Activate();
+    m_activated = true;
+}
+
+void frmSummary::Form_Activate() {
+    m_fade->activate();
+    m_summary.Form_Activate();
+    makeFrames();  // now that the winner of a set is known
+    showFitting(*label, QString::fromStdString(m_summary.heading()), {20, 17});
+    labelComputerSays->setText(QString::fromStdString(m_summary.labelComputerSays()));
+    timerDateTime_Timer();
+}
+
+void frmSummary::timerDateTime_Timer() {
+    labelDateTime->setText(QString::fromStdString(m_summary.labelDateTime()));
+}
+
+void frmSummary::paintEvent(QPaintEvent* event) {
+    QDialog::paintEvent(event);
+    QPainter painter{this};
+    painter.setRenderHint(QPainter::Antialiasing);
+    m_shapes.paint(painter, QStringLiteral("face"), kFace, QtShapes::Edges::Smooth);
+    painter.setPen(QColor{0x35425F});
+    painter.setBrush(QColor{0x222D47});
+    const QPointF root{kBubble.left() + 2.0, kBubbleTip.y() + 0.0};
+    painter.drawPolygon(QPolygonF{
+        {root - QPointF{0, kBubbleTipHalf}, kBubbleTip, root + QPointF{0, kBubbleTipHalf}}});
+}
+
+void frmSummary::cmdOkay_Click() {
+    if (m_answered) return;
+    m_answered = true;
+    m_summary.cmdOkay_Click();
+    m_fade->leave([this] { accept(); });
+}
+
+void frmSummary::reject() {
+    if (!m_fade->isFading()) cmdOkay_Click();
+}
+
+}  // namespace skylob

@@ -1,0 +1,55 @@
+#include "screen/qt/QtLinkLabel.h"
+
+#include <QAccessibleWidget>
+#include <QKeyEvent>
+
+namespace skylob {
+
+namespace {
+
+class AccessibleLink : public QAccessibleWidget {
+  public:
+    explicit AccessibleLink(QtLinkLabel* label) : QAccessibleWidget{label, QAccessible::Link} {}
+
+    QStringList actionNames() const override {
+        return QStringList{pressAction()} + QAccessibleWidget::actionNames();
+    }
+    void doAction(const QString& name) override {
+        if (name == pressAction())
+            emit static_cast<QtLinkLabel*>(widget())->Click();
+        else
+            QAccessibleWidget::doAction(name);
+    }
+};
+
+QAccessibleInterface* makeAccessible(const QString&, QObject* object) {
+    auto* label = qobject_cast<QtLinkLabel*>(object);
+    return label ? new AccessibleLink{label} : nullptr;
+}
+
+}  // namespace
+
+QtLinkLabel::QtLinkLabel(const QString& text, QWidget* parent) : QLabel{text, parent} {
+    setProperty("role", "link");
+    setAccessibleName(text);
+    setCursor(Qt::PointingHandCursor);
+    setFocusPolicy(Qt::TabFocus);
+}
+
+void QtLinkLabel::installAccessible() {
+    QAccessible::installFactory(makeAccessible);
+}
+
+void QtLinkLabel::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
+        emit Click();
+}
+
+void QtLinkLabel::keyPressEvent(QKeyEvent* event) {
+    const int key = event->key();
+    if (key != Qt::Key_Space && key != Qt::Key_Return && key != Qt::Key_Enter)
+        return QLabel::keyPressEvent(event);
+    if (!event->isAutoRepeat()) emit Click();
+}
+
+}  // namespace skylob

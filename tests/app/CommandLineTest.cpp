@@ -1,0 +1,27 @@
+#include <gtest/gtest.h>
+
+#include "app/CommandLine.h"
+
+namespace skylob::test {
+
+static CommandLine parse(std::initializer_list<std::string_view> arguments) {
+    return parseCommandLine(std::span{arguments.begin(), arguments.size()});
+}
+
+TEST(CommandLine, TakesItsOptionsAndRefusesTheRest) {
+    using Request = CommandLine::Request;
+    EXPECT_EQ(parse({}).request, Request::Play);
+    EXPECT_EQ(parse({"--help"}).request, Request::Help);
+    EXPECT_EQ(parse({"--seed", "5", "--version"}).request, Request::Version);
+    EXPECT_EQ(parse({"--seed", "18446744073709551615"}).seed, 18446744073709551615u);
+    EXPECT_EQ(parse({"--data-dir", "my folder"}).dataDir, "my folder");
+    EXPECT_TRUE(parse({"--user-data"}).userData && !parse({}).userData);
+    for (const auto& refused : std::initializer_list<CommandLine>{
+             parse({"--seed"}), parse({"--seed", "-1"}), parse({"--seed", "1x"}),
+             parse({"--data-dir", ""}), parse({"--fast"}), parse({"file"}), parse({""}),
+             parse({"--user-data", "--data-dir", "x"})}) {
+        EXPECT_EQ(refused.request, Request::Refused);
+    }
+}
+
+}  // namespace skylob::test

@@ -1,0 +1,54 @@
+#include <gtest/gtest.h>
+
+#include "app/Main.h"
+#include "tests/support/Fakes.h"
+#include "tests/support/FileFakes.h"
+
+namespace skylob::test {
+
+namespace {
+
+class StartUpTest : public testing::Test {
+  protected:
+    StartUpTest() {
+        shared.PlayerFileName = folder / "Skylob.Data";
+        shared.OldDataFile = folder / "Skylob.Dat";
+    }
+
+    bool start(Copies copies = Copies::ThisOne) { return Main(shared, copies, files, boxes); }
+
+    Log log;
+    TempFolder folder;
+    FailingFiles files;
+    QueuedBoxes boxes{log};
+    basSkylob shared;
+};
+
+TEST_F(StartUpTest, TakesAnOldFileOverUnlessThereIsAPresentOne) {
+    EXPECT_TRUE(start());
+    EXPECT_EQ(folder.content(), "");
+    putBytes(shared.OldDataFile, "old");
+    files.failing = "replace Skylob.Data";
+    EXPECT_THROW(start(), FileError);
+    files.failing.clear();
+    EXPECT_TRUE(start());
+    EXPECT_EQ(folder.content(), "Skylob.Data ");
+    EXPECT_EQ(bytesOf(shared.PlayerFileName), "old");
+    putBytes(shared.OldDataFile, "stale");
+    EXPECT_TRUE(start());
+    EXPECT_EQ(bytesOf(shared.PlayerFileName), "old");
+    EXPECT_EQ(bytesOf(shared.OldDataFile), "stale");
+}
+
+TEST_F(StartUpTest, RefusesASecondCopyBeforeItTouchesAnything) {
+    putBytes(shared.OldDataFile, "old");
+    boxes.answers = {BoxAnswer::Ok};
+    EXPECT_FALSE(start(Copies::AnotherOne));
+    EXPECT_EQ(folder.content(), "Skylob.Dat ");
+    EXPECT_EQ(boxes.shown, Log{"Terminating...: Skylob is already loaded\r\n"
+                               "and running on your computer! (!)"});
+}
+
+}  // namespace
+
+}  // namespace skylob::test

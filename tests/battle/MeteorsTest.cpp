@@ -1,0 +1,161 @@
+#include "base/SeededRandom.h"
+#include "battle/Meteors.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/support/SkyRig.h"
+
+namespace skylob::test {
+
+/// The r that draws a start column.
+static double from(int column) {
+    return (column + 500.5) / 2001;
+}
+
+TEST(MeteorPath, FallsByItsSlopeUntilItHitsOrLeaves) {
+    Battlefield field;
+    field.TerrainHeight.fill(100);
+    field.TerrainHeight[2] = 400;
+    struct Row {
+        int peak;
+        std::deque<double> script;  // column, height, direction, slope, steps
+        double rest;
+        std::size_t points;
+        FieldPoint end;
+        bool hits;
+        int draws;
+    };
+    for (const Row& row : {
+             // 2 a step from 900 to 114, the first height within 15 of the ground.
+             Row{550, {from(500), 0}, 0, 392, {893, 114}, true, 397},
+             Row{950, {from(500), 0, 0, 0, .9}, 0, 417, {918, 115}, true, 422},
+             Row{550, {from(500), .999}, .9, 485, {14, 999}, false, 490},
+             Row{550, {from(500), 0, .4, .9}, 0, 485, {986, 414}, false, 490},
+             // Near the sides the direction is not drawn.
+             Row{550, {from(99), 0}, .9, 886, {986, 900}, false, 890},
+             Row{550, {from(901), 0}, .9, 886, {14, 900}, false, 890},
+             Row{550, {from(100), 0}, .9, 85, {14, 900}, false, 90},
+             Row{550, {from(900), 0, 0}, .9, 85, {986, 900}, false, 90},
+             // Those from the sides, and their neighbours, are gone at once, even below ground.
+             Row{550, {0, 0}, 0, 0, {2, 118}, false, 4},
+             Row{550, {from(1), .9999}, .9, 0, {2, 980}, false, 4},
+             Row{550, {.9999, 0}, 0, 0, {998, 118}, false, 4},
+             Row{550, {from(13), 0}, .9, 0, {14, 900}, false, 4},
+             Row{550, {from(14), 0}, .9, 971, {986, 900}, false, 975},
+         }) {
+        SCOPED_TRACE(testing::Message() << row.end.x << " " << row.points);
+        field.PeakX = row.peak;
+        ScriptedRandom random{row.script, row.rest};
+        const MeteorPath path = meteorPath(field, random);
+        EXPECT_EQ(path.points.size(), row.points);
+        EXPECT_EQ(path.end, row.end);
+        EXPECT_EQ(path.hitsGround, row.hits);
+        EXPECT_EQ(random.draws(), row.draws);
+    }
+}
+
+TEST(MeteorPath, KeepsItsBoundsTenThousandTimes) {
+    SeededRandom random{2026};
+    Battlefield field;
+    int hits = 0;
+    for (int meteor = 0; meteor < 10'000; ++meteor) {
+        if (meteor % 100 == 0) generateBattlefield(field, random, 1, 10);
+        const MeteorPath path = meteorPath(field, random);
+        ASSERT_LE(path.points.size(), 971u);
+        for (std::size_t i = 0; i < path.points.size(); ++i) {
+            const FieldPoint at = path.points[i];
+            const FieldPoint next = i + 1 < path.points.size() ? path.points[i + 1] : path.end;
+            ASSERT_TRUE(at.x >= 15 && at.x <= 985 && at.y < 1000);
+            ASSERT_GT(at.y, field.heightAt(at.x) + 15);
+            ASSERT_TRUE(std::abs(next.x - at.x) == 1 && at.y - next.y >= 0 && at.y - next.y <= 2);
+        }
+        hits += path.hitsGround;
+    }
+    EXPECT_GT(hits, 1000);
+}
+
+TEST(Meteors, ComeOnceInTwentyTicksAtThePaceOfTheGameSpeed) {
+    SkyRig rig;
+    rig.random.script({.05});
+    rig.battle.timerMeteors_Timer();
+    EXPECT_EQ(rig.yields(), 0);
+    rig.random.script({.0499});
+    rig.battle.timerMeteors_Timer();  // level at 950 from column 500 to 15, as the rig's chance is
+    EXPECT_EQ(rig.yields(), 485);
+    EXPECT_EQ(rig.pacer.counts, std::vector<std::int32_t>(485, 15'000));
+    EXPECT_EQ(meteorDelayCount(1), 1'485'000);
+    EXPECT_EQ(meteorDelayCount(2'000'000'000), 0);
+    EXPECT_EQ(meteorDelayCount(-2'000'000'000), 2'147'483'647);
+}
+
+TEST(Meteors, FlickerAndPutTheSkyBack) {
+    SkyRig rig;
+    rig.picture().resize(500, 300, 2);  // as on a display of twice the density
+    rig.battle.redrawField();
+    rig.picture().setPersistentDrawing(false);
+    rig.picture().setPoint(450, 950, kCyan);  // of a shell's trail
+    rig.picture().setPoint(449, 951, kRed);
+    rig.picture().setPersistentDrawing(true);
+    const auto before = rig.pixels();
+    const long yellowBefore = rig.yellowPixels();
+    // Chance and path, then two wide points and narrow ones from there on.
+    std::deque<double> script(5 + 486, .5);
+    script.front() = 0;
+    script.insert(script.end(), {.45, .5, .4999});
+    rig.random.script(script);
+    std::vector<long> yellow;
+    rig.view.onShowField = [&] { yellow.push_back(rig.yellowPixels() - yellowBefore); };
+    rig.atYield(50, [&] { rig.controls().setGameSpeed(90); });
+    rig.battle.timerMeteors_Timer();
+    // Dots of 6 and 4 device pixels across; the last picture is without any.
+    ASSERT_EQ(yellow.size(), 486u);
+    EXPECT_EQ(std::vector(yellow.begin(), yellow.begin() + 4), (std::vector<long>{32, 32, 12, 12}));
+    EXPECT_TRUE(rig.pixels() == before);
+    EXPECT_TRUE(rig.picture().penWidth() == 1 && rig.picture().persistentDrawing());
+    EXPECT_EQ(rig.pacer.counts.at(49), 15'000);
+    EXPECT_EQ(rig.pacer.counts.at(50), 150'000);
+}
+
+TEST(Meteors, ExplodeWhereTheyComeDownWithoutASound) {
+    SkyRig rig;
+    rig.controls().chkSound_Click(true);
+    rig.passTime();
+    // From column 600 at 900 to the left, over the mountain, 2 a step: 120 in column 210, where
+    // the ground is 105 high.
+    std::deque<double> script(5 + 390, 0.0);
+    script[1] = from(600);
+    script[3] = .5;
+    rig.random.script(script);
+    std::vector<Colour> impact;
+    rig.view.onShowField = [&] { impact.push_back(rig.picture().pixel(210, 120)); };
+    rig.battle.timerMeteors_Timer();
+    EXPECT_EQ(rig.pacer.counts, std::vector<std::int32_t>(10, 1));  // the explosion's
+    EXPECT_EQ(rig.yields(), 389);
+    EXPECT_EQ(impact.at(391), kWhite);
+    EXPECT_EQ(impact.back(), kBlack);
+    EXPECT_EQ(rig.state().MenLeft, (PerSide<int>{100, 100}));
+    EXPECT_EQ(rig.events(), Log{});
+    rig.passTime();
+    rig.random.script(script);
+    rig.atYield(9, [&] { rig.controls().chkMeteors_Click(false); });
+    rig.battle.timerMeteors_Timer();
+    EXPECT_EQ(rig.pacer.counts.size(), 9u);  // interrupted, it does not explode
+}
+
+TEST(Meteors, HoldTheLightningTimerIfItsBoxIsTicked) {
+    for (const bool lightning : {true, false}) {
+        SkyRig rig;
+        rig.controls().chkLightning_Click(lightning);
+        rig.passTime();
+        rig.random.script({0});
+        rig.view.onShowField = [&] {
+            EXPECT_FALSE(rig.panel().timerLightning);
+            EXPECT_TRUE(rig.panel().timerMeteors);
+        };
+        rig.battle.timerMeteors_Timer();
+        EXPECT_EQ(rig.panel().timerLightning, lightning);
+        EXPECT_TRUE(rig.panel().timerMeteors);
+    }
+}
+
+}  // namespace skylob::test

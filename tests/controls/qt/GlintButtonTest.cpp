@@ -1,0 +1,256 @@
+#include "controls/qt/GlintButton.h"
+
+#include <unistd.h>
+
+#include <QAccessible>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTemporaryFile>
+#include <QTest>
+
+#include "controls/qt/GlintButtonAccessible.h"
+#include "controls/qt/QtPropertyBagFile.h"
+#include "look/qt/QtShapes.h"
+
+using namespace skylob;
+
+namespace {
+
+/// A window with two buttons, the first of which writes its events down.
+struct Form {
+    Form() {
+        window.setFixedSize(300, 200);
+        window.move(100, 100);
+        for (GlintButton* button : {&first, &second}) {
+            button->design().initialiseProperties();
+            button->design().setBackColor(0x735F16);
+            button->design().setForeColor(0xFFFFFF);
+        }
+        first.setGeometry(20, 20, 100, 40);
+        first.design().setCaption("&First");
+        second.setGeometry(20, 100, 100, 40);
+        second.design().setCaption("Second");
+        note(&GlintButton::Click, "Click");
+        note(&GlintButton::MouseDown, "MouseDown");
+        note(&GlintButton::MouseUp, "MouseUp");
+        note(&GlintButton::MouseIn, "MouseIn");
+        note(&GlintButton::MouseOver, "MouseOver");
+        note(&GlintButton::MouseOut, "MouseOut");
+        note(&GlintButton::KeyPress, "KeyPress");
+        window.show();
+        window.activateWindow();
+        (void)QTest::qWaitForWindowActive(&window);
+    }
+
+    template <typename Signal>
+    void note(Signal signal, const QString& name) {
+        QObject::connect(&first, signal, &window, [this, name] { events << name; });
+    }
+    /// Moves the pointer for real, as far as the platform has one.
+    void moveTo(QWidget& widget, QPoint place, Qt::MouseButtons held = {}) {
+        QCursor::setPos(widget.mapToGlobal(place));
+        const QPoint inFirst = first.mapFromGlobal(QCursor::pos());
+        QMouseEvent move{
+            QEvent::MouseMove, QPointF{inFirst}, QPointF{QCursor::pos()}, Qt::NoButton, held, {}};
+        QApplication::sendEvent(&first, &move);
+    }
+    QString taken() { return std::exchange(events, {}).join(' '); }
+    QRgb faceColour() { return first.grab().toImage().pixel(50, 35); }
+
+    const QtShapes shapes{programDrawings()};
+    QStringList events;
+    QWidget window;
+    GlintButton first{"cmdFirst", shapes, &window}, second{"cmdSecond", shapes, &window};
+};
+
+}  // namespace
+
+class GlintButtonTest : public QObject {
+    Q_OBJECT
+
+  private slots:
+    void clicksOnceForEachPressAndRelease() {
+        Form form;
+        QTest::mouseClick(&form.first, Qt::LeftButton);
+        QCOMPARE(form.taken(), QString{"MouseDown MouseUp Click"});
+        QTest::mouseClick(&form.first, Qt::RightButton);
+        QCOMPARE(form.taken(), QString{"MouseDown MouseUp"});
+        // The second press of a double click arrives as such, and its release ends in a click.
+        QTest::mouseClick(&form.first, Qt::LeftButton);
+        QTest::mouseDClick(&form.first, Qt::LeftButton);
+        QTest::mouseRelease(&form.first, Qt::LeftButton);
+        QCOMPARE(form.taken(), QString{"MouseDown MouseUp Click MouseDown MouseUp Click"});
+        QTest::mousePress(&form.first, Qt::LeftButton);
+        form.moveTo(form.second, {50, 20}, Qt::LeftButton);
+        QCOMPARE(form.first.state().currentState, kStateUp);
+        QTest::mouseRelease(&form.first, Qt::LeftButton, {}, {50, 100});
+        QCOMPARE(form.taken(), QString{"MouseDown MouseUp"});  // dragged off
+        form.first.design().setEnabled(false);
+        QTest::mouseClick(&form.first, Qt::LeftButton);
+        form.first.press();
+        QCOMPARE(form.taken(), QString{});
+    }
+
+    void hoversUntilThePointerLeaves() {
+        Form form;
+        form.moveTo(form.second, {5, 5});
+        const QRgb up = form.faceColour();
+        form.first.design().setBackOver(0xFFFFFF);
+        form.first.hide();
+        form.first.show();  // makes the palette anew
+        QWidget cover;      // a covered part counts as outside
+        cover.setWindowFlag(Qt::FramelessWindowHint);
+        cover.setGeometry(QRect{form.first.mapToGlobal(QPoint{0, 0}), QSize{50, 40}});
+        cover.show();
+        cover.raise();
+        (void)QTest::qWaitForWindowExposed(&cover);
+        form.taken();
+        form.moveTo(form.first, {20, 20});
+        QCOMPARE(form.taken(), QString{});
+        form.moveTo(form.first, {80, 20});
+        QCOMPARE(form.taken(), QString{"MouseIn MouseOver"});
+        QVERIFY(form.faceColour() != up);
+        QTest::qWait(30);
+        QCOMPARE(form.taken(), QString{});
+        QCursor::setPos(form.second.mapToGlobal(QPoint{5, 5}));
+        QTRY_VERIFY(form.events.contains("MouseOut"));
+        QCOMPARE(form.faceColour(), up);
+    }
+
+    void takesSpaceAndAccessKeyButNotEnter() {
+        Form form;
+        form.first.setFocus();
+        QTest::keyClick(&form.first, Qt::Key_Return);
+        QCOMPARE(form.taken(), QString{"KeyPress"});
+        QTest::keyPress(&form.first, Qt::Key_Space);
+        QCOMPARE(form.first.state().currentState, kStatePressed);
+        QTest::keyRelease(&form.first, Qt::Key_Space);
+        QCOMPARE(form.taken(), QString{"KeyPress Click"});
+        form.second.setFocus();
+        QTest::keyClick(&form.window, Qt::Key_F, Qt::AltModifier);
+        QCOMPARE(form.taken(), QString{"Click"});
+        form.first.design().setCaption("Fi&rst");
+        QTest::keyClick(&form.window, Qt::Key_F, Qt::AltModifier);
+        QTest::keyClick(&form.window, Qt::Key_R, Qt::AltModifier);
+        QCOMPARE(form.taken(), QString{"Click"});
+    }
+
+    void showsItsFocusAndIsCutToItsStyle() {
+        Form form;
+        form.second.setFocus();
+        const auto dots = [&] {
+            const QImage image = form.first.grab().toImage();
+            int white = 0;
+            for (int x = 0; x < image.width(); ++x) white += image.pixel(x, 6) == 0xFFFFFFFF;
+            return white;
+        };
+        QCOMPARE(dots(), 0);
+        form.first.setFocus();
+        QCOMPARE(dots(), 45);  // every other one of the 90 along the top
+        const QRegion shape = form.first.mask();
+        QVERIFY(shape.contains(QPoint{0, 0}) && !shape.contains(QPoint{99, 0}));
+        form.first.design().setButtonType(2);
+        QVERIFY(form.first.mask().isEmpty());
+    }
+
+    void showsGlassOverWhatLiesBehind() {
+        Form form;
+        form.window.setPalette(QPalette{Qt::red});
+        form.first.design().setCaption("");
+        form.first.design().setBackColor(0);
+        form.first.design().setButtonType(11);
+        // Black with an opacity of 96 / 255 over red.
+        QVERIFY(std::abs(qRed(form.faceColour()) - 159) <= 1);
+        QCOMPARE(qGreen(form.faceColour()), 0);
+    }
+
+    void greysAndBlendsItsPicture() {
+        Form form;
+        form.first.design().setCaption("");
+        form.first.design().setPictureNormal("ok 16");  // #E8FDFF at 48, 23
+        const auto middle = [&] { return QColor{form.first.grab().toImage().pixel(48, 23)}; };
+        QCOMPARE(middle(), QColor{0xE8FDFF});
+        form.first.design().setUseGreyscale(true);
+        QCOMPARE(middle(), QColor(247, 247, 247));  // 70 + 149.27 + 28.05
+        form.first.design().setUseGreyscale(false);
+        form.first.design().setEnabled(false);
+        // The dull face is #0A2B34; two thirds of the picture over it give 158, 183, 187, and the
+        // dull face with an opacity of 120 / 255 over that 88, 117, 123.
+        const QColor blended = middle();
+        QVERIFY(std::abs(blended.red() - 88) <= 1 && std::abs(blended.green() - 117) <= 1);
+    }
+
+    void tellsScreenReaders() {
+        GlintButtonAccessible::install();
+        Form form;
+        form.first.setToolTip(" Go ");
+        form.first.design().setCaption("&Rock && Roll\nNow");
+        form.first.design().setCheckBoxBehaviour(true);
+        QAccessibleInterface* reader = QAccessible::queryAccessibleInterface(&form.first);
+        QVERIFY(reader);
+        QCOMPARE(reader->role(), QAccessible::Button);
+        QCOMPARE(reader->text(QAccessible::Name), QString{"Rock & Roll Now"});
+        QCOMPARE(reader->text(QAccessible::Description), QString{"Go"});
+        QVERIFY(reader->state().checkable && !reader->state().checked);
+        reader->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        QCOMPARE(form.taken(), QString{"Click"});
+        QVERIFY(reader->state().checked);
+        form.first.design().setEnabled(false);
+        QVERIFY(reader->state().disabled);
+    }
+
+    void keepsItsPropertiesInABag() {
+        QtPropertyBagFile file{R"({"full": {"BTYPE": 3, "TX": "&Größe\n2", "ENAB": false,
+            "FONT": {"name": "Sans", "size": 16, "bold": true, "italic": false,
+            "underline": true}, "COLTYPE": 4, "FOCUSR": false,
+            "BCOL": -2147483635, "BCOLO": 1, "FCOL": 255, "FCOLO": 2, "MCOL": 7, "MPTR": 5,
+            "MICON": "hand", "PICN": "ok 16", "PICH": "bin 16", "UMCOL": false, "SOFT": true,
+            "PICPOS": 4, "NGREY": true, "FX": 9, "CHECK": true, "VALUE": true},
+            "some": {"BCOL": -2147483635, "FCOL": 255}})",
+                               "form"};
+        const QtShapes shapes{programDrawings()};
+        const auto copied = [&](const char* from) {
+            GlintButton button{"cmdOne", shapes, nullptr};
+            button.design().readProperties(file.bag(from));
+            auto copy = file.bag("copy");
+            button.design().writeProperties(copy);
+            return QJsonDocument::fromJson(file.toJson()).object().value("copy").toObject();
+        };
+        const auto given = QJsonDocument::fromJson(file.toJson()).object();
+        QCOMPARE(copied("full"), given.value("full").toObject());
+        const QJsonObject some = copied("some");  // hovering colours follow the others
+        QCOMPARE(some.value("BCOLO").toInt(), -2147483635);
+        QCOMPARE(some.value("FCOLO").toInt(), 255);
+        QJsonObject defaults = copied("none");
+        defaults.remove("FONT");
+        QCOMPARE(QJsonDocument{defaults}.toJson(QJsonDocument::Compact),
+                 R"({"BCOL":12632256,"BCOLO":12632256,"BTYPE":2,"CHECK":false,"COLTYPE":1,)"
+                 R"("ENAB":true,"FCOL":0,"FCOLO":0,"FOCUSR":true,"FX":0,"MCOL":12632256,)"
+                 R"("MICON":"","MPTR":0,"NGREY":false,"PICH":"","PICN":"","PICPOS":0,)"
+                 R"("SOFT":false,"TX":"","UMCOL":true,"VALUE":false})");
+    }
+
+    void reportsAWrongTypeOnce() {
+        QTemporaryFile errors;
+        QVERIFY(errors.open());
+        const int saved = dup(STDERR_FILENO);
+        dup2(errors.handle(), STDERR_FILENO);
+        QtPropertyBagFile file{R"({"b": {"BTYPE": 2.5, "TX": 7, "ENAB": 1, "FONT": "x"}})", "bad"};
+        const auto bag = file.bag("b");
+        for (int times = 0; times < 2; ++times) {
+            QCOMPARE(bag.readInteger("BTYPE", 14), 14);
+            QCOMPARE(bag.readText("TX", "none"), std::string{"none"});
+            QCOMPARE(bag.readBoolean("ENAB", true), true);
+            QCOMPARE(bag.readFont("FONT", {.name = "Sans"}).name, std::string{"Sans"});
+        }
+        const QtPropertyBagFile none{"[", "none"};
+        dup2(saved, STDERR_FILENO);
+        close(saved);
+        QFile read{errors.fileName()};
+        QVERIFY(read.open(QIODevice::ReadOnly));
+        QCOMPARE(read.readAll().count('\n'), 5);
+    }
+};
+
+QTEST_MAIN(GlintButtonTest)
+#include "GlintButtonTest.moc"

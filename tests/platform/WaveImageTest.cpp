@@ -1,0 +1,31 @@
+#include <gtest/gtest.h>
+
+#include "platform/WaveImage.h"
+
+namespace skylob::test {
+
+using namespace std::literals;
+
+TEST(WaveImage, IsReadChunkByChunk) {
+    const auto read = [](std::string_view text) {
+        return readWaveImage(std::as_bytes(std::span{text.data(), text.size()}));
+    };
+    const auto header = "RIFF\x3c\0\0\0WAVE"s;
+    const auto format = "fmt \x10\0\0\0\x01\0\x01\0\x11\x2b\0\0\x11\x2b\0\0\x01\0\x08\0"s;
+    const auto odd = "note\x03\0\0\0abc\0"s;  // an unknown chunk, padded to a whole word
+    const auto data = "data\x02\0\0\0\x80\x7f"s;
+    const auto file = header + odd + format + data;
+    const auto image = read(file);
+    ASSERT_TRUE(image);
+    EXPECT_EQ(image->rate, 11025);
+    EXPECT_EQ(image->bitsPerSample, 8);
+    EXPECT_FALSE(image->factSamples);
+    ASSERT_EQ(image->data.size(), 2u);
+    EXPECT_EQ(image->data[0], std::byte{0x80});
+    for (const auto& wrong :
+         {""s, "RIFX" + header.substr(4) + format + data, header + data, header + format,
+          header + format + data.substr(0, 9), header + format + "data\xff\xff\xff\xff"})
+        EXPECT_FALSE(read(wrong)) << wrong;
+}
+
+}  // namespace skylob::test

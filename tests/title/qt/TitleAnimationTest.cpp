@@ -1,0 +1,64 @@
+#include <QPaintEvent>
+#include <QScreen>
+#include <QTest>
+
+#include "look/qt/QtShapes.h"
+#include "title/qt/QtTitleAnimation.h"
+
+using namespace skylob;
+
+namespace {
+
+/// Moves only when it is told to.
+class StillAnimation : public QtTitleAnimation {
+  public:
+    using QtTitleAnimation::QtTitleAnimation;
+    QRegion painted;
+
+  protected:
+    void timerEvent(QTimerEvent*) override {}
+    void paintEvent(QPaintEvent* event) override {
+        painted += event->region();
+        QtTitleAnimation::paintEvent(event);
+    }
+};
+
+}  // namespace
+
+class TitleAnimationTest : public QObject {
+    Q_OBJECT
+
+  private slots:
+    void runsOnlyWhileItIsSeen() {
+        QtTitleAnimation animation{m_shapes};
+        QVERIFY(!animation.isRunning());
+        animation.show();
+        QVERIFY(animation.isRunning());
+        animation.hide();
+        QVERIFY(!animation.isRunning());
+    }
+
+    void paintsAgainWhatHasChangedAndLittleElse() {
+        StillAnimation animation{m_shapes};
+        animation.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&animation));
+        for (const double seconds : {0.5, 0.6, 1.7, 1.75, 2.8, 3.0, 3.05, 3.7, 3.8, 4.5, 6.0}) {
+            animation.painted = {};
+            animation.showMoment(seconds);
+            QCoreApplication::processEvents();
+            int pixels = 0;
+            for (const QRect& rect : animation.painted) pixels += rect.width() * rect.height();
+            QVERIFY2(pixels > 0 && pixels < 640 * 280 / 10, qPrintable(QString::number(pixels)));
+            const QImage shown = animation.screen()->grabWindow(animation.winId()).toImage();
+            const QImage whole = animation.grab().toImage();
+            QCOMPARE(shown.convertToFormat(QImage::Format_RGB32),
+                     whole.convertToFormat(QImage::Format_RGB32));
+        }
+    }
+
+  private:
+    const QtShapes m_shapes{programDrawings()};
+};
+
+QTEST_MAIN(TitleAnimationTest)
+#include "TitleAnimationTest.moc"

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QBasicTimer>
+#include <QElapsedTimer>
+#include <QPixmap>
+#include <QWidget>
+#include <vector>
+
+#include "title/TitleScene.h"
+
+namespace skylob {
+
+class QtShapes;
+
+/// The animated picture of the title page, 640 x 280. It moves 15 times a second as long as it is
+/// seen, and only what has changed is painted again.
+class QtTitleAnimation : public QWidget {
+    Q_OBJECT
+
+  public:
+    /// `shapes` has the two pieces; it must outlive the widget.
+    explicit QtTitleAnimation(const QtShapes& shapes, QWidget* parent = nullptr);
+
+    bool isRunning() const { return m_timer.isActive(); }
+
+    /// Stops the picture where it is, and lets it go on.
+    void pause() { m_timer.stop(); }
+    void resume();
+
+    /// Shows the animation as it is that many seconds after its beginning.
+    void showMoment(double seconds);
+
+  protected:
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    void makeBackdrop();
+
+    const QtShapes& m_shapes;
+    TitleScene m_scene;
+    std::vector<TitleSpot> m_spots;  ///< what is shown over the backdrop
+    QPixmap m_backdrop;              ///< what never moves, in device pixels
+    QBasicTimer m_timer;
+    QElapsedTimer m_running;
+};
+
+}  // namespace skylob
