@@ -6,6 +6,7 @@ add_library(skylob_core STATIC
     app/Clock.cpp
     app/CommandLine.cpp
     app/CountedWait.cpp
+    app/DiskFile.cpp
     app/DiskFiles.cpp
     app/Fade.cpp
     app/Main.cpp
@@ -48,6 +49,7 @@ target_sources(skylob_core PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DI
     app/Colour.h
     app/CommandLine.h
     app/CountedWait.h
+    app/DiskFile.h
     app/DiskFiles.h
     app/Fade.h
     app/FileSystem.h

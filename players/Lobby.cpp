@@ -51,7 +51,7 @@ void Lobby::showPairing() {
 }
 
 void Lobby::grid_DblClick(const ListedPlayer& player) {
-    m_pairing.choose(player.name);
+    m_pairing.choose(player.name());
     StartBattle();
 }
 
@@ -92,33 +92,53 @@ std::optional<std::string> Lobby::askForName(std::string prompt, std::string_vie
 void Lobby::cmdAdd_Click() {
     const auto name = askForName("Enter a Player's Name", kAddToolTip, {});
     if (!name) return;
-    m_ports.file.addPlayer(*name);
+    if (!m_ports.file.addPlayer(*name)) {
+        m_ports.boxes.show(
+            {"Full Player List", "There are " + std::to_string(PlayerFile::kMostPlayers) +
+                                     " players in the Player List.\r\nNo more can be added."});
+        return;
+    }
     UpdateGrid();
 }
 
 void Lobby::cmdModify_Click(const std::optional<ListedPlayer>& highlighted) {
     if (!highlighted) return;
-    const auto name = askForName("Change name from " + highlighted->name + "\r\nto...",
-                                 kModifyToolTip, highlighted->name);
+    const std::string before = highlighted->name();
+    const auto name =
+        askForName("Change name from " + before + "\r\nto...", kModifyToolTip, before);
     if (!name) return;
-    m_ports.file.renamePlayer(highlighted->recordNumber, *name);
-    m_pairing.rename(highlighted->name, *name);
+    if (!m_ports.file.renamePlayer(*highlighted, *name)) return refuseOutdated(*highlighted);
+    m_pairing.rename(before, *name);
     showPairing();
-    UpdateGrid();
-    m_ports.view.highlightRow(highlighted->recordNumber - 1);
+    updateGridAt(*highlighted);
 }
 
 void Lobby::cmdDelete_Click(const std::optional<ListedPlayer>& highlighted) {
     if (!highlighted) return;
-    const MessageBox question{
-        "Confirm", "Are you sure you wish to remove " + highlighted->name + " from the list?",
-        BoxIcon::Question, BoxButtons::YesNo, BoxAnswer::No};
+    const std::string name = highlighted->name();
+    const MessageBox question{"Confirm",
+                              "Are you sure you wish to remove " + name + " from the list?",
+                              BoxIcon::Question, BoxButtons::YesNo, BoxAnswer::No};
     if (m_ports.boxes.show(question) != BoxAnswer::Yes) return;
-    m_ports.file.deletePlayer(highlighted->recordNumber);
-    m_pairing.remove(highlighted->name);
+    if (!m_ports.file.deletePlayer(*highlighted)) return refuseOutdated(*highlighted);
+    m_pairing.remove(name);
     showPairing();
+    updateGridAt(*highlighted);
+}
+
+/// Fills the grid and leaves the highlight in the row where that player was.
+void Lobby::updateGridAt(const ListedPlayer& player) {
     UpdateGrid();
-    m_ports.view.highlightRow(highlighted->recordNumber - 1);
+    m_ports.view.highlightRow(player.recordNumber - 1);
+}
+
+/// Somebody else has changed the file, and the player is not where the list shows it.
+void Lobby::refuseOutdated(const ListedPlayer& player) {
+    m_ports.boxes.show({"Changed Player List",
+                        "Somebody else has changed the Player List, and " + player.name() +
+                            "\r\nis not in its old place any more. Nothing has been done.\r\n\r\n"
+                            "Here is the list as it is now."});
+    updateGridAt(player);
 }
 
 void Lobby::optScreenSize_Click(int index) {

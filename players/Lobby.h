@@ -54,12 +54,6 @@ struct LobbyPorts {
     LobbyView& view;
 };
 
-/// A row of the list, as the screen tells it: what is in its name and record number columns.
-struct ListedPlayer {
-    int recordNumber = 0;
-    std::string name;
-};
-
 /// The player list screen's rules: who plays whom, the care of the list, the options. Errors of
 /// the player file pass through all of it as FileError.
 class Lobby {
@@ -95,6 +89,8 @@ class Lobby {
 
   private:
     void UpdateGrid();
+    void updateGridAt(const ListedPlayer& player);
+    void refuseOutdated(const ListedPlayer& player);
     void StartBattle();
     void showPairing();
     std::optional<std::string> askForName(std::string prompt, std::string_view toolTip,
