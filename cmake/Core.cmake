@@ -95,6 +95,7 @@ target_sources(skylob_core PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DI
     controls/GlintSurface.h
     controls/PropertyBag.h
     controls/TransferPicture.h
+    players/CommandGate.h
     players/Commentary.h
     players/Lobby.h
     players/Pairing.h

@@ -25,7 +25,8 @@ Lobby::Lobby(basSkylob& shared, const LobbyPorts& ports) : m_shared{shared}, m_p
 }
 
 void Lobby::Form_Activate() {
-    if (m_activated) return;
+    const CommandGate::Pass pass{m_gate};
+    if (!pass || m_activated) return;
     m_activated = true;
     m_shared.ScreenSize = settings::readScreenSize(m_ports.settings);
     m_shared.NumRounds = settings::roundsForChoice(settings::readRoundsChoice(m_ports.settings));
@@ -51,16 +52,22 @@ void Lobby::showPairing() {
 }
 
 void Lobby::grid_DblClick(const ListedPlayer& player) {
+    const CommandGate::Pass pass{m_gate};
+    if (!pass) return;
     m_pairing.choose(player.name());
     StartBattle();
 }
 
 void Lobby::labelPlayerName_DblClick() {
+    const CommandGate::Pass pass{m_gate};
+    if (!pass) return;
     m_pairing.labelPlayerName_DblClick();
     showPairing();
 }
 
 void Lobby::chkComputer_Click(bool ticked) {
+    const CommandGate::Pass pass{m_gate};
+    if (!pass) return showPairing();
     m_pairing.chkComputer_Click(ticked);
     StartBattle();
 }
@@ -71,6 +78,7 @@ void Lobby::StartBattle() {
     for (const int side : {1, 2}) m_shared.PlayerName[side] = m_pairing.labelPlayerName(side);
     if (m_pairing.chkComputer()) m_ports.view.chooseSkillLevel();
     m_ports.settings.save("ScreenSize", std::to_string(m_shared.ScreenSize));
+    m_gate.shut();
     m_ports.view.leaveForBattle();
 }
 
@@ -90,6 +98,8 @@ std::optional<std::string> Lobby::askForName(std::string prompt, std::string_vie
 }
 
 void Lobby::cmdAdd_Click() {
+    const CommandGate::Pass pass{m_gate};
+    if (!pass) return;
     const auto name = askForName("Enter a Player's Name", kAddToolTip, {});
     if (!name) return;
     if (!m_ports.file.addPlayer(*name)) {
@@ -102,7 +112,8 @@ void Lobby::cmdAdd_Click() {
 }
 
 void Lobby::cmdModify_Click(const std::optional<ListedPlayer>& highlighted) {
-    if (!highlighted) return;
+    const CommandGate::Pass pass{m_gate};
+    if (!pass || !highlighted) return;
     const std::string before = highlighted->name();
     const auto name =
         askForName("Change name from " + before + "\r\nto...", kModifyToolTip, before);
@@ -114,7 +125,8 @@ void Lobby::cmdModify_Click(const std::optional<ListedPlayer>& highlighted) {
 }
 
 void Lobby::cmdDelete_Click(const std::optional<ListedPlayer>& highlighted) {
-    if (!highlighted) return;
+    const CommandGate::Pass pass{m_gate};
+    if (!pass || !highlighted) return;
     const std::string name = highlighted->name();
     const MessageBox question{"Confirm",
                               "Are you sure you wish to remove " + name + " from the list?",
@@ -142,15 +154,21 @@ void Lobby::refuseOutdated(const ListedPlayer& player) {
 }
 
 void Lobby::optScreenSize_Click(int index) {
+    const CommandGate::Pass pass{m_gate};
+    if (!pass) return m_ports.view.showOptions();
     m_shared.ScreenSize = index;  // stored when a battle starts
 }
 
 void Lobby::optRounds_Click(int index) {
+    const CommandGate::Pass pass{m_gate};
+    if (!pass) return m_ports.view.showOptions();
     m_shared.NumRounds = settings::roundsForChoice(index);
     m_ports.settings.save("NumRounds", std::to_string(index));
 }
 
 void Lobby::optFormFade_Click(int index) {
+    const CommandGate::Pass pass{m_gate};
+    if (!pass) return m_ports.view.showOptions();
     constexpr int kEnabled = 1;
     const bool wanted = index == kEnabled;
     m_shared.FadeStatus = wanted && m_ports.view.canFade();
@@ -162,6 +180,8 @@ void Lobby::optFormFade_Click(int index) {
 }
 
 void Lobby::cmdEmailFriend_Click() {
+    const CommandGate::Pass pass{m_gate};
+    if (!pass) return;
     std::string message{kRecommendation};
     message += kWebPage;
     message += kInvitation;
@@ -169,10 +189,13 @@ void Lobby::cmdEmailFriend_Click() {
 }
 
 void Lobby::cmdQuit_Click() {
+    const CommandGate::Pass pass{m_gate};
+    if (!pass) return;
     const MessageBox question{"Confirm", "Are you sure you wish to quit?", BoxIcon::Question,
                               BoxButtons::YesNo};
     if (m_ports.boxes.show(question) != BoxAnswer::Yes) return;
     if (secondsOf(m_ports.clock.now()) < 10) m_ports.sounds.PlaySound("thatsall");
+    m_gate.shut();
     m_ports.view.leaveProgram();
 }
 

@@ -12,6 +12,7 @@
 #include "app/SettingsStore.h"
 #include "app/SoundPlayer.h"
 #include "app/basSkylob.h"
+#include "players/CommandGate.h"
 #include "players/Pairing.h"
 #include "players/PlayerFile.h"
 
@@ -56,6 +57,9 @@ struct LobbyPorts {
 
 /// The player list screen's rules: who plays whom, the care of the list, the options. Errors of
 /// the player file pass through all of it as FileError.
+///
+/// One command runs at a time: what comes in while one has a box or the choice of a skill level
+/// open, or when the screen has been told to leave, does nothing but put the view right again.
 class Lobby {
   public:
     static constexpr std::string_view kAddToolTip = " Add a New Player to the List ";
@@ -99,6 +103,7 @@ class Lobby {
     basSkylob& m_shared;
     LobbyPorts m_ports;
     Pairing m_pairing;
+    CommandGate m_gate;
     bool m_activated = false;
 };
 

@@ -153,6 +153,54 @@ TEST_F(LobbyTest, RenamesAndDeletesWhoIsHighlighted) {
     EXPECT_EQ(bytes(), record("Ann", kNew) + record("Cyd", kNew));
 }
 
+TEST_F(LobbyTest, RunsOneCommandAtATime) {
+    put(record("Ann", kNew) + record("Bob", kNew) + record("Cyd", kNew));
+    const auto everything = [this] {
+        lobby.Form_Activate();
+        lobby.grid_DblClick(row(1, "Ann"));
+        lobby.labelPlayerName_DblClick();
+        lobby.chkComputer_Click(true);
+        lobby.cmdAdd_Click();
+        lobby.cmdModify_Click(row(1, "Ann"));
+        lobby.cmdDelete_Click(row(1, "Ann"));
+        lobby.optScreenSize_Click(1);
+        lobby.optRounds_Click(1);
+        lobby.optFormFade_Click(1);
+        lobby.cmdEmailFriend_Click();
+        lobby.cmdQuit_Click();
+    };
+    const auto with = [](const std::string& pairing, Log before, const Log& after) {
+        before.insert(before.end(), {pairing, "options", "options", "options"});
+        before.insert(before.end(), after.begin(), after.end());
+        return before;
+    };
+    const std::string nobody = "|| Player 1 |";
+    boxes.onShow = view.onSkill = everything;
+    boxes.answers = {BoxAnswer::Yes};
+    lobby.cmdDelete_Click(row(1, "Ann"));
+    EXPECT_EQ(events(), with(nobody, {"box Confirm"}, {nobody, "grid Bob Cyd", "highlight 0"}));
+    boxes.entries = {"Dan"};
+    lobby.cmdAdd_Click();
+    EXPECT_EQ(events(), with(nobody, {"ask Add a New Player to the List "}, {"grid Bob Cyd Dan"}));
+    boxes.onShow = {};
+    EXPECT_THROW(lobby.cmdQuit_Click(), std::logic_error);  // an error is no end of it all
+    lobby.chkComputer_Click(true);
+    events();
+    lobby.grid_DblClick(row(2, "Cyd"));
+    const std::string pair = "Cyd|Computer| Double-click to UNselect |computer";
+    EXPECT_EQ(events(), with(pair, {pair, "skill"}, {"battle"}));
+    everything();
+    EXPECT_EQ(events(), with(pair, {}, {}));
+    EXPECT_EQ(shared.NumRounds, 10);
+    EXPECT_TRUE(links.targets.empty());
+
+    Lobby leaving{shared, ports};
+    boxes.answers = {BoxAnswer::Yes};
+    leaving.cmdQuit_Click();
+    leaving.cmdQuit_Click();
+    EXPECT_EQ(events(), (Log{"box Confirm", "sound thatsall", "leave"}));
+}
+
 TEST_F(LobbyTest, TouchesNobodyButThePlayerItHasShown) {
     const std::string ann = record("Ann", kNew), bob = record("Bob", kNew);
     const std::pair<std::string, const char*> changes[] = {
