@@ -148,8 +148,8 @@ void Lobby::updateGridAt(const ListedPlayer& player) {
 void Lobby::refuseOutdated(const ListedPlayer& player) {
     m_ports.boxes.show({"Changed Player List",
                         "Somebody else has changed the Player List, and " + player.name() +
-                            "\r\nis not in its old place any more. Nothing has been done.\r\n\r\n"
-                            "Here is the list as it is now."});
+                            "\r\nis not in the old place any more. Nothing has been done.\r\n\r\n"
+                            "You will see the list as it is now."});
     updateGridAt(player);
 }
 
