@@ -44,10 +44,9 @@ File checked(File file, const std::string& name) {
     return file;
 }
 
-/// The file of that name, unless it is a link or has a second name.
-File tryToOpenUnshared(const std::string& name, int access) {
-    File file = DiskFile::tryToOpen(name, access | O_NOFOLLOW);
-    return file && file->isPlain() && file->hasOneName() ? std::move(file) : nullptr;
+/// Whether this file, opened with O_NOFOLLOW, is nobody else's: plain, and without a second name.
+bool isUnshared(const File& file) {
+    return file && file->isPlain() && file->hasOneName();
 }
 
 /// Takes a file or a link of that name away, and nothing else.
@@ -78,8 +77,8 @@ File tryToMakeUnnamed(const std::string& name, std::string_view bytes) {
 /// The same in a file that has its name from the first: an older one of ours is not cut short, so
 /// that it keeps what it has beyond these bytes if we are interrupted.
 File makeNamed(const std::string& name, std::string_view bytes) {
-    File file = tryToOpenUnshared(name, O_RDWR);
-    if (!file) {
+    File file = DiskFile::tryToOpen(name, O_RDWR | O_NOFOLLOW);
+    if (!isUnshared(file)) {
         freeName(name);
         file = checked(DiskFile::tryToOpen(name, O_RDWR | O_CREAT | O_EXCL), name);
     }
@@ -102,9 +101,9 @@ std::unique_ptr<RandomAccessFile> DiskFiles::openForReading(const std::string& n
 }
 
 std::unique_ptr<RandomAccessFile> DiskFiles::openLeftover(const std::string& name) {
-    File file = tryToOpenUnshared(name, O_RDONLY);
-    if (!file && errno == EACCES) failAsSystemSays("Could not open ", name);
-    return file;
+    File file = DiskFile::tryToOpen(name, O_RDONLY | O_NOFOLLOW);
+    if (!file && errno != ENOENT && errno != ELOOP) failAsSystemSays("Could not open ", name);
+    return isUnshared(file) ? std::move(file) : nullptr;
 }
 
 bool DiskFiles::hasFile(const std::string& name) const {

@@ -44,7 +44,7 @@ class FileSystem {
     virtual std::unique_ptr<RandomAccessFile> open(const std::string& name) = 0;
 
     /// The same for a file of which nothing is wanted but its content: one that this user may not
-    /// write is opened as well.
+    /// write is opened as well. Write nothing to it.
     virtual std::unique_ptr<RandomAccessFile> openForReading(const std::string& name) = 0;
 
     /// Opens, for reading, what an interrupted replaceContent() may have left under its `through`.

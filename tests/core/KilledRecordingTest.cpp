@@ -194,7 +194,7 @@ struct KilledAtEveryStep : testing::TestWithParam<NewFiles>, PlayersRig {
 TEST_P(KilledAtEveryStep, LeavesAllOfTheOldListOrAllOfTheNewOne) {
     const std::string ann = record("Ann", kNew), bob = record("Bob", kNew);
     const std::string carl = record("Carl", kNew), dora = record("Dora", kNew);
-    // Dora: (1 + 28) / 1, won: 1000 - 29 + 2.075; Bob: (1 + 7) / 1, lost: 1000.92 or so
+    // Dora: (1 + 28) / 1, won: 0973.08; Bob: (1 + 7) / 1, lost: 1001.00, below those without a set
     killEverywhere(ann + bob + carl + dora,
                    record("Dora", "\1\0\1\0\x1D\0\1\0\0"s) + ann + carl +
                        record("Bob", "\1\0\0\0\x08\0\4\0\0"s),
