@@ -35,7 +35,7 @@ class RandomAccessFile {
 };
 
 /// The files of a folder, or what stands for them in a test. Every member throws FileError when it
-/// fails, and has then changed nothing.
+/// fails, and has then changed nothing, unless it says otherwise.
 class FileSystem {
   public:
     virtual ~FileSystem() = default;
@@ -43,14 +43,32 @@ class FileSystem {
     /// Opens a file, and makes an empty one where there is none.
     virtual std::unique_ptr<RandomAccessFile> open(const std::string& name) = 0;
 
+    /// The same for a file of which nothing is wanted but its content: one that this user may not
+    /// write is opened as well. Write nothing to it.
+    virtual std::unique_ptr<RandomAccessFile> openForReading(const std::string& name) = 0;
+
+    /// Opens, for reading, what an interrupted replaceContent() may have left under its `through`.
+    /// Null where there is nothing, or a link, symbolic or hard: that would be another file.
+    virtual std::unique_ptr<RandomAccessFile> openLeftover(const std::string& name) = 0;
+
     /// Whether there is a plain file of that name; never fails.
     virtual bool hasFile(const std::string& name) const = 0;
 
+    /// Takes the name away, of a file or a link. There need not be one.
     virtual void remove(const std::string& name) = 0;
 
     /// Gives a file the name of another one in the same folder, which it replaces. At every
     /// moment there is one of the two under that name.
     virtual void replace(const std::string& from, const std::string& to) = 0;
+
+    /// Gives a file other content at one stroke: at every moment, and after a loss of power, it
+    /// holds either all of the old or all of the new. The new content is put together in a file
+    /// without a name, or where there is no such thing in the file `through`, and is called
+    /// `through`, a name in the same folder, just before it is renamed. A file or link that bears
+    /// that name goes, perhaps also when the content cannot be replaced then; what a link leads to
+    /// is never touched.
+    virtual void replaceContent(const std::string& name, std::string_view bytes,
+                                const std::string& through) = 0;
 };
 
 }  // namespace skylob

@@ -16,39 +16,8 @@ namespace skylob {
 
 namespace {
 
-/// The disk's files, of which nobody waits until they are safe.
-class UnsyncedFiles : public FileSystem {
-  public:
-    std::unique_ptr<RandomAccessFile> open(const std::string& name) override {
-        return std::make_unique<File>(m_disk.open(name));
-    }
-    bool hasFile(const std::string& name) const override { return m_disk.hasFile(name); }
-    void remove(const std::string& name) override { m_disk.remove(name); }
-    void replace(const std::string& from, const std::string& to) override {
-        std::filesystem::rename(from, to);
-    }
-
-  private:
-    class File : public RandomAccessFile {
-      public:
-        explicit File(std::unique_ptr<RandomAccessFile> file) : m_file{std::move(file)} {}
-        std::int64_t length() const override { return m_file->length(); }
-        std::string read(std::int64_t offset, std::size_t count) const override {
-            return m_file->read(offset, count);
-        }
-        void write(std::int64_t offset, std::string_view bytes) override {
-            m_file->write(offset, bytes);
-        }
-        void sync() override {}
-
-      private:
-        std::unique_ptr<RandomAccessFile> m_file;
-    };
-
-    DiskFiles m_disk;
-};
-
-/// A folder with a list in it, for as long as the object lives.
+/// A folder with a list in it, for as long as the object lives. It is in memory, where nobody waits
+/// until files are safe.
 class ListFolder {
   public:
     explicit ListFolder(int players);
@@ -59,7 +28,7 @@ class ListFolder {
     std::string list() const { return m_folder + "/Skylob.Data"; }
 
   private:
-    std::string m_folder = std::filesystem::temp_directory_path() / "skylob-XXXXXX";
+    std::string m_folder = "/dev/shm/skylob-XXXXXX";
 };
 
 void writeList(const std::string& path, int players) {
@@ -86,7 +55,7 @@ ListFolder::ListFolder(int players) {
 template <int players>
 void recordSet(benchmark::State& state) {
     const ListFolder folder{players};
-    UnsyncedFiles files;
+    DiskFiles files;
     PlayerFile file{files, folder.list()};
     basSkylob shared;
     shared.PlayerName = {"Player 1", "Player 2"};

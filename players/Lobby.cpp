@@ -25,7 +25,8 @@ Lobby::Lobby(basSkylob& shared, const LobbyPorts& ports) : m_shared{shared}, m_p
 }
 
 void Lobby::Form_Activate() {
-    if (m_activated) return;
+    const CommandGate::Pass pass{m_gate};
+    if (!pass || m_activated) return;
     m_activated = true;
     m_shared.ScreenSize = settings::readScreenSize(m_ports.settings);
     m_shared.NumRounds = settings::roundsForChoice(settings::readRoundsChoice(m_ports.settings));
@@ -51,16 +52,22 @@ void Lobby::showPairing() {
 }
 
 void Lobby::grid_DblClick(const ListedPlayer& player) {
-    m_pairing.choose(player.name);
+    const CommandGate::Pass pass{m_gate};
+    if (!pass) return;
+    m_pairing.choose(player.name());
     StartBattle();
 }
 
 void Lobby::labelPlayerName_DblClick() {
+    const CommandGate::Pass pass{m_gate};
+    if (!pass) return;
     m_pairing.labelPlayerName_DblClick();
     showPairing();
 }
 
 void Lobby::chkComputer_Click(bool ticked) {
+    const CommandGate::Pass pass{m_gate};
+    if (!pass) return showPairing();
     m_pairing.chkComputer_Click(ticked);
     StartBattle();
 }
@@ -71,6 +78,7 @@ void Lobby::StartBattle() {
     for (const int side : {1, 2}) m_shared.PlayerName[side] = m_pairing.labelPlayerName(side);
     if (m_pairing.chkComputer()) m_ports.view.chooseSkillLevel();
     m_ports.settings.save("ScreenSize", std::to_string(m_shared.ScreenSize));
+    m_gate.shut();
     m_ports.view.leaveForBattle();
 }
 
@@ -90,47 +98,77 @@ std::optional<std::string> Lobby::askForName(std::string prompt, std::string_vie
 }
 
 void Lobby::cmdAdd_Click() {
+    const CommandGate::Pass pass{m_gate};
+    if (!pass) return;
     const auto name = askForName("Enter a Player's Name", kAddToolTip, {});
     if (!name) return;
-    m_ports.file.addPlayer(*name);
+    if (!m_ports.file.addPlayer(*name)) {
+        m_ports.boxes.show(
+            {"Full Player List", "There are " + std::to_string(PlayerFile::kMostPlayers) +
+                                     " players in the Player List.\r\nNo more can be added."});
+        return;
+    }
     UpdateGrid();
 }
 
 void Lobby::cmdModify_Click(const std::optional<ListedPlayer>& highlighted) {
-    if (!highlighted) return;
-    const auto name = askForName("Change name from " + highlighted->name + "\r\nto...",
-                                 kModifyToolTip, highlighted->name);
+    const CommandGate::Pass pass{m_gate};
+    if (!pass || !highlighted) return;
+    const std::string before = highlighted->name();
+    const auto name =
+        askForName("Change name from " + before + "\r\nto...", kModifyToolTip, before);
     if (!name) return;
-    m_ports.file.renamePlayer(highlighted->recordNumber, *name);
-    m_pairing.rename(highlighted->name, *name);
+    if (!m_ports.file.renamePlayer(*highlighted, *name)) return refuseOutdated(*highlighted);
+    m_pairing.rename(before, *name);
     showPairing();
-    UpdateGrid();
-    m_ports.view.highlightRow(highlighted->recordNumber - 1);
+    updateGridAt(*highlighted);
 }
 
 void Lobby::cmdDelete_Click(const std::optional<ListedPlayer>& highlighted) {
-    if (!highlighted) return;
-    const MessageBox question{
-        "Confirm", "Are you sure you wish to remove " + highlighted->name + " from the list?",
-        BoxIcon::Question, BoxButtons::YesNo, BoxAnswer::No};
+    const CommandGate::Pass pass{m_gate};
+    if (!pass || !highlighted) return;
+    const std::string name = highlighted->name();
+    const MessageBox question{"Confirm",
+                              "Are you sure you wish to remove " + name + " from the list?",
+                              BoxIcon::Question, BoxButtons::YesNo, BoxAnswer::No};
     if (m_ports.boxes.show(question) != BoxAnswer::Yes) return;
-    m_ports.file.deletePlayer(highlighted->recordNumber);
-    m_pairing.remove(highlighted->name);
+    if (!m_ports.file.deletePlayer(*highlighted)) return refuseOutdated(*highlighted);
+    m_pairing.remove(name);
     showPairing();
+    updateGridAt(*highlighted);
+}
+
+/// Fills the grid and leaves the highlight in the row where that player was.
+void Lobby::updateGridAt(const ListedPlayer& player) {
     UpdateGrid();
-    m_ports.view.highlightRow(highlighted->recordNumber - 1);
+    m_ports.view.highlightRow(player.recordNumber - 1);
+}
+
+/// Somebody else has changed the file, and the player is not where the list shows it.
+void Lobby::refuseOutdated(const ListedPlayer& player) {
+    m_ports.boxes.show({"Changed Player List",
+                        "Somebody else has changed the Player List, and " + player.name() +
+                            "\r\nis not in the old place any more. Nothing has been done.\r\n\r\n"
+                            "You will see the list as it is now."});
+    updateGridAt(player);
 }
 
 void Lobby::optScreenSize_Click(int index) {
+    const CommandGate::Pass pass{m_gate};
+    if (!pass) return m_ports.view.showOptions();
     m_shared.ScreenSize = index;  // stored when a battle starts
 }
 
 void Lobby::optRounds_Click(int index) {
+    const CommandGate::Pass pass{m_gate};
+    if (!pass) return m_ports.view.showOptions();
     m_shared.NumRounds = settings::roundsForChoice(index);
     m_ports.settings.save("NumRounds", std::to_string(index));
 }
 
 void Lobby::optFormFade_Click(int index) {
+    const CommandGate::Pass pass{m_gate};
+    if (!pass) return m_ports.view.showOptions();
     constexpr int kEnabled = 1;
     const bool wanted = index == kEnabled;
     m_shared.FadeStatus = wanted && m_ports.view.canFade();
@@ -142,6 +180,8 @@ void Lobby::optFormFade_Click(int index) {
 }
 
 void Lobby::cmdEmailFriend_Click() {
+    const CommandGate::Pass pass{m_gate};
+    if (!pass) return;
     std::string message{kRecommendation};
     message += kWebPage;
     message += kInvitation;
@@ -149,10 +189,13 @@ void Lobby::cmdEmailFriend_Click() {
 }
 
 void Lobby::cmdQuit_Click() {
+    const CommandGate::Pass pass{m_gate};
+    if (!pass) return;
     const MessageBox question{"Confirm", "Are you sure you wish to quit?", BoxIcon::Question,
                               BoxButtons::YesNo};
     if (m_ports.boxes.show(question) != BoxAnswer::Yes) return;
     if (secondsOf(m_ports.clock.now()) < 10) m_ports.sounds.PlaySound("thatsall");
+    m_gate.shut();
     m_ports.view.leaveProgram();
 }
 

@@ -12,6 +12,7 @@
 #include "base/SettingsStore.h"
 #include "base/SoundPlayer.h"
 #include "base/basSkylob.h"
+#include "players/CommandGate.h"
 #include "players/Pairing.h"
 #include "players/PlayerFile.h"
 
@@ -54,14 +55,11 @@ struct LobbyPorts {
     LobbyView& view;
 };
 
-/// A row of the list, as the screen tells it: what is in its name and record number columns.
-struct ListedPlayer {
-    int recordNumber = 0;
-    std::string name;
-};
-
 /// The player list screen's rules: who plays whom, the care of the list, the options. Errors of
 /// the player file pass through all of it as FileError.
+///
+/// One command runs at a time: what comes in while one has a box or the choice of a skill level
+/// open, or when the screen has been told to leave, does nothing but put the view right again.
 class Lobby {
   public:
     static constexpr std::string_view kAddToolTip = " Add a New Player to the List ";
@@ -95,6 +93,8 @@ class Lobby {
 
   private:
     void UpdateGrid();
+    void updateGridAt(const ListedPlayer& player);
+    void refuseOutdated(const ListedPlayer& player);
     void StartBattle();
     void showPairing();
     std::optional<std::string> askForName(std::string prompt, std::string_view toolTip,
@@ -103,6 +103,7 @@ class Lobby {
     basSkylob& m_shared;
     LobbyPorts m_ports;
     Pairing m_pairing;
+    CommandGate m_gate;
     bool m_activated = false;
 };
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <span>
 #include <string>
@@ -11,13 +13,23 @@
 
 namespace skylob {
 
+/// A row of a list that has been read, and may have been changed on the disk since.
+struct ListedPlayer {
+    int recordNumber = 0;
+    PlayerRecord record;
+
+    std::string name() const { return nameOf(record); }
+};
+
 /// The list of players on disk: records of 29 bytes, numbered from 1, nothing before or behind
 /// them. It is open only while something is done with it, also when that fails.
 ///
 /// Errors: every member throws FileError when the disk refuses, and when the list holds or would
-/// hold more than 32,767 players. The files are then as they were before the step that failed.
+/// hold more than kMostPlayers. The files are then as they were before the step that failed.
 class PlayerFile {
   public:
+    static constexpr int kMostPlayers = 32767;
+
     /// `files` must outlive the object. Lists are rewritten through "TempFile.$$$" in the same
     /// folder as `fileName`.
     PlayerFile(FileSystem& files, std::string fileName);
@@ -46,12 +58,19 @@ class PlayerFile {
         PlayerFile& m_file;
     };
 
-    /// For an open file and record numbers of 1..PlayerCount; one more may be written and is then
-    /// the new last. Damaged records read as whatever they hold, missing bytes as zero.
+    /// For record numbers of 1..PlayerCount; FileError for others. Damaged records read as whatever
+    /// they hold, missing bytes as zero.
     void readRecord(int number);
+
+    /// For an open file and record numbers of 1..PlayerCount; one more may be written and is then
+    /// the new last. FileError for others.
     void writeRecord(int number);
 
-    /// Opens the file, reads all of it, and closes it.
+    /// As writeRecord(), but nothing reaches the disk before a rewrite(), together with which it
+    /// does. Without one, or when that fails, the record is written when the file is closed.
+    void keepRecord(int number);
+
+    /// Opens the file, reads all of it, and closes it. A list that may only be read will do.
     std::vector<PlayerRecord> readAll();
 
     /// Whether a player of exactly this name, blanks at its ends aside, is in the list.
@@ -63,27 +82,36 @@ class PlayerFile {
     /// older "TempFile.$$$" is not cut short: records that it has beyond these stay in the list.
     void rewrite(std::span<const int> recordNumbers);
 
-    /// Puts a new player, without any set, at the end. `name` as for setName().
-    void addPlayer(std::string_view name);
+    /// Puts a new player, without any set, at the end. `name` as for setName(). False, and nothing
+    /// is written, when the list is full.
+    [[nodiscard]] bool addPlayer(std::string_view name);
 
-    /// Changes the name of a record and nothing else.
-    void renamePlayer(int number, std::string_view name);
+    /// Changes the name of a record and nothing else. False, and nothing is written, when the
+    /// record is no longer there or has another name than when it was listed.
+    [[nodiscard]] bool renamePlayer(const ListedPlayer& player, std::string_view name);
 
     /// Takes a record out and ranks the others by their places. Without the last one there is no
-    /// file any more.
-    void deletePlayer(int number);
+    /// file any more. False as for renamePlayer().
+    [[nodiscard]] bool deletePlayer(const ListedPlayer& player);
 
   private:
-    int measure(const RandomAccessFile& file) const;
-    std::unique_ptr<RandomAccessFile> writeTempFile(std::span<const int> recordNumbers);
+    void take(std::unique_ptr<RandomAccessFile> file);
+    int countIn(std::int64_t length, const char* holds) const;
+    int held() const;
+    void checkNumber(int number, int last) const;
+    bool stillHolds(const ListedPlayer& player);
+    std::string ranked(std::span<const int> recordNumbers);
+    void addLeftover(std::string& list);
+    void writeKept(RandomAccessFile& file);
     void abandon() noexcept;
 
     FileSystem& m_files;
     std::string PlayerFileName;
     std::string m_tempFileName;
     std::unique_ptr<RandomAccessFile> PlayerFileHandle;
-    std::string m_bytes;     ///< all that the open file holds
-    bool m_written = false;  ///< and not yet brought to the disk
+    std::string m_bytes;      ///< all that the open file holds, and the kept records
+    std::vector<int> m_kept;  ///< numbers of records that are not on the disk yet
+    bool m_written = false;   ///< and not yet brought to the disk
 };
 
 }  // namespace skylob

@@ -26,7 +26,7 @@ void countSetOf(PlayerFile& file, const basSkylob& shared) {
         for (const int side : {1, 2}) {
             if (name != trimBlanks(shared.PlayerName[side])) continue;
             countSet(file.CurrentRecord, SetScore(shared, side), side == shared.Winner);
-            file.writeRecord(number);
+            file.keepRecord(number);
         }
     }
 }

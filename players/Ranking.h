@@ -10,7 +10,9 @@ namespace skylob {
 /// Enters a finished set into the records of its two players, found by their names, and puts the
 /// whole list into its new order. Takes names, tallies and the set's Winner from `shared`. Names
 /// that are not in the list are passed over; a list of one player is left without a ranking.
-/// Throws FileError.
+///
+/// Records and order reach the disk in one step. Throws FileError; when only the new order could
+/// not be stored, the two records are in the list all the same.
 void RecordSetResults(PlayerFile& file, const basSkylob& shared);
 
 /// Counts a set with this score in a record: sets played and won, and the average.

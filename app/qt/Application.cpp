@@ -200,7 +200,8 @@ bool Application::notify(QObject* receiver, QEvent* event) {
 }
 
 void Application::fail(const char* why) {
-    m_boxes.show({"Run-time error", why, BoxIcon::Critical, BoxButtons::Ok});
+    const std::string text = std::string{why} + "\r\n\r\nSkylob ends now.";
+    m_boxes.show({"Run-time error", text, BoxIcon::Critical, BoxButtons::Ok});
     std::_Exit(1);
 }
 

@@ -48,7 +48,7 @@ int PlayerGridModel::columnCount(const QModelIndex& parent) const {
 QVariant PlayerGridModel::data(const QModelIndex& index, int role) const {
     if (role == Qt::TextAlignmentRole) return alignment(index.column());
     if (role != Qt::DisplayRole) return {};
-    return text(m_records[static_cast<std::size_t>(index.row())], index.column(), index.row());
+    return text(record(index.row()), index.column(), index.row());
 }
 
 QVariant PlayerGridModel::headerData(int section, Qt::Orientation orientation, int role) const {

@@ -20,6 +20,9 @@ class PlayerGridModel : public QAbstractTableModel {
     /// Takes the records of a file, in its order.
     void fill(std::vector<PlayerRecord> records);
 
+    /// Rows are counted from 0.
+    const PlayerRecord& record(int row) const { return m_records[static_cast<std::size_t>(row)]; }
+
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;

@@ -88,10 +88,8 @@ void QtPlayerGrid::highlight(int row) {
 }
 
 ListedPlayer QtPlayerGrid::playerIn(int row) const {
-    const auto cell = [this, row](int column) {
-        return m_model->index(row, column).data().toString();
-    };
-    return {cell(PlayerGridModel::RecordNumber).toInt(), cell(PlayerGridModel::Name).toStdString()};
+    const QModelIndex number = m_model->index(row, PlayerGridModel::RecordNumber);
+    return {number.data().toInt(), m_model->record(row)};
 }
 
 std::optional<ListedPlayer> QtPlayerGrid::highlighted() const {

@@ -23,12 +23,16 @@ struct RecordingLobbyView : LobbyView {
     }
     void showOptions() override { log.push_back("options"); }
     bool canFade() override { return fades; }
-    void chooseSkillLevel() override { log.push_back("skill"); }
+    void chooseSkillLevel() override {
+        log.push_back("skill");
+        if (onSkill) onSkill();
+    }
     void leaveForBattle() override { log.push_back("battle"); }
     void leaveProgram() override { log.push_back("leave"); }
 
     Log& log;
     bool fades = false;
+    std::function<void()> onSkill;
 };
 
 struct LobbyTest : testing::Test, PlayersRig {
@@ -42,11 +46,18 @@ struct LobbyTest : testing::Test, PlayersRig {
     RecordingSounds sounds{log};
     RecordingLinks links;
     RecordingLobbyView view{log};
-    Lobby lobby{shared, {file, clock, boxes, settings, sounds, links, view}};
+    LobbyPorts ports{file, clock, boxes, settings, sounds, links, view};
+    Lobby lobby{shared, ports};
 };
 
+static ListedPlayer row(int number, std::string_view name) {
+    ListedPlayer player{number, {}};
+    setName(player.record, name);
+    return player;
+}
+
 TEST_F(LobbyTest, PairsByDoubleClicks) {
-    const auto click = [this](const char* name) { lobby.grid_DblClick({1, name}); };
+    const auto click = [this](const char* name) { lobby.grid_DblClick(row(1, name)); };
     click("Ann");
     click("Ann");
     EXPECT_EQ(events(),
@@ -68,9 +79,10 @@ TEST_F(LobbyTest, PairsByDoubleClicks) {
     EXPECT_EQ(shared.PlayerName, (PerSide<std::string>{"Ann", "Computer"}));
     EXPECT_EQ(settings.get("ScreenSize", ""), "1");
 
-    lobby.chkComputer_Click(false);
+    Lobby next{shared, ports};
+    next.grid_DblClick(row(1, "Ann"));
     events();
-    click("ann");  // two people need no skill level
+    next.grid_DblClick(row(2, "ann"));  // two people need no skill level
     EXPECT_EQ(events(), (Log{"Ann|ann| Double-click to UNselect |", "battle"}));
     EXPECT_EQ(shared.PlayerName, (PerSide<std::string>{"Ann", "ann"}));
 }
@@ -118,11 +130,11 @@ TEST_F(LobbyTest, RenamesAndDeletesWhoIsHighlighted) {
     put(record("Ann", kNew) + record("Bob", kNew) + record("Cyd", kNew));
     lobby.cmdModify_Click(std::nullopt);
     lobby.cmdDelete_Click(std::nullopt);
-    lobby.grid_DblClick({2, "Bob"});
+    lobby.grid_DblClick(row(2, "Bob"));
     events();
     boxes.entries = {"Bob", "Bea"};
     boxes.answers = {BoxAnswer::Ok, BoxAnswer::No, BoxAnswer::Yes};
-    for (int i = 0; i < 2; ++i) lobby.cmdModify_Click(ListedPlayer{2, "Bob"});
+    for (int i = 0; i < 2; ++i) lobby.cmdModify_Click(row(2, "Bob"));
     EXPECT_EQ(boxes.asked[0],
               "Change the Highlighted Player's Name : Change name from Bob\r\nto...\r\n\r\n(The "
               "entry will be limited to 20 characters) [Bob]");
@@ -131,14 +143,98 @@ TEST_F(LobbyTest, RenamesAndDeletesWhoIsHighlighted) {
                    "ask Change the Highlighted Player's Name ", "Bea|| Double-click to UNselect |",
                    "grid Ann Bea Cyd", "highlight 1"}));
 
-    lobby.cmdDelete_Click(ListedPlayer{2, "Bea"});
+    lobby.cmdDelete_Click(row(2, "Bea"));
     EXPECT_EQ(bytes().size(), 87U);
     EXPECT_EQ(boxes.shown[1],
               "Confirm: Are you sure you wish to remove Bea from the list? (?) yes/No");
     events();
-    lobby.cmdDelete_Click(ListedPlayer{2, "Bea"});
+    lobby.cmdDelete_Click(row(2, "Bea"));
     EXPECT_EQ(events(), (Log{"box Confirm", "|| Player 1 |", "grid Ann Cyd", "highlight 1"}));
     EXPECT_EQ(bytes(), record("Ann", kNew) + record("Cyd", kNew));
+}
+
+TEST_F(LobbyTest, RunsOneCommandAtATime) {
+    put(record("Ann", kNew) + record("Bob", kNew) + record("Cyd", kNew));
+    const auto everything = [this] {
+        lobby.Form_Activate();
+        lobby.grid_DblClick(row(1, "Ann"));
+        lobby.labelPlayerName_DblClick();
+        lobby.chkComputer_Click(true);
+        lobby.cmdAdd_Click();
+        lobby.cmdModify_Click(row(1, "Ann"));
+        lobby.cmdDelete_Click(row(1, "Ann"));
+        lobby.optScreenSize_Click(1);
+        lobby.optRounds_Click(1);
+        lobby.optFormFade_Click(1);
+        lobby.cmdEmailFriend_Click();
+        lobby.cmdQuit_Click();
+    };
+    const auto with = [](const std::string& pairing, Log before, const Log& after) {
+        before.insert(before.end(), {pairing, "options", "options", "options"});
+        before.insert(before.end(), after.begin(), after.end());
+        return before;
+    };
+    const std::string nobody = "|| Player 1 |";
+    boxes.onShow = view.onSkill = everything;
+    boxes.answers = {BoxAnswer::Yes};
+    lobby.cmdDelete_Click(row(1, "Ann"));
+    EXPECT_EQ(events(), with(nobody, {"box Confirm"}, {nobody, "grid Bob Cyd", "highlight 0"}));
+    boxes.entries = {"Dan"};
+    lobby.cmdAdd_Click();
+    EXPECT_EQ(events(), with(nobody, {"ask Add a New Player to the List "}, {"grid Bob Cyd Dan"}));
+    boxes.onShow = {};
+    EXPECT_THROW(lobby.cmdQuit_Click(), std::logic_error);  // an error is no end of it all
+    lobby.chkComputer_Click(true);
+    events();
+    lobby.grid_DblClick(row(2, "Cyd"));
+    const std::string pair = "Cyd|Computer| Double-click to UNselect |computer";
+    EXPECT_EQ(events(), with(pair, {pair, "skill"}, {"battle"}));
+    everything();
+    EXPECT_EQ(events(), with(pair, {}, {}));
+    EXPECT_EQ(shared.NumRounds, 10);
+    EXPECT_TRUE(links.targets.empty());
+
+    Lobby leaving{shared, ports};
+    boxes.answers = {BoxAnswer::Yes};
+    leaving.cmdQuit_Click();
+    leaving.cmdQuit_Click();
+    EXPECT_EQ(events(), (Log{"box Confirm", "sound thatsall", "leave"}));
+}
+
+TEST_F(LobbyTest, TouchesNobodyButThePlayerItHasShown) {
+    const std::string ann = record("Ann", kNew), bob = record("Bob", kNew);
+    const std::pair<std::string, const char*> changes[] = {
+        {bob + ann, "grid Bob Ann"},
+        {ann, "grid Ann"},
+        {ann + record(" Bob", kNew), "grid Ann Bob"}};
+    for (const auto& [changed, grid] : changes) {
+        boxes.onShow = [this, list = changed] { put(list); };  // with the question on the screen
+        put(ann + bob);
+        boxes.entries = {"Bea"};
+        boxes.answers = {BoxAnswer::Ok, BoxAnswer::Yes, BoxAnswer::Ok};
+        lobby.cmdModify_Click(row(2, "Bob"));
+        EXPECT_EQ(events(), (Log{"ask Change the Highlighted Player's Name ",
+                                 "box Changed Player List", grid, "highlight 1"}));
+        EXPECT_EQ(bytes(), changed);
+        put(ann + bob);
+        lobby.cmdDelete_Click(row(2, "Bob"));
+        EXPECT_EQ(events(), (Log{"box Confirm", "box Changed Player List", grid, "highlight 1"}));
+        EXPECT_EQ(bytes(), changed);
+    }
+}
+
+TEST_F(LobbyTest, RefusesOnePlayerTooMany) {
+    std::string full;
+    for (int i = 0; i < 32767; ++i) full += record("Ann", kNew);
+    put(full);
+    boxes.entries = {"Bob"};
+    boxes.answers = {BoxAnswer::Ok};
+    lobby.cmdAdd_Click();
+    EXPECT_EQ(events(), (Log{"ask Add a New Player to the List ", "box Full Player List"}));
+    EXPECT_EQ(boxes.shown.at(0),
+              "Full Player List: There are 32767 players in the Player List.\r\n"
+              "No more can be added.");
+    EXPECT_EQ(bytes(), full);
 }
 
 TEST_F(LobbyTest, SaysGoodbyeOnceInSixTimes) {
@@ -149,7 +245,7 @@ TEST_F(LobbyTest, SaysGoodbyeOnceInSixTimes) {
     clock.time = DateTime{5min + 9999ms};
     lobby.cmdQuit_Click();
     clock.time = DateTime{5min + 10s};
-    lobby.cmdQuit_Click();
+    Lobby{shared, ports}.cmdQuit_Click();
     EXPECT_EQ(events(), (Log{"box Confirm", "sound thatsall", "leave", "box Confirm", "leave"}));
 }
 

@@ -2,9 +2,12 @@
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>
+#include <unistd.h>
 
 #include <csignal>
+#include <functional>
 
+#include "players/Ranking.h"
 #include "players/Windows1252.h"
 #include "tests/support/PlayersRig.h"
 
@@ -16,11 +19,19 @@ struct PlayerFileTest : testing::Test, PlayersRig {
     std::string tempPath = folder / "TempFile.$$$";
 };
 
+static std::string errorOf(const std::function<void()>& work) {
+    try {
+        work();
+    } catch (const FileError& error) {
+        return error.what();
+    }
+    return "none";
+}
+
 TEST_F(PlayerFileTest, AddsAndRenamesInPlace) {
-    file.addPlayer("Ann");
-    file.addPlayer("Twenty characters and more");
-    file.addPlayer(
-        "Zo\xC3\xAB \xE2\x82\xAC \xC5\x81 \xF0\x9F\x98\x80 \xFF");  // Zoë € Ł, a smile, a lone byte
+    add("Ann");
+    add("Twenty characters and more");
+    add("Zo\xC3\xAB \xE2\x82\xAC \xC5\x81 \xF0\x9F\x98\x80 \xFF");  // Zoë € Ł, a smile, a lone byte
     EXPECT_EQ(bytes(), record("Ann", kNew) + record("Twenty characters an", kNew) +
                            record("Zo\xEB \x80 ? ? ?", kNew));
     EXPECT_EQ(file.PlayerCount, 3);
@@ -31,7 +42,7 @@ TEST_F(PlayerFileTest, AddsAndRenamesInPlace) {
     EXPECT_EQ(nameOnFile("  " + tooLong), tooLong.substr(0, 40));
     EXPECT_EQ(nameOnFile(" \t "), "");
     put(record("Twenty characters...", "\4\0\3\0\x2C\1\1\0\x7F"s) + record("Bob", kNew));
-    file.renamePlayer(1, "Al");
+    rename(1, "Al");
     EXPECT_EQ(bytes(), record("Al", "\4\0\3\0\x2C\1\1\0\x7F"s) + record("Bob", kNew));
     EXPECT_EQ(folder.content(), "Skylob.Data ");
 }
@@ -65,11 +76,11 @@ TEST_F(PlayerFileTest, CountsAndShowsWhateverItHolds) {
     EXPECT_EQ(file.CurrentRecord.SetsWon, -32768);
     EXPECT_EQ(file.CurrentRecord.Ranking, 513);
     // Five bytes are no record, so the new one goes over them.
-    file.addPlayer("Cyd");
+    add("Cyd");
     EXPECT_EQ(bytes(), odd + record("Cyd", kNew));
     // The missing bytes of a last record are zeros, and control characters.
     put(odd + record("Bob", ""));
-    file.deletePlayer(1);
+    remove(1);
     EXPECT_EQ(bytes(), record("Bob", kNew));
 }
 
@@ -79,7 +90,7 @@ TEST_F(PlayerFileTest, DeletesAndRanksByPlace) {
                                record("Dan", "\1\0\0\0\x1E\0\4\0\0"s);
     put(before);
     std::filesystem::create_hard_link(path, folder / "old");
-    file.deletePlayer(1);
+    remove(1);
     EXPECT_EQ(bytes(), record("Bob", "\1\0\1\0\x1E\0\1\0\6"s) + record("Cyd", kNew) +
                            record("Dan", "\1\0\0\0\x1E\0\3\0\0"s));
     EXPECT_EQ(folder.content(), "Skylob.Data old ");
@@ -89,10 +100,10 @@ TEST_F(PlayerFileTest, DeletesAndRanksByPlace) {
 TEST_F(PlayerFileTest, KeepsWhatAnOlderTemporaryFileHasBeyondTheList) {
     put(record("Ann", kNew) + record("Bob", kNew));
     putBytes(tempPath, record("Old", kNew) + record("Older", "\1\0\1\0\1\0\1\0\0"s));
-    file.deletePlayer(1);
+    remove(1);
     EXPECT_EQ(bytes(), record("Bob", kNew) + record("Older", "\1\0\1\0\1\0\1\0\0"s));
     putBytes(tempPath, record("Old", kNew));
-    for (int left = 2; left > 0; --left) file.deletePlayer(1);
+    for (int left = 2; left > 0; --left) remove(1);
     EXPECT_EQ(folder.content(), "");
 }
 
@@ -100,49 +111,137 @@ TEST_F(PlayerFileTest, RefusesTooManyPlayers) {
     std::string most;
     for (int i = 0; i < 32767; ++i) most += record("Ann", kNew);
     put(most);
-    EXPECT_THROW(file.addPlayer("Bob"), FileError);
+    EXPECT_FALSE(file.addPlayer("Bob"));
     EXPECT_EQ(bytes(), most);
-    file.renamePlayer(32767, "Bob");
+    rename(32767, "Bob");
     EXPECT_EQ(bytes().substr(29 * 32766), record("Bob", kNew));
 
     putBytes(tempPath, most + record("One more", kNew));
     put(record("Ann", kNew) + record("Bob", kNew));
-    EXPECT_THROW(file.deletePlayer(1), FileError);
+    EXPECT_THROW(remove(1), FileError);
     EXPECT_EQ(bytes().size(), 58U);
 
     put(most + "fifteen bytes..");
-    EXPECT_THROW(file.renamePlayer(1, "Bob"), FileError);
+    EXPECT_EQ(errorOf([this] { file.readAll(); }),
+              path + " holds more than 32767 players, which is too many.");
     EXPECT_EQ(bytes(), most + "fifteen bytes..");
 }
 
 TEST_F(PlayerFileTest, TellsWhatFailedAndChangesNothing) {
     const std::string before = record("Ann", "\1\0\1\0\x1E\0\1\0\0"s) + record("Bob", kNew);
-    for (const char* failing : {"open Skylob.Data", "read Skylob.Data", "open TempFile.$$$",
-                                "write TempFile.$$$", "sync TempFile.$$$", "replace Skylob.Data"}) {
+    for (const char* failing :
+         {"open Skylob.Data", "read Skylob.Data", "open TempFile.$$$", "replace Skylob.Data"}) {
         put(before);
         files.failing = failing;
-        EXPECT_THROW(file.deletePlayer(2), FileError) << failing;
+        EXPECT_THROW(remove(2), FileError) << failing;
         EXPECT_EQ(bytes(), before) << failing;
         files.failing.clear();
         EXPECT_EQ(file.readAll().size(), 2U) << failing;  // nothing of the failure is left behind
     }
     put(record("Ann", kNew));
     files.failing = "remove Skylob.Data";
-    EXPECT_THROW(file.deletePlayer(1), FileError);
+    EXPECT_THROW(remove(1), FileError);
     for (const char* failing : {"write Skylob.Data", "sync Skylob.Data"}) {
         files.failing = failing;
-        EXPECT_THROW(file.addPlayer("Bob"), FileError) << failing;
+        EXPECT_THROW(add("Bob"), FileError) << failing;
         EXPECT_EQ(bytes().substr(0, 29), record("Ann", kNew)) << failing;
     }
     files.failing.clear();
     std::filesystem::remove(path);
     std::filesystem::create_directory(path);
-    try {
-        file.deletePlayer(1);
-        ADD_FAILURE() << "a folder in the place of " << path;
-    } catch (const FileError& error) {
-        EXPECT_EQ(error.what(), "Could not open " + path + ":\nIs a directory");
+    EXPECT_EQ(errorOf([this] { add("Bob"); }), "Could not open " + path + ":\nIs a directory");
+}
+
+TEST_F(PlayerFileTest, KnowsOnlyTheRecordsThatThereAre) {
+    const std::string before = record("Ann", kNew) + record(" Bob", kNew);
+    put(before);
+    file.OpenPlayerFile();
+    for (const int number : {-1, 0, 3}) EXPECT_THROW(file.readRecord(number), FileError) << number;
+    for (const int number : {-1, 0, 4}) EXPECT_THROW(file.writeRecord(number), FileError) << number;
+    EXPECT_EQ(bytes(), before);
+    file.writeRecord(3);
+    file.readRecord(3);
+    file.ClosePlayerFile();
+    put(before);
+    // Another one in that place, nobody, and one who only looks the same.
+    ListedPlayer bob = listed(2);
+    for (const ListedPlayer& gone : {ListedPlayer{1, bob.record},
+                                     {3, bob.record},
+                                     {0, bob.record},
+                                     {2, unpackRecord("Bob ")}}) {
+        EXPECT_FALSE(file.renamePlayer(gone, "Bea"));
+        EXPECT_FALSE(file.deletePlayer(gone));
     }
+    EXPECT_EQ(bytes(), before);
+    bob.record.SetsPlayed = 7;  // a set that another copy has recorded in between
+    EXPECT_TRUE(file.renamePlayer(bob, "Bea"));
+    EXPECT_EQ(bytes(), record("Ann", kNew) + record("Bea", kNew));
+}
+
+TEST_F(PlayerFileTest, WritesThroughNoLinkInThePlaceOfItsTemporaryFile) {
+    const std::string other = folder / "other", text(100, 'x');
+    putBytes(other, text);
+    const std::function<void()> links[] = {
+        [&] { std::filesystem::create_symlink(other, tempPath); },
+        [&] { std::filesystem::create_symlink(folder / "nothing", tempPath); },
+        [&] { std::filesystem::create_hard_link(other, tempPath); }};
+    for (const auto& link : links) {
+        put(record("Ann", kNew) + record("Bob", kNew));
+        for (const char* left : {"Bob", ""}) {
+            link();
+            EXPECT_TRUE(remove(1));
+            EXPECT_EQ(bytes(), *left ? record(left, kNew) : "");
+            EXPECT_EQ(bytesOf(other), text);
+            EXPECT_EQ(folder.content(), *left ? "Skylob.Data other " : "other ");
+        }
+    }
+}
+
+/// As long as it lives, this process may do no more than any user.
+class AnyUser {
+  public:
+    AnyUser() {
+        if (geteuid() == 0) m_changed = seteuid(65534) == 0;
+    }
+    ~AnyUser() {
+        if (m_changed && seteuid(0) != 0) std::abort();
+    }
+    AnyUser(const AnyUser&) = delete;
+    AnyUser& operator=(const AnyUser&) = delete;
+
+  private:
+    bool m_changed = false;
+};
+
+TEST_F(PlayerFileTest, ReadsAListThatMayOnlyBeRead) {
+    using std::filesystem::perms;
+    const std::string ann = record("Ann", kNew), bob = record("Bob", kNew);
+    const std::string place = std::filesystem::path{path}.parent_path();
+    shared.PlayerName = {"Ann", "Bob"};
+    put(ann + bob);
+    std::filesystem::permissions(path, perms{0444});
+    std::filesystem::permissions(place, perms{0777});
+    {
+        const AnyUser user;
+        EXPECT_EQ(file.readAll().size(), 2U);
+        EXPECT_EQ(errorOf([this] { add("Cyd"); }),
+                  "Could not open " + path + ":\nPermission denied");
+        EXPECT_THROW(rename(1, "Cyd"), FileError);
+        EXPECT_THROW(remove(1), FileError);
+        EXPECT_THROW(RecordSetResults(file, shared), FileError);
+    }
+    EXPECT_EQ(bytes(), ann + bob);
+    std::filesystem::permissions(path, perms{0666});
+    std::filesystem::permissions(place, perms{0555});
+    {
+        const AnyUser user;
+        EXPECT_THROW(remove(1), FileError);
+        EXPECT_EQ(bytes(), ann + bob);
+        add("Cyd");
+        EXPECT_EQ(file.readAll().size(), 3U);
+    }
+    std::filesystem::permissions(place, perms{0777});
+    EXPECT_EQ(folder.content(), "Skylob.Data ");
 }
 
 /// From now on no file of this process can grow beyond that length.
@@ -158,16 +257,16 @@ TEST_F(PlayerFileTest, WritesAllOfARecordOrNothing) {
     const std::string before = record("Ann", kNew) + record("Bob", kNew);
     put(before);
     limitFileSize(80);  // in the middle of a third record
-    EXPECT_THROW(file.addPlayer("Cyd"), FileError);
+    EXPECT_THROW(add("Cyd"), FileError);
     limitFileSize(RLIM_INFINITY);
     EXPECT_EQ(bytes(), before);
     limitFileSize(35);  // in the middle of the second name
-    EXPECT_THROW(file.renamePlayer(2, "Bertram the Elder"), FileError);
+    EXPECT_THROW(rename(2, "Bertram the Elder"), FileError);
     file.OpenPlayerFile();
     EXPECT_THROW(file.rewrite(std::vector{2, 1}), FileError);
     limitFileSize(RLIM_INFINITY);
     EXPECT_EQ(bytes(), before);
-    file.deletePlayer(1);
+    remove(1);
     EXPECT_EQ(bytes(), record("Bob", kNew));
 }
 

@@ -109,6 +109,20 @@ TEST_F(RecordSetResultsTest, KeepsTheOrderOfEqualTextsAndOfAllWhoseNamesDiffer) 
 TEST_F(RecordSetResultsTest, LeavesASinglePlayerUnranked) {
     EXPECT_EQ(recordIn(record("Ann", kNew)), record("Ann", "\1\0\1\0\x68\0\0\0\0"s));
     EXPECT_EQ(recordIn(""), "");
+    // It needs no temporary file.
+    putBytes(folder / "TempFile.$$$", "old");
+    put(record("Bob", kNew));
+    RecordSetResults(file, shared);
+    EXPECT_EQ(bytes(), record("Bob", "\1\0\0\0\x3A\0\0\0\0"s));
+    EXPECT_EQ(bytesOf(folder / "TempFile.$$$"), "old");
+}
+
+TEST_F(RecordSetResultsTest, LosesNoResultWhenTheNewOrderCannotBeStored) {
+    std::filesystem::create_directory(folder / "TempFile.$$$");
+    put(record("Bob", kNew) + record("Cyd", kNew) + record("Ann", kNew));
+    EXPECT_THROW(RecordSetResults(file, shared), FileError);
+    EXPECT_EQ(bytes(), record("Bob", "\1\0\0\0\x3A\0\0\0\0"s) + record("Cyd", kNew) +
+                           record("Ann", "\1\0\1\0\x68\0\0\0\0"s));
 }
 
 }  // namespace skylob::test

@@ -102,6 +102,7 @@ struct QueuedBoxes : MessageBoxes {
     std::optional<std::string> ask(const InputBox& box) override {
         log.push_back("ask " + box.title);
         if (entries.empty()) throw std::logic_error("unexpected question: " + box.prompt);
+        if (onShow) onShow();
         asked.push_back(box.title + ": " + box.prompt + " [" + box.entry + "]");
         const auto entry = entries.front();
         entries.pop_front();

@@ -55,7 +55,15 @@ class FailingFiles : public FileSystem {
 
     std::unique_ptr<RandomAccessFile> open(const std::string& name) override {
         check("open", name);
-        return std::make_unique<File>(*this, name);
+        return std::make_unique<File>(*this, name, m_disk.open(name));
+    }
+    std::unique_ptr<RandomAccessFile> openForReading(const std::string& name) override {
+        check("open", name);
+        return std::make_unique<File>(*this, name, m_disk.openForReading(name));
+    }
+    std::unique_ptr<RandomAccessFile> openLeftover(const std::string& name) override {
+        check("open", name);
+        return m_disk.openLeftover(name);
     }
     bool hasFile(const std::string& name) const override { return m_disk.hasFile(name); }
     void remove(const std::string& name) override {
@@ -66,12 +74,17 @@ class FailingFiles : public FileSystem {
         check("replace", to);
         m_disk.replace(from, to);
     }
+    void replaceContent(const std::string& name, std::string_view bytes,
+                        const std::string& through) override {
+        check("replace", name);
+        m_disk.replaceContent(name, bytes, through);
+    }
 
   private:
     class File : public RandomAccessFile {
       public:
-        File(FailingFiles& files, const std::string& name)
-            : m_files{files}, m_name{name}, m_file{files.m_disk.open(name)} {}
+        File(FailingFiles& files, std::string name, std::unique_ptr<RandomAccessFile> file)
+            : m_files{files}, m_name{std::move(name)}, m_file{std::move(file)} {}
         std::int64_t length() const override { return m_file->length(); }
         std::string read(std::int64_t offset, std::size_t count) const override {
             m_files.check("read", m_name);

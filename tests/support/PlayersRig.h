@@ -14,6 +14,17 @@ struct PlayersRig {
     void put(const std::string& list) { putBytes(path, list); }
     std::string bytes() const { return bytesOf(path); }
 
+    /// A player as the file has it now.
+    ListedPlayer listed(int number) const {
+        const auto offset = static_cast<std::size_t>(number - 1) * kRecordLength;
+        return {number, unpackRecord(bytes().substr(offset, kRecordLength))};
+    }
+    bool add(std::string_view name) { return file.addPlayer(name); }
+    bool rename(int number, std::string_view name) {
+        return file.renamePlayer(listed(number), name);
+    }
+    bool remove(int number) { return file.deletePlayer(listed(number)); }
+
     TempFolder folder;
     std::string path = folder / "Skylob.Data";
     FailingFiles files;
