@@ -141,6 +141,25 @@ class frmPlayGameTest : public QObject {
         QCOMPARE(screen.shots(), 2u);
     }
 
+    void showsItsLabelsAsTheyMatter() {
+        Screen screen;
+        const auto label = [&](const char* begin) -> QLabel* {
+            for (QLabel* one : screen.form->findChildren<QLabel*>())
+                if (one->text().startsWith(QLatin1String{begin})) return one;
+            return nullptr;
+        };
+        QCOMPARE(label("Men Left")->font().weight(), QFont::DemiBold);
+        QCOMPARE(label("Men Left")->font().pixelSize(), 13);
+        QLabel* const gameSpeed = label("Game Speed");
+        int flights = 0;
+        screen.pacer.duringFlight = [&] {
+            ++flights;
+            QVERIFY(!gameSpeed->isEnabled());
+        };
+        QTest::mouseClick(screen.shoot(), Qt::LeftButton);
+        QVERIFY(flights > 0 && gameSpeed->isEnabled());
+    }
+
     void showsNamesAsTheyAre() {
         Screen screen{2, "<b>A&B</b>", "Computer"};
         const auto frames = screen.form->findChildren<QGroupBox*>();
