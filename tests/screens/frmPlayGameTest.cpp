@@ -249,6 +249,31 @@ class frmPlayGameTest : public QObject {
         }
     }
 
+    void boxesAreWideEnoughForTheirTitles() {
+        const char* const title = "Change the Highlighted Player's Name";
+        QtMessageBoxes boxes;
+        int room = 0;
+        bool isTextCut = false;
+        const auto measure = [&] {
+            QWidget* const box = QApplication::activeModalWidget();
+            for (const QLabel* label : box->findChildren<QLabel*>())
+                isTextCut = isTextCut || label->width() < label->sizeHint().width();
+            QFont bold = QApplication::font();
+            bold.setBold(true);
+            room = box->width() - QFontMetrics{bold}.horizontalAdvance(box->windowTitle());
+            box->close();
+        };
+        QTimer::singleShot(0, this, measure);
+        boxes.ask({title, "to...", ""});
+        QVERIFY(room >= 100);  // an icon and three or four buttons
+        QTimer::singleShot(0, this, measure);
+        boxes.show({title, "Yes?", BoxIcon::Question, BoxButtons::YesNo});
+        QVERIFY(room >= 100);
+        QTimer::singleShot(0, this, measure);
+        boxes.show({"?", "Are you sure you wish to remove Ann?"});
+        QVERIFY(!isTextCut);
+    }
+
     void boxesShowPlainTextAndTakeClosingForNo() {
         QtMessageBoxes boxes;
         QTimer::singleShot(0, this, [] {
