@@ -68,6 +68,11 @@ bool GlintButton::event(QEvent* event) {
         if (shortcut->shortcutId() == m_shortcut && !shortcut->isAmbiguous()) press();
         return true;
     }
+    if (event->type() == QEvent::WindowBlocked) {
+        // The release that ends a press now goes to the window above.
+        m_pressedButton = Qt::NoButton;
+        m_interaction.letGo();
+    }
     return QWidget::event(event);
 }
 
@@ -114,11 +119,13 @@ void GlintButton::leaveEvent(QEvent*) {
 }
 
 void GlintButton::mousePressEvent(QMouseEvent* event) {
+    if (!isGlintButton(event->button())) return;
     m_pressedButton = event->button();
     m_interaction.mouseDown(glintMouse(*event, glintButton(event->button())));
 }
 
 void GlintButton::mouseReleaseEvent(QMouseEvent* event) {
+    if (!isGlintButton(event->button())) return;
     const bool clicked = event->button() == m_pressedButton && rect().contains(event->pos());
     if (event->button() == m_pressedButton) m_pressedButton = Qt::NoButton;
     m_interaction.mouseUp(glintMouse(*event, glintButton(event->button())));
@@ -130,8 +137,8 @@ void GlintButton::mouseMoveEvent(QMouseEvent* event) {
     m_interaction.mouseMove(glintMouse(*event, glintButtons(event->buttons())));
 }
 
-void GlintButton::mouseDoubleClickEvent(QMouseEvent*) {
-    m_interaction.doubleClick();
+void GlintButton::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (isGlintButton(event->button())) m_interaction.doubleClick();
 }
 
 void GlintButton::keyPressEvent(QKeyEvent* event) {
