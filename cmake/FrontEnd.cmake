@@ -36,7 +36,9 @@ add_library(skylob_ui STATIC
     controls/GlintButtonInput.cpp
     controls/GlintButtonPictures.cpp
     controls/GlintPainter.cpp
+    controls/GlintPainterShades.cpp
     controls/QtFormButtons.cpp
+    controls/QtPictureMerge.cpp
     controls/QtPropertyBagFile.cpp
     players/PlayerGridModel.cpp
     players/QtChosenPlayer.cpp

@@ -11,7 +11,6 @@
 
 #include "app/QtText.h"
 #include "controls/GlintButtonInput.h"
-#include "controls/GlintButtonPictures.h"
 #include "controls/GlintLayout.h"
 #include "controls/GlintPainter.h"
 
@@ -35,7 +34,7 @@ bool isPointerPlaceKnown() {
 
 GlintButton::GlintButton(const QString& name, const QtShapes& shapes, QWidget* parent)
     : QWidget{parent},
-      m_shapes{shapes},
+      m_pictures{shapes},
       m_design{m_state, *this},
       m_interaction{m_state, *this, *this, *this} {
     setObjectName(name);
@@ -77,17 +76,20 @@ bool GlintButton::event(QEvent* event) {
 }
 
 void GlintButton::paintEvent(QPaintEvent*) {
+    QPainter painter{this};
+    const QTransform toDevice = painter.deviceTransform();
     const GlintCanvas canvas{.button = m_state,
                              .state = m_drawnState,
                              .over = m_drawnOver,
                              .enabled = m_state.Enabled && isEnabled(),
                              .font = qFont(),
-                             .picture = shownPicture(),
+                             .picture = shownPicture(toDevice.m11()),
                              .backdrop = m_backdrop,
-                             .ratio = devicePixelRatioF()};
-    QImage image = paintGlintButton(canvas);
-    image.setDevicePixelRatio(canvas.ratio);
-    QPainter{this}.drawImage(0, 0, image);
+                             .ratio = toDevice.m11(),
+                             .corner = toDevice.map(QPointF{0, 0})};
+    // In device pixels, because the corner may lie between two of them.
+    painter.setTransform(toDevice.inverted());
+    painter.drawImage(canvas.corner.toPoint(), paintGlintButton(canvas));
 }
 
 void GlintButton::resizeEvent(QResizeEvent*) {
@@ -229,7 +231,7 @@ void GlintButton::updateMousePointer() {
         unsetCursor();  // whatever the form shows
         return;
     }
-    QImage icon = glintPicture(m_mouseIcon, m_shapes, devicePixelRatioF());
+    QImage icon = m_pictures.at(m_mouseIcon, devicePixelRatioF());
     icon.setDevicePixelRatio(devicePixelRatioF());
     setCursor(glintCursor(m_pointerShape, icon));
 }
@@ -244,7 +246,7 @@ void GlintButton::setAccessKeyFrom(const std::string& caption) {
 }
 
 GlintSize GlintButton::measurePicture(const PictureReference& picture) const {
-    const QSize size = glintPictureSize(picture, m_shapes);
+    const QSize size = m_pictures.size(picture);
     return {size.width(), size.height()};
 }
 
@@ -288,11 +290,9 @@ void GlintButton::runOverTimer(bool run) {
         OverTimer.stop();
 }
 
-QImage GlintButton::shownPicture() const {
+QImage GlintButton::shownPicture(qreal ratio) const {
     const bool over = m_drawnOver && !m_state.PictureOver.empty();
-    QImage picture = glintPicture(over ? m_state.PictureOver : m_state.PictureNormal, m_shapes,
-                                  devicePixelRatioF());
-    return flattened(std::move(picture), m_state.palette.MaskRGB);
+    return m_pictures.at(over ? m_state.PictureOver : m_state.PictureNormal, ratio);
 }
 
 }  // namespace skylob

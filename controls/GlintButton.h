@@ -5,6 +5,7 @@
 #include <QTimer>
 #include <QWidget>
 
+#include "controls/GlintButtonPictures.h"
 #include "controls/GlintDesign.h"
 #include "controls/GlintInteraction.h"
 
@@ -112,12 +113,12 @@ class GlintButton : public QWidget,
     void raiseMouseOut() override { emit MouseOut(); }
 
     QFont qFont() const;
-    QImage shownPicture() const;
+    QImage shownPicture(qreal ratio) const;
     void updateMousePointer();
     void tellScreenReaders();
 
     GlintState m_state;
-    const QtShapes& m_shapes;
+    mutable GlintPictures m_pictures;  ///< remembers what it has read
     GlintDesign m_design;
     GlintInteraction m_interaction;
     QTimer OverTimer;
