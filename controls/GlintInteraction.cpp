@@ -75,6 +75,10 @@ void GlintInteraction::accessKey() {
     click();
 }
 
+void GlintInteraction::letGo() {
+    if (m_button.currentState == kStatePressed) redraw(kStateUp, false);
+}
+
 void GlintInteraction::keyDown(std::int16_t keyCode, std::int16_t shift) {
     m_events.raiseKeyDown(keyCode, shift);
     m_button.LastKeyDown = static_cast<std::uint8_t>(keyCode);

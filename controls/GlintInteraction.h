@@ -63,6 +63,8 @@ class GlintInteraction {
     void click();
     void doubleClick();
     void accessKey();
+    /// A window above takes what ends a press: the button is drawn up and nothing is raised.
+    void letGo();
 
     void keyDown(std::int16_t keyCode, std::int16_t shift);
     void keyUp(std::int16_t keyCode, std::int16_t shift);

@@ -87,11 +87,14 @@ QImage drawn(const Row& row, const Column& column, const QtShapes& shapes, doubl
     QFont font{"Noto Sans"};
     font.setPixelSize(row.picture == QByteArray{"shell 24"} ? 16 : 13);
     font.setWeight(QFont::DemiBold);
-    const QImage picture =
-        flattened(glintPicture(row.picture, shapes, ratio), state.palette.MaskRGB);
-    const QSize pixels = button.size() * ratio;
-    return paintGlintButton(
-        {state, column.state, column.over, column.enabled, font, picture, backdrop(pixels), ratio});
+    return paintGlintButton({.button = state,
+                             .state = column.state,
+                             .over = column.over,
+                             .enabled = column.enabled,
+                             .font = font,
+                             .picture = GlintPictures{shapes}.at(row.picture, ratio),
+                             .backdrop = backdrop(button.size() * ratio),
+                             .ratio = ratio});
 }
 
 }  // namespace

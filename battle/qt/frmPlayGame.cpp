@@ -253,8 +253,9 @@ void frmPlayGame::showCommands(const BattlePanel& panel) {
     const bool wereEnabled = cmdShoot->isEnabled();
     if (wereEnabled && !panel.commandsEnabled) m_focusStaysOnShoot = cmdShoot->hasFocus();
     for (GlintButton* button : {cmdShoot, cmdQuit}) enable(*button, panel.commandsEnabled);
-    for (QWidget* command : std::initializer_list<QWidget*>{
-             scrollGameSpeed, chkSound, chkTrajectory, chkMeteors, chkLightning, chkWind})
+    for (QWidget* command :
+         std::initializer_list<QWidget*>{labelGameSpeed, scrollGameSpeed, chkSound, chkTrajectory,
+                                         chkMeteors, chkLightning, chkWind})
         command->setEnabled(panel.commandsEnabled);
     if (!wereEnabled && panel.commandsEnabled) moveFocusToTurn(panel.turn);
 }

@@ -35,7 +35,7 @@ bool isPointerPlaceKnown() {
 
 GlintButton::GlintButton(const QString& name, const QtShapes& shapes, QWidget* parent)
     : QWidget{parent},
-      m_shapes{shapes},
+      m_pictures{shapes},
       m_design{m_state, *this},
       m_interaction{m_state, *this, *this, *this} {
     setObjectName(name);
@@ -68,21 +68,29 @@ bool GlintButton::event(QEvent* event) {
         if (shortcut->shortcutId() == m_shortcut && !shortcut->isAmbiguous()) press();
         return true;
     }
+    if (event->type() == QEvent::WindowBlocked) {
+        // The release that ends a press now goes to the window above.
+        m_pressedButton = Qt::NoButton;
+        m_interaction.letGo();
+    }
     return QWidget::event(event);
 }
 
 void GlintButton::paintEvent(QPaintEvent*) {
+    QPainter painter{this};
+    const QTransform toDevice = painter.deviceTransform();
     const GlintCanvas canvas{.button = m_state,
                              .state = m_drawnState,
                              .over = m_drawnOver,
                              .enabled = m_state.Enabled && isEnabled(),
                              .font = qFont(),
-                             .picture = shownPicture(),
+                             .picture = shownPicture(toDevice.m11()),
                              .backdrop = m_backdrop,
-                             .ratio = devicePixelRatioF()};
-    QImage image = paintGlintButton(canvas);
-    image.setDevicePixelRatio(canvas.ratio);
-    QPainter{this}.drawImage(0, 0, image);
+                             .ratio = toDevice.m11(),
+                             .corner = toDevice.map(QPointF{0, 0})};
+    // In device pixels, because the corner may lie between two of them.
+    painter.setTransform(toDevice.inverted());
+    painter.drawImage(canvas.corner.toPoint(), paintGlintButton(canvas));
 }
 
 void GlintButton::resizeEvent(QResizeEvent*) {
@@ -114,11 +122,13 @@ void GlintButton::leaveEvent(QEvent*) {
 }
 
 void GlintButton::mousePressEvent(QMouseEvent* event) {
+    if (!isGlintButton(event->button())) return;
     m_pressedButton = event->button();
     m_interaction.mouseDown(glintMouse(*event, glintButton(event->button())));
 }
 
 void GlintButton::mouseReleaseEvent(QMouseEvent* event) {
+    if (!isGlintButton(event->button())) return;
     const bool clicked = event->button() == m_pressedButton && rect().contains(event->pos());
     if (event->button() == m_pressedButton) m_pressedButton = Qt::NoButton;
     m_interaction.mouseUp(glintMouse(*event, glintButton(event->button())));
@@ -130,8 +140,8 @@ void GlintButton::mouseMoveEvent(QMouseEvent* event) {
     m_interaction.mouseMove(glintMouse(*event, glintButtons(event->buttons())));
 }
 
-void GlintButton::mouseDoubleClickEvent(QMouseEvent*) {
-    m_interaction.doubleClick();
+void GlintButton::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (isGlintButton(event->button())) m_interaction.doubleClick();
 }
 
 void GlintButton::keyPressEvent(QKeyEvent* event) {
@@ -222,7 +232,7 @@ void GlintButton::updateMousePointer() {
         unsetCursor();  // whatever the form shows
         return;
     }
-    QImage icon = glintPicture(m_mouseIcon, m_shapes, devicePixelRatioF());
+    QImage icon = m_pictures.at(m_mouseIcon, devicePixelRatioF());
     icon.setDevicePixelRatio(devicePixelRatioF());
     setCursor(glintCursor(m_pointerShape, icon));
 }
@@ -237,7 +247,7 @@ void GlintButton::setAccessKeyFrom(const std::string& caption) {
 }
 
 GlintSize GlintButton::measurePicture(const PictureReference& picture) const {
-    const QSize size = glintPictureSize(picture, m_shapes);
+    const QSize size = m_pictures.size(picture);
     return {size.width(), size.height()};
 }
 
@@ -281,11 +291,9 @@ void GlintButton::runOverTimer(bool run) {
         OverTimer.stop();
 }
 
-QImage GlintButton::shownPicture() const {
+QImage GlintButton::shownPicture(qreal ratio) const {
     const bool over = m_drawnOver && !m_state.PictureOver.empty();
-    QImage picture = glintPicture(over ? m_state.PictureOver : m_state.PictureNormal, m_shapes,
-                                  devicePixelRatioF());
-    return flattened(std::move(picture), m_state.palette.MaskRGB);
+    return m_pictures.at(over ? m_state.PictureOver : m_state.PictureNormal, ratio);
 }
 
 }  // namespace skylob

@@ -7,6 +7,7 @@
 
 #include "controls/GlintDesign.h"
 #include "controls/GlintInteraction.h"
+#include "controls/qt/GlintButtonPictures.h"
 
 namespace skylob {
 
@@ -112,12 +113,12 @@ class GlintButton : public QWidget,
     void raiseMouseOut() override { emit MouseOut(); }
 
     QFont qFont() const;
-    QImage shownPicture() const;
+    QImage shownPicture(qreal ratio) const;
     void updateMousePointer();
     void tellScreenReaders();
 
     GlintState m_state;
-    const QtShapes& m_shapes;
+    mutable GlintPictures m_pictures;  ///< remembers what it has read
     GlintDesign m_design;
     GlintInteraction m_interaction;
     QTimer OverTimer;

@@ -9,6 +9,11 @@ class QImage;
 /// How the toolkit's mouse and keys become a button's: its numbers are the classic ones.
 namespace skylob {
 
+/// Whether a button knows of this mouse button: it does of the left, right and middle one.
+inline bool isGlintButton(Qt::MouseButton button) {
+    return button == Qt::LeftButton || button == Qt::RightButton || button == Qt::MiddleButton;
+}
+
 /// 1 left, 2 right, 4 middle; the second is the sum of all that are held.
 std::int16_t glintButton(Qt::MouseButton button);
 std::int16_t glintButtons(Qt::MouseButtons buttons);

@@ -1,7 +1,8 @@
 #include "controls/qt/GlintButtonPictures.h"
 
-#include <QPainter>
 #include <QStringList>
+#include <algorithm>
+#include <utility>
 
 #include "look/qt/QtShapes.h"
 
@@ -9,44 +10,50 @@ namespace skylob {
 
 namespace {
 
-/// The edge length of a drawing that the reference names; 0 for any other reference.
-int drawingSize(const QStringList& words, const QtShapes& shapes) {
-    if (words.size() != 2 || !shapes.names().contains(words[0])) return 0;
-    return std::max(0, words[1].toInt());
-}
-
-QStringList wordsOf(const PictureReference& reference) {
-    return QString::fromStdString(reference).split(QLatin1Char{' '});
+QSize logicalSize(const QImage& file) {
+    return file.isNull() ? QSize{0, 0} : file.size() / file.devicePixelRatio();
 }
 
 }  // namespace
 
-QSize glintPictureSize(const PictureReference& reference, const QtShapes& shapes) {
-    if (reference.empty()) return {0, 0};
-    if (const int size = drawingSize(wordsOf(reference), shapes); size > 0) return {size, size};
-    const QImage file{QString::fromStdString(reference)};
-    return file.isNull() ? QSize{0, 0} : file.size() / file.devicePixelRatio();
+QSize GlintPictures::size(const PictureReference& reference) {
+    const QString name = QString::fromStdString(reference);
+    if (const int size = drawingSize(name.split(QLatin1Char{' '})); size > 0) return {size, size};
+    return logicalSize(file(name));
 }
 
-QImage glintPicture(const PictureReference& reference, const QtShapes& shapes, qreal ratio) {
-    if (reference.empty()) return {};
-    const QStringList words = wordsOf(reference);
-    if (const int size = drawingSize(words, shapes); size > 0) {
+QImage GlintPictures::at(const PictureReference& reference, qreal ratio) {
+    if (std::exchange(m_ratio, ratio) != ratio) m_made.clear();
+    const QString name = QString::fromStdString(reference);
+    auto found = m_made.constFind(name);
+    if (found == m_made.constEnd()) found = m_made.insert(name, made(name, ratio));
+    return *found;
+}
+
+QImage GlintPictures::made(const QString& reference, qreal ratio) {
+    const QStringList words = reference.split(QLatin1Char{' '});
+    if (const int size = drawingSize(words); size > 0) {
         const int pixels = qRound(size * ratio);
-        return shapes.render(words[0], {pixels, pixels}, QtShapes::Edges::Sharp);
+        return m_shapes.render(words[0], {pixels, pixels}, QtShapes::Edges::Sharp);
     }
-    const QImage file{QString::fromStdString(reference)};
-    if (file.isNull()) return {};
-    return file.scaled(file.size() / file.devicePixelRatio() * ratio);
+    QImage picture = file(reference);
+    if (picture.isNull()) return {};
+    picture = picture.scaled(logicalSize(picture) * ratio);
+    picture.setDevicePixelRatio(1);
+    return picture;
 }
 
-QImage flattened(QImage picture, Colour ground) {
-    if (picture.isNull() || !picture.hasAlphaChannel()) return picture;
-    QImage result{picture.size(), QImage::Format_RGB32};
-    result.fill(qRgb(static_cast<int>(ground & 0xFF), static_cast<int>(ground >> 8 & 0xFF),
-                     static_cast<int>(ground >> 16 & 0xFF)));
-    QPainter{&result}.drawImage(0, 0, picture);
-    return result;
+const QImage& GlintPictures::file(const QString& path) {
+    auto found = m_files.constFind(path);
+    if (found == m_files.constEnd())
+        found = m_files.insert(path, path.isEmpty() ? QImage{} : QImage{path});
+    return *found;
+}
+
+/// The edge length of a drawing that the reference names; 0 for any other reference.
+int GlintPictures::drawingSize(const QStringList& words) const {
+    if (words.size() != 2 || !m_shapes.names().contains(words[0])) return 0;
+    return std::max(0, words[1].toInt());
 }
 
 }  // namespace skylob

@@ -1,23 +1,41 @@
 #pragma once
 
+#include <QHash>
 #include <QImage>
 
 #include "controls/GlintState.h"
 
-/// What a picture reference stands for: one of the program's drawings and its size in logical
-/// pixels, such as "shell 24", or the path of a picture file or resource in any format that the
-/// toolkit reads. One that stands for nothing is the same as none.
 namespace skylob {
 
 class QtShapes;
 
-/// The picture's size in logical pixels; empty for none.
-QSize glintPictureSize(const PictureReference& reference, const QtShapes& shapes);
+/// What picture references stand for: one of the program's drawings and its size in logical
+/// pixels, such as "shell 24", or the path of a picture file or resource in any format that the
+/// toolkit reads. A file whose name ends in "@2x" has two of its pixels for a logical one, and so
+/// on up to 9. A reference that stands for nothing is the same as none.
+///
+/// A file is read once, when it is first asked for.
+class GlintPictures {
+  public:
+    /// `shapes` must outlive this object.
+    explicit GlintPictures(const QtShapes& shapes) : m_shapes{shapes} {}
 
-/// The picture in device pixels; null for none.
-QImage glintPicture(const PictureReference& reference, const QtShapes& shapes, qreal ratio);
+    /// The picture's size in logical pixels; empty for none.
+    QSize size(const PictureReference& reference);
 
-/// The picture on a ground of that colour, without transparency of its own.
-QImage flattened(QImage picture, Colour ground);
+    /// The picture in device pixels, `ratio` of them for a logical one; null for none. Files are
+    /// stretched without mixing their pixels, so that a mask colour stays itself.
+    QImage at(const PictureReference& reference, qreal ratio);
+
+  private:
+    const QImage& file(const QString& path);
+    int drawingSize(const QStringList& words) const;
+    QImage made(const QString& reference, qreal ratio);
+
+    const QtShapes& m_shapes;
+    QHash<QString, QImage> m_files;
+    QHash<QString, QImage> m_made;  ///< in device pixels
+    qreal m_ratio = 0;              ///< of those
+};
 
 }  // namespace skylob

@@ -1,10 +1,13 @@
 #include "controls/qt/GlintPainter.h"
 
 #include <QPainter>
+#include <QTransform>
 #include <algorithm>
 #include <cmath>
 
-#include "controls/TransferPicture.h"
+#include "controls/GlintLayout.h"
+#include "controls/qt/GlintPainterShades.h"
+#include "controls/qt/QtPictureMerge.h"
 
 namespace skylob {
 
@@ -12,50 +15,22 @@ namespace {
 
 constexpr int kFlat = 3, kGlass = 11, kDropped = 14;
 
-QColor toQColor(Colour colour) {
-    return QColor{static_cast<int>(colour & 0xFF), static_cast<int>(colour >> 8 & 0xFF),
-                  static_cast<int>(colour >> 16 & 0xFF)};
-}
-
-QColor mix(const QColor& a, const QColor& b, double t) {
-    const auto channel = [t](int from, int to) { return qRound(from + (to - from) * t); };
-    return QColor{channel(a.red(), b.red()), channel(a.green(), b.green()),
-                  channel(a.blue(), b.blue())};
-}
-
 QColor withAlpha(QColor colour, int alpha) {
     colour.setAlpha(alpha);
     return colour;
 }
 
-/// The colours of one drawing: the palette as hovering, being disabled and so on change it.
-struct Shades {
-    QColor face, text, highlight, light, shadow, darkShadow, hotBorder, faceLight, flat;
-    QColor onHighlight;  // what a toggled-on face leans to
-    QColor bevelFace;    // what a bevel line that is softened leans to
-
-    explicit Shades(const GlintCanvas& canvas) {
-        const GlintPalette& palette = canvas.button.palette;
-        const bool hover = canvas.over && canvas.enabled;
-        face = toQColor(hover ? palette.FaceOverColour : palette.FaceColour);
-        text = toQColor(hover ? palette.TextOverColour : palette.TextColour);
-        highlight = toQColor(palette.HighlightColour);
-        light = toQColor(palette.LightColour);
-        shadow = toQColor(palette.ShadowColour);
-        darkShadow = toQColor(palette.DarkShadowColour);
-        hotBorder = toQColor(palette.HotBorderColour);
-        faceLight = toQColor(palette.FaceLightColour);
-        flat = mix(toQColor(palette.FaceColour), hotBorder, 0.55);
-        onHighlight = highlight;
-        bevelFace = canvas.enabled ? face : flat;
-        if (hover) highlight = mix(highlight, Qt::white, 0.25);
-        if (!canvas.enabled) {
-            highlight = mix(light, flat, 0.4);
-            light = mix(light, flat, 0.6);
-            shadow = mix(shadow, flat, 0.4);
-        }
-    }
-};
+/// The device pixels that are the button's, counted from its first. A cut that ends between two of
+/// them is rounded as the toolkit rounds it when it clips a window to its mask.
+QRegion shapeOf(const GlintCanvas& canvas) {
+    const GlintSize size = canvas.button.client;
+    QRegion shape{0, 0, size.width, size.height};
+    for (const GlintPixel& pixel : pixelsOutside(canvas.button.ButtonType, size))
+        shape -= QRect{pixel.x, pixel.y, 1, 1};
+    const QTransform toDevice = QTransform::fromScale(canvas.ratio, canvas.ratio) *
+                                QTransform::fromTranslate(canvas.corner.x(), canvas.corner.y());
+    return toDevice.map(shape).translated(-canvas.corner.toPoint());
+}
 
 /// One drawing in device pixels.
 class Drawing {
@@ -66,8 +41,10 @@ class Drawing {
           m_shades{canvas},
           m_ratio{canvas.ratio},
           m_line{std::max(1, static_cast<int>(std::floor(canvas.ratio)))},
-          m_width{qRound(m_button.client.width * canvas.ratio)},
-          m_height{qRound(m_button.client.height * canvas.ratio)},
+          m_step{qRound(canvas.ratio)},
+          m_shape{shapeOf(canvas)},
+          m_width{m_shape.boundingRect().width()},
+          m_height{m_shape.boundingRect().height()},
           m_pressed{canvas.state == kStatePressed},
           m_on{m_button.Value && m_button.CheckBoxBehaviour && !m_pressed},
           m_image{m_width, m_height, QImage::Format_ARGB32_Premultiplied} {}
@@ -75,6 +52,7 @@ class Drawing {
     QImage run() {
         m_image.fill(Qt::transparent);
         m_painter.begin(&m_image);
+        m_painter.setClipRegion(m_shape);
         drawFace();
         m_painter.end();
         drawPicture();
@@ -109,7 +87,7 @@ class Drawing {
     }
 
     void drawCommonFace() {
-        const Shades& s = m_shades;
+        const GlintShades& s = m_shades;
         const QRect all{0, 0, m_width, m_height};
         fillGradient(all);
         if (isSunken())
@@ -119,27 +97,30 @@ class Drawing {
     }
 
     void drawFlatFace() {
-        const Shades& s = m_shades;
+        const GlintShades& s = m_shades;
         const int u = m_line, right = m_width - u, bottom = m_height - u;
         fillGradient({u, u, m_width - 2 * u, m_height - 2 * u});
-        const QColor outline = m_canvas.enabled ? s.darkShadow : s.shadow;
-        const auto dot = [&](int x, int y) { fill({x, y, u, u}, outline); };
-        for (const int y : {0, bottom}) fill({2 * u, y, m_width - 4 * u, u}, outline);
-        for (const int x : {0, right}) fill({x, 2 * u, u, m_height - 4 * u}, outline);
-        for (const int x : {u, right - u})
-            for (const int y : {u, bottom - u}) dot(x, y);
         const QColor top = isSunken() ? s.shadow : s.highlight;
         const QColor low = isSunken() ? s.light : s.shadow;
         fill({2 * u, u, m_width - 4 * u, u}, top);
         fill({u, 2 * u, u, m_height - 4 * u}, mix(top, s.bevelFace, 0.45));
         fill({2 * u, bottom - u, m_width - 4 * u, u}, low);
         fill({right - u, 2 * u, u, m_height - 4 * u}, mix(low, s.bevelFace, 0.35));
+        for (const QRect& part : outline()) fill(part, m_canvas.enabled ? s.darkShadow : s.shadow);
+    }
+
+    /// What lies within a line's width of the shape's edge: it follows the cut corners.
+    QRegion outline() const {
+        QRegion inside = m_shape;
+        for (const QPoint& to : {QPoint{m_line, 0}, {-m_line, 0}, {0, m_line}, {0, -m_line}})
+            inside &= m_shape.translated(to);
+        return m_shape - inside;
     }
 
     void drawGlassFace() {
-        const Shades& s = m_shades;
+        const GlintShades& s = m_shades;
         const QRect all{0, 0, m_width, m_height};
-        if (!m_canvas.backdrop.isNull()) m_painter.drawImage(0, 0, m_canvas.backdrop);
+        if (!m_canvas.backdrop.isNull()) m_painter.drawImage(all, m_canvas.backdrop);
         const int u = m_line;
         fill(all.adjusted(u, u, -u, -u), glassTint());
         const QColor black = withAlpha(Qt::black, 70), gleam = withAlpha(s.highlight, 120);
@@ -158,7 +139,7 @@ class Drawing {
     }
 
     void drawDroppedFace() {
-        const Shades& s = m_shades;
+        const GlintShades& s = m_shades;
         QRect body{0, 0, m_width - m_line, m_height - m_line};
         const QRect drop = body.translated(m_line, m_line);
         if (m_pressed)
@@ -173,7 +154,7 @@ class Drawing {
     }
 
     void fillGradient(const QRect& area) {
-        const Shades& s = m_shades;
+        const GlintShades& s = m_shades;
         QColor top = mix(s.face, s.faceLight, 0.24), bottom = s.face;
         if (!m_canvas.enabled) {
             top = bottom = s.flat;
@@ -212,29 +193,16 @@ class Drawing {
 
     void drawPicture() {
         if (m_canvas.picture.isNull()) return;
-        const int step = movesContent() ? 1 : 0;
-        const GlintRect place = m_button.picturePlace.moved(step, step);
-        const QRect wanted{QPoint{qRound(place.left * m_ratio), qRound(place.top * m_ratio)},
-                           m_canvas.picture.size()};
-        const QRect area = wanted.intersected(m_image.rect());
-        if (area.isEmpty()) return;
-        const QImage source = m_canvas.picture.copy(area.translated(-wanted.topLeft()))
-                                  .convertToFormat(QImage::Format_BGR888);
-        QImage target = m_image.copy(area).convertToFormat(QImage::Format_BGR888);
+        const GlintRect& place = m_button.picturePlace;
+        const QPoint up{qRound(place.left * m_ratio), qRound(place.top * m_ratio)};
         std::optional<Colour> transparent;
         if (m_button.UseMaskColor) transparent = m_button.palette.MaskRGB;
-        TransferPicture(pixels<const std::uint8_t>(source.constBits(), source),
-                        pixels<std::uint8_t>(target.bits(), target), effects(), transparent);
-        m_painter.begin(&m_image);
-        m_painter.drawImage(area.topLeft(), target);
-        m_painter.end();
+        const QImage picture =
+            transparent ? m_canvas.picture : onGround(m_canvas.picture, m_shades.mask);
+        mergePicture(m_image, up + contentStep(), picture, effects(), transparent);
     }
 
-    template <typename Byte>
-    static PixelArray<Byte> pixels(Byte* bits, const QImage& image) {
-        return {std::span<Byte>{bits, static_cast<std::size_t>(image.sizeInBytes())}, image.width(),
-                image.height(), static_cast<int>(image.bytesPerLine())};
-    }
+    QPoint contentStep() const { return movesContent() ? QPoint{m_step, m_step} : QPoint{}; }
 
     TransferEffects effects() const {
         TransferEffects effects;
@@ -246,33 +214,37 @@ class Drawing {
 
     void drawCaption() {
         if (m_button.Caption.empty()) return;
-        const GlintRect place = movesContent() ? m_button.textPressed : m_button.text;
-        const QRectF area(place.left, place.top, place.width(), place.height());
-        m_painter.save();
-        m_painter.scale(m_ratio, m_ratio);
-        m_painter.setFont(m_canvas.font);
+        const QPoint place = contentStep(), aside{m_step, m_step};
         switch (m_button.SpecialEffect) {
             case 1:
-                drawText(area.translated(-1, -1), m_shades.highlight);
+                drawText(place - aside, m_shades.highlight);
                 break;
             case 2:
-                drawText(area.translated(1, 1), m_shades.highlight);
+                drawText(place + aside, m_shades.highlight);
                 break;
             case 3:
-                drawText(area.translated(1, 1), m_shades.darkShadow);
+                drawText(place + aside, m_shades.darkShadow);
                 break;
             default:
                 break;
         }
-        drawText(area, m_shades.text);
-        m_painter.restore();
+        drawText(place, m_shades.text);
     }
 
-    void drawText(const QRectF& area, const QColor& colour) {
+    /// Draws the caption that many device pixels from where it stands when the button is up: moved
+    /// by whole ones it keeps its form.
+    void drawText(const QPoint& from, const QColor& colour) {
+        const GlintRect& text = m_button.text;
+        m_painter.save();
+        m_painter.translate(from);
+        m_painter.scale(m_ratio, m_ratio);
+        m_painter.setFont(m_canvas.font);
         m_painter.setPen(colour);
         m_painter.drawText(
-            area, Qt::AlignCenter | Qt::TextWordWrap | Qt::TextShowMnemonic | Qt::TextDontClip,
+            QRectF(text.left, text.top, text.width(), text.height()),
+            Qt::AlignCenter | Qt::TextWordWrap | Qt::TextShowMnemonic | Qt::TextDontClip,
             QString::fromStdString(m_button.Caption));
+        m_painter.restore();
     }
 
     void drawVeil() {
@@ -282,7 +254,9 @@ class Drawing {
             fill(area, withAlpha(m_shades.flat, 120));
         } else if (!m_canvas.backdrop.isNull()) {
             m_painter.setOpacity(0.5);
-            m_painter.drawImage(area, m_canvas.backdrop, area);
+            m_painter.setClipRect(area);
+            m_painter.drawImage(m_image.rect(), m_canvas.backdrop);
+            m_painter.setClipping(false);
             m_painter.setOpacity(1);
         }
     }
@@ -312,9 +286,12 @@ class Drawing {
 
     const GlintCanvas& m_canvas;
     const GlintState& m_button;
-    Shades m_shades;
+    GlintShades m_shades;
     qreal m_ratio;
-    int m_line, m_width, m_height;
+    int m_line;  ///< a line's width
+    int m_step;  ///< a logical pixel, by which things move
+    QRegion m_shape;
+    int m_width, m_height;
     bool m_pressed, m_on;
     QImage m_image;
     QPainter m_painter;

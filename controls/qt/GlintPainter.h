@@ -5,8 +5,6 @@
 
 #include "controls/GlintState.h"
 
-class QPainter;
-
 namespace skylob {
 
 /// What a button's drawing is made of beside its state; valid for the one call.
@@ -16,13 +14,15 @@ struct GlintCanvas {
     bool over = false;     ///< drawn in the colours of hovering
     bool enabled = true;
     QFont font;
-    QImage picture;   ///< to be shown now, on the mask colour, in device pixels; null for none
-    QImage backdrop;  ///< style 11: what lies behind the button, in device pixels
-    qreal ratio = 1;  ///< device pixels per logical one
+    QImage picture;       ///< to be shown now, in device pixels; null for none
+    QImage backdrop;      ///< style 11: what lies behind the button, in device pixels
+    qreal ratio = 1;      ///< device pixels per logical one
+    QPointF corner = {};  ///< the button's upper left one in device pixels, not always whole
 };
 
-/// Draws the whole button from its palette and returns it in device pixels. Lines are whole
-/// device pixels and nothing but the caption is antialiased, so that it is sharp at any ratio.
+/// Draws the whole button from its palette and returns it in device pixels; the first of them
+/// belongs at the corner, rounded. Lines are whole device pixels and nothing but the caption is
+/// antialiased, so that it is sharp at any ratio.
 QImage paintGlintButton(const GlintCanvas& canvas);
 
 }  // namespace skylob

@@ -39,6 +39,19 @@ QString plainLines(const std::string& text) {
     return QString::fromStdString(text).remove(QLatin1Char{'\r'});
 }
 
+/// Makes the box so wide that its whole title can be read. The window manager draws the title, in a
+/// font that it keeps to itself, between its buttons: room for eight is enough for most of them.
+void fitTitle(QDialog& box) {
+    QFont font = box.font();
+    font.setBold(true);
+    const QFontMetrics metrics{font};
+    const int width = metrics.horizontalAdvance(box.windowTitle()) + 8 * metrics.height();
+    // Boxes take their widths from what is in them, so a text that is narrower gets more room.
+    for (QLabel* label : box.findChildren<QLabel*>())
+        if (label->pixmap().isNull() && label->sizeHint().width() < width)
+            label->setMinimumWidth(width);
+}
+
 /// Keeps the box over the window in use without making it that window's child, whose style
 /// sheet it would then wear.
 void placeOver(QDialog& box, const QWidget* window) {
@@ -60,6 +73,7 @@ BoxAnswer QtMessageBoxes::show(const MessageBox& box) {
     widget.setText(plainLines(box.text));
     if (question)
         widget.setDefaultButton(box.preset == BoxAnswer::No ? QMessageBox::No : QMessageBox::Yes);
+    fitTitle(widget);
     placeOver(widget, windowInUse());
     const int answer = widget.exec();
     if (!question) return BoxAnswer::Ok;
@@ -73,6 +87,7 @@ std::optional<std::string> QtMessageBoxes::ask(const InputBox& box) {
     widget.setLabelText(plainLines(box.prompt).replace(QLatin1Char{'&'}, QLatin1String{"&&"}));
     for (auto* label : widget.findChildren<QLabel*>()) label->setTextFormat(Qt::PlainText);
     widget.setTextValue(QString::fromStdString(box.entry));
+    fitTitle(widget);
     placeOver(widget, windowInUse());
     if (widget.exec() != QDialog::Accepted) return std::nullopt;
     return widget.textValue().normalized(QString::NormalizationForm_C).toStdString();

@@ -141,6 +141,25 @@ class frmPlayGameTest : public QObject {
         QCOMPARE(screen.shots(), 2u);
     }
 
+    void showsItsLabelsAsTheyMatter() {
+        Screen screen;
+        const auto label = [&](const char* begin) -> QLabel* {
+            for (QLabel* one : screen.form->findChildren<QLabel*>())
+                if (one->text().startsWith(QLatin1String{begin})) return one;
+            return nullptr;
+        };
+        QCOMPARE(label("Men Left")->font().weight(), QFont::DemiBold);
+        QCOMPARE(label("Men Left")->font().pixelSize(), 13);
+        QLabel* const gameSpeed = label("Game Speed");
+        int flights = 0;
+        screen.pacer.duringFlight = [&] {
+            ++flights;
+            QVERIFY(!gameSpeed->isEnabled());
+        };
+        QTest::mouseClick(screen.shoot(), Qt::LeftButton);
+        QVERIFY(flights > 0 && gameSpeed->isEnabled());
+    }
+
     void showsNamesAsTheyAre() {
         Screen screen{2, "<b>A&B</b>", "Computer"};
         const auto frames = screen.form->findChildren<QGroupBox*>();
@@ -228,6 +247,31 @@ class frmPlayGameTest : public QObject {
             QCOMPARE(screen.shots(), 1u);
             QVERIFY(!meteors->isChecked() && !screen.form->isVisible() && !timer->isActive());
         }
+    }
+
+    void boxesAreWideEnoughForTheirTitles() {
+        const char* const title = "Change the Highlighted Player's Name";
+        QtMessageBoxes boxes;
+        int room = 0;
+        bool isTextCut = false;
+        const auto measure = [&] {
+            QWidget* const box = QApplication::activeModalWidget();
+            for (const QLabel* label : box->findChildren<QLabel*>())
+                isTextCut = isTextCut || label->width() < label->sizeHint().width();
+            QFont bold = QApplication::font();
+            bold.setBold(true);
+            room = box->width() - QFontMetrics{bold}.horizontalAdvance(box->windowTitle());
+            box->close();
+        };
+        QTimer::singleShot(0, this, measure);
+        boxes.ask({title, "to...", ""});
+        QVERIFY(room >= 100);  // an icon and three or four buttons
+        QTimer::singleShot(0, this, measure);
+        boxes.show({title, "Yes?", BoxIcon::Question, BoxButtons::YesNo});
+        QVERIFY(room >= 100);
+        QTimer::singleShot(0, this, measure);
+        boxes.show({"?", "Are you sure you wish to remove Ann?"});
+        QVERIFY(!isTextCut);
     }
 
     void boxesShowPlainTextAndTakeClosingForNo() {

@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <QAccessible>
+#include <QDialog>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTemporaryFile>
@@ -89,6 +90,40 @@ class GlintButtonTest : public QObject {
         QTest::mouseClick(&form.first, Qt::LeftButton);
         form.first.press();
         QCOMPARE(form.taken(), QString{});
+    }
+
+    void isLetGoWithoutAWordWhenAWindowBlocksItsOwn() {
+        Form form;
+        QTest::mousePress(&form.first, Qt::LeftButton);
+        QCOMPARE(form.first.state().currentState, kStatePressed);
+        QDialog box;
+        box.setModal(true);
+        box.show();
+        QTRY_COMPARE(form.first.state().currentState, kStateUp);
+        box.close();
+        QCOMPARE(form.taken(), QString{"MouseDown"});
+        QTest::mouseRelease(&form.first, Qt::LeftButton);  // of another press, as far as it knows
+        QCOMPARE(form.taken(), QString{"MouseUp"});
+    }
+
+    void leavesBackAndForwardAlone() {
+        Form form;
+        QTest::mouseClick(&form.first, Qt::LeftButton);
+        form.taken();
+        QTest::mousePress(&form.first, Qt::LeftButton);
+        for (const auto button : {Qt::BackButton, Qt::ForwardButton}) {
+            QTest::mouseClick(&form.first, button);
+            QTest::mouseDClick(&form.first, button);
+        }
+        QCOMPARE(form.first.state().currentState, kStatePressed);
+        QTest::mouseRelease(&form.first, Qt::LeftButton);
+        QCOMPARE(form.taken(), QString{"MouseDown MouseUp Click"});
+        QTest::mousePress(&form.first, Qt::BackButton);
+        QCOMPARE(form.first.state().currentState, kStateUp);
+        QTest::mousePress(&form.first, Qt::MiddleButton);
+        QCOMPARE(form.first.state().currentState, kStatePressed);
+        QTest::mouseRelease(&form.first, Qt::MiddleButton);
+        QCOMPARE(form.taken(), QString{"MouseDown MouseUp"});
     }
 
     void hoversUntilThePointerLeaves() {

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QColor>
+
+namespace skylob {
+
+struct GlintCanvas;
+
+/// Part of the way from one colour to another: 0 is the one, 1 the other.
+QColor mix(const QColor& from, const QColor& to, double part);
+
+/// The colours of one drawing: the palette as hovering, being disabled and so on change it.
+struct GlintShades {
+    QColor face, text, highlight, light, shadow, darkShadow, hotBorder, faceLight, flat;
+    QColor mask;         ///< what is transparent in pictures
+    QColor onHighlight;  ///< what a toggled-on face leans to
+    QColor bevelFace;    ///< what a bevel line that is softened leans to
+
+    explicit GlintShades(const GlintCanvas& canvas);
+};
+
+}  // namespace skylob
