@@ -8,6 +8,7 @@
 #include "app/DiskFiles.h"
 #include "app/QtLinkOpener.h"
 #include "app/QtMessageBoxes.h"
+#include "app/QtModalGuard.h"
 #include "app/QtPacer.h"
 #include "app/QtSettingsStore.h"
 #include "app/QtShapes.h"
@@ -54,6 +55,9 @@ class Application : public QApplication {
     template <typename Form>
     void follow(Form* form, void (Form::*signal)(), Event event);
 
+    /// Shows the screen where the one before it stood.
+    void show(QWidget* screen);
+
     void showTitlePage();
     void showNewUser();
     void showPlayerList();
@@ -66,6 +70,7 @@ class Application : public QApplication {
     void quitWhenSilent();
     void fail(const char* why);
 
+    QtModalGuard m_modalGuard;
     SingleCopy m_singleCopy;
     SeededRandom m_random;
     SystemClock m_clock;
@@ -79,6 +84,7 @@ class Application : public QApplication {
     StringTable m_strings;
     basSkylob m_shared;
     PlayerFile m_playerFile;
+    QPointer<QWidget> m_screen;  ///< title page, player list or battle; it may have just left
     QPointer<frmPlayGame> m_battle;
     QPointer<frmManual> m_manual;
 };

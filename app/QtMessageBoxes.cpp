@@ -4,7 +4,8 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
-#include <QWindow>
+
+#include "app/QtPlacement.h"
 
 namespace skylob {
 
@@ -27,8 +28,10 @@ QString plainTitle(const std::string& title) {
     return QString::fromStdString(title).replace(QLatin1String{"[*]"}, QLatin1String{"[*][*]"});
 }
 
-/// The program's window in use, or any of its windows while another program is in use.
+/// The program's window in use, or any of its windows while another program is in use. A window
+/// behind a modal one is in nobody's use, although some desktops make it the active one.
 const QWidget* windowInUse() {
+    if (const QWidget* modal = QApplication::activeModalWidget()) return modal;
     if (const QWidget* active = QApplication::activeWindow()) return active;
     for (const QWidget* widget : QApplication::topLevelWidgets())
         if (widget->isVisible()) return widget;
@@ -37,14 +40,6 @@ const QWidget* windowInUse() {
 
 QString plainLines(const std::string& text) {
     return QString::fromStdString(text).remove(QLatin1Char{'\r'});
-}
-
-/// Keeps the box over the window in use without making it that window's child, whose style
-/// sheet it would then wear.
-void placeOver(QDialog& box, const QWidget* window) {
-    if (!window || !window->windowHandle()) return;
-    box.winId();
-    box.windowHandle()->setTransientParent(window->windowHandle());
 }
 
 }  // namespace
@@ -60,7 +55,7 @@ BoxAnswer QtMessageBoxes::show(const MessageBox& box) {
     widget.setText(plainLines(box.text));
     if (question)
         widget.setDefaultButton(box.preset == BoxAnswer::No ? QMessageBox::No : QMessageBox::Yes);
-    placeOver(widget, windowInUse());
+    keepAbove(widget, windowInUse());
     const int answer = widget.exec();
     if (!question) return BoxAnswer::Ok;
     return answer == QMessageBox::Yes ? BoxAnswer::Yes : BoxAnswer::No;
@@ -73,7 +68,7 @@ std::optional<std::string> QtMessageBoxes::ask(const InputBox& box) {
     widget.setLabelText(plainLines(box.prompt).replace(QLatin1Char{'&'}, QLatin1String{"&&"}));
     for (auto* label : widget.findChildren<QLabel*>()) label->setTextFormat(Qt::PlainText);
     widget.setTextValue(QString::fromStdString(box.entry));
-    placeOver(widget, windowInUse());
+    keepAbove(widget, windowInUse());
     if (widget.exec() != QDialog::Accepted) return std::nullopt;
     return widget.textValue().normalized(QString::NormalizationForm_C).toStdString();
 }

@@ -6,13 +6,16 @@ pkg_check_modules(XCB REQUIRED IMPORTED_TARGET xcb)
 
 add_library(skylob_ui STATIC
     app/Application.cpp
+    app/QtInput.cpp
     app/QtInputGate.cpp
     app/QtLinkLabel.cpp
     app/QtLinkOpener.cpp
     app/QtLook.cpp
     app/QtManualPrinter.cpp
     app/QtMessageBoxes.cpp
+    app/QtModalGuard.cpp
     app/QtPacer.cpp
+    app/QtPlacement.cpp
     app/QtScreenFade.cpp
     app/QtSettingsStore.cpp
     app/QtShapes.cpp

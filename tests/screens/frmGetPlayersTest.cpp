@@ -1,16 +1,21 @@
 #include "players/frmGetPlayers.h"
 
 #include <QAbstractItemModel>
+#include <QAbstractItemView>
 #include <QCheckBox>
+#include <QComboBox>
+#include <QDialog>
 #include <QHeaderView>
 #include <QLabel>
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTableView>
+#include <QTimer>
 #include <QtTest>
 
 #include "app/Fade.h"
+#include "app/QtModalGuard.h"
 #include "controls/GlintButton.h"
 #include "players/frmGetSkillLevel.h"
 #include "tests/support/Fakes.h"
@@ -137,6 +142,52 @@ class frmGetPlayersTest : public QObject {
         QTest::keyClick(screen.form.get(), Qt::Key_Escape);
         QCOMPARE(left.count(), 1);
         QVERIFY(!screen.form->isVisible());
+    }
+
+    void actsOnNothingBehindAModalWindow() {
+        const QtModalGuard guard;
+        LobbyScreen screen{record("Ann", kNew) + record("Bob", kNew)};
+        QSignalSpy help{screen.form.get(), &frmGetPlayers::helpWanted};
+        auto* const cmdHelp = screen.form->findChild<GlintButton*>("cmdHelp");
+        QWidget* const rows = screen.grid->viewport();
+        const auto useScreen = [&] {
+            for (const auto key : {Qt::Key_Return, Qt::Key_Delete, Qt::Key_F2, Qt::Key_Down})
+                QTest::keyClick(screen.grid, key);
+            for (const auto key : {Qt::Key_Escape, Qt::Key_F1})
+                QTest::keyClick(screen.form.get(), key);
+            QTest::keyClick(screen.form.get(), Qt::Key_C, Qt::AltModifier);
+            QTest::mouseClick(rows, Qt::LeftButton, {}, {40, 10});
+            QTest::mouseDClick(rows, Qt::LeftButton, {}, {40, 10});
+            QTest::mouseClick(cmdHelp, Qt::LeftButton);
+        };
+        QDialog modal;
+        QComboBox box{&modal};
+        box.addItems({"one", "two"});
+        modal.setModal(true);
+        QTest::mousePress(cmdHelp, Qt::LeftButton);
+        modal.show();
+        QCOMPARE(cmdHelp->state().currentState, kStateUp);
+        QTest::mouseRelease(cmdHelp, Qt::LeftButton);
+        useScreen();  // in haste: its shortcuts still see it as the active window
+        QVERIFY(QTest::qWaitForWindowActive(&modal));
+        useScreen();
+        QSignalSpy activated{qApp, &QGuiApplication::focusWindowChanged};
+        screen.form->activateWindow();  // as a click on it does on some desktops
+        QTRY_COMPARE(activated.count(), 2);
+        QVERIFY(modal.isActiveWindow());
+        QCOMPARE(screen.log, Log{});
+        QCOMPARE(help.count(), 0);
+        QVERIFY(!screen.shows("Ann") && screen.grid->currentIndex().row() == 0);
+
+        box.showPopup();
+        QTest::keyClick(box.view(), Qt::Key_Down);
+        QTest::keyClick(box.view(), Qt::Key_Return);
+        QCOMPARE(box.currentText(), QStringLiteral("two"));
+        modal.close();
+        QTest::mouseClick(cmdHelp, Qt::LeftButton);
+        QTest::mouseClick(rows, Qt::LeftButton, {}, {40, 10});
+        QTest::mouseDClick(rows, Qt::LeftButton, {}, {40, 10});
+        QVERIFY(help.count() == 1 && screen.shows("Ann"));
     }
 
     void takesTheSkillLevel() {
