@@ -18,15 +18,14 @@ QWidget* widgetOf(QObject* object) {
     return static_cast<QWidget*>(object);
 }
 
-/// Windows that are not widgets are left to the toolkit, which blocks them itself.
+/// Windows that are not widgets are left to the toolkit, which blocks them itself. A menu is never
+/// behind: those of other windows were closed when the modal window came up.
 bool isBehindModalWindow(QObject* object) {
     const QWindow* modal = QGuiApplication::modalWindow();
     const QWidget* widget = modal ? widgetOf(object) : nullptr;
     if (!widget) return false;
-    // A menu's parent is where it was opened, in a window of its own.
-    for (; widget; widget = widget->parentWidget())
-        if (widget->windowHandle() == modal) return false;
-    return true;
+    const QWidget* window = widget->window();
+    return window->windowHandle() != modal && window->windowType() != Qt::Popup;
 }
 
 /// Not every desktop keeps a modal window above the others.
