@@ -7,6 +7,7 @@
 
 #include "app/Main.h"
 #include "base/NullPorts.h"
+#include "battle/HeadlessBattle.h"
 #include "battle/qt/frmPlayGame.h"
 #include "controls/qt/GlintButtonAccessible.h"
 #include "manual/qt/frmManual.h"
@@ -14,6 +15,7 @@
 #include "players/qt/frmGetSkillLevel.h"
 #include "players/qt/frmSummary.h"
 #include "screen/qt/QtLinkLabel.h"
+#include "screen/qt/QtPlacement.h"
 #include "title/qt/frmNewUser.h"
 #include "title/qt/frmTitlePage.h"
 
@@ -109,17 +111,26 @@ void Application::follow(Form* form, void (Form::*signal)(), Event event) {
     });
 }
 
+void Application::show(QWidget* screen) {
+    centreOver(*screen, m_screen);
+    m_screen = screen;
+    screen->show();
+}
+
 void Application::showTitlePage() {
     auto* page = new frmTitlePage{m_shared,
                                   {m_clock, m_sounds, m_settings, m_links, m_boxes, m_shapes,
                                    [this] { after(Event::NewUserCame); }}};
     follow(page, &frmTitlePage::continued, Event::TitlePageContinued);
     follow(page, &frmTitlePage::closed, Event::TitlePageClosed);
-    page->show();
+    show(page);
 }
 
 void Application::showNewUser() {
-    frmNewUser{m_shared, m_strings.text(kOverviewText), m_settings, m_shapes}.exec();
+    frmNewUser welcome{m_shared, m_strings.text(kOverviewText), m_settings, m_shapes};
+    centreOver(welcome, m_screen);
+    keepAbove(welcome, m_screen);
+    welcome.exec();
 }
 
 void Application::showPlayerList() {
@@ -129,13 +140,14 @@ void Application::showPlayerList() {
     connect(list, &frmGetPlayers::helpWanted, this, [this] { after(Event::HelpWanted); });
     follow(list, &frmGetPlayers::battleChosen, Event::PlayersChosen);
     follow(list, &frmGetPlayers::programLeft, Event::PlayerListLeft);
-    list->show();
+    show(list);
 }
 
 void Application::showManual() {
     if (!m_manual) {
         m_manual = new frmManual{m_shared, {m_strings, m_settings, m_links, m_boxes, m_shapes}};
         connect(m_manual, &frmManual::returned, m_manual, &QObject::deleteLater);
+        centreOver(*m_manual, m_screen);
         m_manual->show();
     }
     m_manual->setWindowState(m_manual->windowState() & ~Qt::WindowMinimized);
@@ -144,7 +156,10 @@ void Application::showManual() {
 }
 
 void Application::showSkillLevel() {
-    frmGetSkillLevel{m_shared, m_settings, m_shapes}.exec();
+    frmGetSkillLevel question{m_shared, m_settings, m_shapes};
+    centreOnDisplay(question, m_screen);
+    keepAbove(question, m_screen);
+    question.exec();
 }
 
 void Application::showBattle() {
@@ -155,7 +170,7 @@ void Application::showBattle() {
                                                                         : Event::SetDecided);
                                    }}};
     follow(m_battle.get(), &frmPlayGame::battleClosed, Event::BattleLeft);
-    m_battle->show();
+    show(m_battle);
 }
 
 void Application::showRoundSummary() {
@@ -170,12 +185,14 @@ void Application::showSummary(SummaryKind kind) {
     SilentSounds silence;
     SoundPlayer& sounds =
         m_battle->battle().state().SoundOn ? static_cast<SoundPlayer&>(m_sounds) : silence;
-    frmSummary{m_shared,
-               kind,
-               {m_clock, m_random, sounds, m_boxes, m_strings, m_playerFile},
-               m_settings,
-               m_shapes}
-        .exec();
+    frmSummary summary{m_shared,
+                       kind,
+                       {m_clock, m_random, sounds, m_boxes, m_strings, m_playerFile},
+                       m_settings,
+                       m_shapes};
+    centreOver(summary, m_screen);
+    keepAbove(summary, m_screen);
+    summary.exec();
 }
 
 void Application::quitWhenSilent() {

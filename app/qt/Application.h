@@ -20,6 +20,7 @@
 #include "platform/qt/SdlSoundPlayer.h"
 #include "players/PlayerFile.h"
 #include "screen/qt/QtMessageBoxes.h"
+#include "screen/qt/QtModalGuard.h"
 
 namespace skylob {
 
@@ -56,6 +57,9 @@ class Application : public QApplication {
     template <typename Form>
     void follow(Form* form, void (Form::*signal)(), Event event);
 
+    /// Shows the screen where the one before it stood.
+    void show(QWidget* screen);
+
     void showTitlePage();
     void showNewUser();
     void showPlayerList();
@@ -68,6 +72,7 @@ class Application : public QApplication {
     void quitWhenSilent();
     void fail(const char* why);
 
+    QtModalGuard m_modalGuard;
     SingleCopy m_singleCopy;
     SeededRandom m_random;
     SystemClock m_clock;
@@ -81,6 +86,7 @@ class Application : public QApplication {
     StringTable m_strings;
     basSkylob m_shared;
     PlayerFile m_playerFile;
+    QPointer<QWidget> m_screen;  ///< title page, player list or battle; it may have just left
     QPointer<frmPlayGame> m_battle;
     QPointer<frmManual> m_manual;
 };

@@ -62,7 +62,6 @@ frmPlayGame::frmPlayGame(basSkylob& shared, const frmPlayGamePorts& ports)
     addShortcuts();
     setTabOrder();
     showPanel(m_battle.controls().panel());
-    centreOnDisplay(*this);
     m_fade->load();
 }
 

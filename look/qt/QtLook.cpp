@@ -4,12 +4,10 @@
 #include <QIcon>
 #include <QLabel>
 #include <QPalette>
-#include <QScreen>
 #include <QStyle>
 #include <QTextDocument>
 #include <QVariant>
 #include <QWidget>
-#include <algorithm>
 
 namespace skylob {
 
@@ -76,13 +74,6 @@ void showFitting(QLabel& label, const QString& text, std::initializer_list<int> 
     label.setText(shown);
     // Made into markup, because a name that looks like markup would be taken for it.
     label.setToolTip(shown == text ? QString{} : Qt::convertFromPlainText(text));
-}
-
-void centreOnDisplay(QWidget& screen) {
-    const QRect display = screen.screen()->availableGeometry();
-    const QPoint middle = display.center() - screen.rect().center();
-    // Of a screen that is larger than its display the upper left corner is seen.
-    screen.move(std::max(middle.x(), display.left()), std::max(middle.y(), display.top()));
 }
 
 void setStyleProperty(QWidget& widget, const char* name, int value) {

@@ -17,10 +17,6 @@ void applyLook(QWidget& screen);
 /// the last one it is cut at its end if it has to be, and stands whole in the tool tip.
 void showFitting(QLabel& label, const QString& text, std::initializer_list<int> sizes);
 
-/// Moves a window of fixed size to the middle of its display, or, where it is too large for that,
-/// to the display's upper left corner.
-void centreOnDisplay(QWidget& screen);
-
 /// Changes a property that the style sheet selects by, and lets the change show.
 void setStyleProperty(QWidget& widget, const char* name, int value);
 

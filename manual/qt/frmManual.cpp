@@ -56,7 +56,6 @@ frmManual::frmManual(basSkylob& shared, const frmManualPorts& ports)
     makeButtons();
     txtManual->setFocus();
     menuHelpTopic_Click(0);
-    centreOnDisplay(*this);
     m_fade->load();
 }
 

@@ -64,7 +64,6 @@ frmGetPlayers::frmGetPlayers(basSkylob& shared, const frmGetPlayersPorts& ports)
     addShortcuts();
     setTabOrder();
     showPairing(m_lobby.pairing());
-    centreOnDisplay(*this);
     m_fade->load();
 }
 

@@ -48,7 +48,6 @@ frmGetSkillLevel::frmGetSkillLevel(basSkylob& shared, const SettingsStore& setti
         if (level.index == kFair) button->setFocus();
         centredLabel(tr(level.hint), "note", {level.left, 180, 140, 20}, this);
     }
-    centreOnDisplay(*this);
     m_fade->load();
 }
 

@@ -65,7 +65,6 @@ frmSummary::frmSummary(basSkylob& shared, SummaryKind kind, const SummaryPorts& 
     auto* timerDateTime = new QTimer{this};
     connect(timerDateTime, &QTimer::timeout, this, &frmSummary::timerDateTime_Timer);
     timerDateTime->start(kMinute);
-    centreOnDisplay(*this);
     m_fade->load();
 }
 

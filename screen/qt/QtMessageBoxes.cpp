@@ -4,7 +4,8 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
-#include <QWindow>
+
+#include "screen/qt/QtPlacement.h"
 
 namespace skylob {
 
@@ -27,8 +28,10 @@ QString plainTitle(const std::string& title) {
     return QString::fromStdString(title).replace(QLatin1String{"[*]"}, QLatin1String{"[*][*]"});
 }
 
-/// The program's window in use, or any of its windows while another program is in use.
+/// The program's window in use, or any of its windows while another program is in use. A window
+/// behind a modal one is in nobody's use, although some desktops make it the active one.
 const QWidget* windowInUse() {
+    if (const QWidget* modal = QApplication::activeModalWidget()) return modal;
     if (const QWidget* active = QApplication::activeWindow()) return active;
     for (const QWidget* widget : QApplication::topLevelWidgets())
         if (widget->isVisible()) return widget;
@@ -52,14 +55,6 @@ void fitTitle(QDialog& box) {
             label->setMinimumWidth(width);
 }
 
-/// Keeps the box over the window in use without making it that window's child, whose style
-/// sheet it would then wear.
-void placeOver(QDialog& box, const QWidget* window) {
-    if (!window || !window->windowHandle()) return;
-    box.winId();
-    box.windowHandle()->setTransientParent(window->windowHandle());
-}
-
 }  // namespace
 
 BoxAnswer QtMessageBoxes::show(const MessageBox& box) {
@@ -74,7 +69,7 @@ BoxAnswer QtMessageBoxes::show(const MessageBox& box) {
     if (question)
         widget.setDefaultButton(box.preset == BoxAnswer::No ? QMessageBox::No : QMessageBox::Yes);
     fitTitle(widget);
-    placeOver(widget, windowInUse());
+    keepAbove(widget, windowInUse());
     const int answer = widget.exec();
     if (!question) return BoxAnswer::Ok;
     return answer == QMessageBox::Yes ? BoxAnswer::Yes : BoxAnswer::No;
@@ -88,7 +83,7 @@ std::optional<std::string> QtMessageBoxes::ask(const InputBox& box) {
     for (auto* label : widget.findChildren<QLabel*>()) label->setTextFormat(Qt::PlainText);
     widget.setTextValue(QString::fromStdString(box.entry));
     fitTitle(widget);
-    placeOver(widget, windowInUse());
+    keepAbove(widget, windowInUse());
     if (widget.exec() != QDialog::Accepted) return std::nullopt;
     return widget.textValue().normalized(QString::NormalizationForm_C).toStdString();
 }

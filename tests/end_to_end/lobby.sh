@@ -34,7 +34,7 @@ press "$lobby" Down F2
 enter "Change the Highlighted" Grace
 expect_players "Ada & <b>Bert</b>" Grace
 add Eve
-press "$lobby" End Delete
+press "$lobby" --delay 0 End Delete Delete # in haste: asks only once
 shown Confirm
 press Confirm Return # No
 gone Confirm

@@ -46,7 +46,6 @@ frmNewUser::frmNewUser(basSkylob& shared, const std::string& overview, SettingsS
     connect(cmdContinue, &GlintButton::Click, this, &frmNewUser::cmdContinue_Click);
     QWidget::setTabOrder(cmdContinue, chkDontShow);
     cmdContinue->setFocus();
-    centreOnDisplay(*this);
     m_fade->load();
 }
 

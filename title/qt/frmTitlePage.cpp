@@ -43,7 +43,6 @@ frmTitlePage::frmTitlePage(basSkylob& shared, const frmTitlePagePorts& ports)
         QStringLiteral("cmdContinue"), {456, 368, 160, 48});
     cmdContinue->setFocus();
     connect(cmdContinue, &GlintButton::Click, this, &frmTitlePage::cmdContinue_Click);
-    centreOnDisplay(*this);
 }
 
 void frmTitlePage::makeLabels() {

@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QCheckBox>
+#include <QDialog>
 #include <QGroupBox>
 #include <QLabel>
 #include <QMessageBox>
@@ -9,6 +10,7 @@
 #include <QShortcut>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
 
 #include "battle/qt/picGameField.h"
 #include "controls/qt/GlintButton.h"
@@ -274,12 +276,19 @@ class frmPlayGameTest : public QObject {
         QVERIFY(!isTextCut);
     }
 
-    void boxesShowPlainTextAndTakeClosingForNo() {
+    void boxesShowPlainTextAboveTheModalWindowAndTakeClosingForNo() {
         QtMessageBoxes boxes;
-        QTimer::singleShot(0, this, [] {
+        QDialog modal;
+        QWidget behind;
+        modal.setModal(true);
+        modal.show();
+        behind.show();
+        QVERIFY(QTest::qWaitForWindowActive(&behind));
+        QTimer::singleShot(0, this, [&modal] {
             auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
             QVERIFY(box && box->textFormat() == Qt::PlainText);
             QCOMPARE(box->text(), QStringLiteral("<b>?</b>\n\nReally"));
+            QCOMPARE(box->windowHandle()->transientParent(), modal.windowHandle());
             QTest::keyClick(box, Qt::Key_Escape);
         });
         QVERIFY(boxes.show({"", "<b>?</b>\r\n\r\nReally", BoxIcon::Question, BoxButtons::YesNo}) ==

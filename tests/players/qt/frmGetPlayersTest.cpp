@@ -1,18 +1,26 @@
 #include "players/qt/frmGetPlayers.h"
 
 #include <QAbstractItemModel>
+#include <QAbstractItemView>
 #include <QCheckBox>
+#include <QCompleter>
+#include <QDialog>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLineEdit>
 #include <QRadioButton>
 #include <QScrollBar>
+#include <QShortcut>
+#include <QShortcutEvent>
 #include <QSignalSpy>
 #include <QTableView>
+#include <QTimer>
 #include <QtTest>
 
 #include "controls/qt/GlintButton.h"
 #include "players/qt/frmGetSkillLevel.h"
 #include "screen/Fade.h"
+#include "screen/qt/QtModalGuard.h"
 #include "tests/support/Fakes.h"
 #include "tests/support/PlayersRig.h"
 
@@ -137,6 +145,52 @@ class frmGetPlayersTest : public QObject {
         QTest::keyClick(screen.form.get(), Qt::Key_Escape);
         QCOMPARE(left.count(), 1);
         QVERIFY(!screen.form->isVisible());
+    }
+
+    void actsOnNothingBehindAModalWindow() {
+        const QtModalGuard guard;
+        LobbyScreen screen{record("Ann", kNew) + record("Bob", kNew)};
+        QSignalSpy help{screen.form.get(), &frmGetPlayers::helpWanted};
+        auto* const cmdHelp = screen.form->findChild<GlintButton*>("cmdHelp");
+        QWidget* const rows = screen.grid->viewport();
+        const auto useScreen = [&] {
+            QTest::keyClick(screen.grid, Qt::Key_Down);
+            // As the toolkit sends them while it takes the screen for the active window.
+            for (auto* shortcut : screen.form->findChildren<QShortcut*>()) {
+                QT_IGNORE_DEPRECATIONS(QShortcutEvent event(shortcut->key(), shortcut->id());)
+                QCoreApplication::sendEvent(shortcut, &event);
+            }
+            QTest::mouseClick(rows, Qt::LeftButton, {}, {40, 10});
+            QTest::mouseDClick(rows, Qt::LeftButton, {}, {40, 10});
+            QTest::mouseClick(cmdHelp, Qt::LeftButton);
+        };
+        QDialog modal;
+        QLineEdit entry{&modal};
+        entry.setCompleter(new QCompleter{{"one"}, &modal});  // whose list has no parent
+        modal.setModal(true);
+        QTest::mousePress(cmdHelp, Qt::LeftButton);
+        modal.show();
+        QCOMPARE(cmdHelp->state().currentState, kStateUp);
+        QTest::mouseRelease(cmdHelp, Qt::LeftButton);
+        QVERIFY(QTest::qWaitForWindowActive(&modal));
+        useScreen();
+        QSignalSpy activated{qApp, &QGuiApplication::focusWindowChanged};
+        screen.form->activateWindow();  // as a click on it does on some desktops
+        QTRY_COMPARE(activated.count(), 2);
+        QVERIFY(modal.isActiveWindow());
+        QCOMPARE(screen.log, Log{});
+        QCOMPARE(help.count(), 0);
+        QVERIFY(!screen.shows("Ann") && screen.grid->currentIndex().row() == 0);
+
+        QTest::keyClick(&entry, Qt::Key_O);
+        for (const auto key : {Qt::Key_Down, Qt::Key_Return})
+            QTest::keyClick(entry.completer()->popup(), key);
+        QCOMPARE(entry.text(), QStringLiteral("one"));
+        modal.close();
+        QTest::mouseClick(cmdHelp, Qt::LeftButton);
+        QTest::mouseClick(rows, Qt::LeftButton, {}, {40, 10});
+        QTest::mouseDClick(rows, Qt::LeftButton, {}, {40, 10});
+        QVERIFY(help.count() == 1 && screen.shows("Ann"));
     }
 
     void takesTheSkillLevel() {

@@ -1,0 +1,21 @@
+#pragma once
+
+class QWidget;
+
+namespace skylob {
+
+// Where a window comes up that has not been shown yet: on the display of the window `before` it,
+// which may just have hidden itself. Without one, on the display where the pointer is. What does
+// not fit on its display shows its upper left corner. A desktop may choose places itself.
+
+/// In the middle of the window before it, moved as far as need be to be wholly on the display.
+void centreOver(QWidget& window, const QWidget* before);
+
+/// In the middle of the display.
+void centreOnDisplay(QWidget& window, const QWidget* before);
+
+/// Has the desktop keep a window above another one, without making it that window's child, whose
+/// style sheet it would then wear.
+void keepAbove(QWidget& window, const QWidget* other);
+
+}  // namespace skylob
