@@ -13,6 +13,7 @@
 #include "app/Fade.h"
 #include "controls/GlintButton.h"
 #include "players/frmGetSkillLevel.h"
+#include "players/frmSummary.h"
 #include "tests/support/Fakes.h"
 #include "tests/support/PlayersRig.h"
 
@@ -126,6 +127,26 @@ class frmGetPlayersTest : public QObject {
         option("Enabled")->click();
         QVERIFY(option("Disabled")->isChecked());
         QCOMPARE(screen.settings.get("FadeStatus", ""), "False"s);
+    }
+
+    void sumsUpBothSidesFromTheStart() {
+        World world;
+        world.shared.PlayerName = {"Ann", "Bob"};
+        world.shared.RoundsWon = {3, 0};
+        world.shared.RoundKills = {17, 100};
+        world.shared.TotalKills = {-32768, 122};
+        ScriptedRandom random{{}, 0};
+        const StringTable strings;
+        const frmSummary form{world.shared,
+                              SummaryKind::Round,
+                              {world.clock, random, world.sounds, world.boxes, strings, world.file},
+                              world.settings,
+                              world.shapes};
+        QString figures;
+        for (const char* name : {"labelRoundsWon(%1)", "labelKills(%1)", "labelTotalKills(%1)"})
+            for (const int side : {1, 2})
+                figures += form.findChild<QLabel*>(QString{name}.arg(side))->text() + " ";
+        QCOMPARE(figures, QStringLiteral("3 0 17 100 -32768 122 "));
     }
 
     void leavesOnlyWhenConfirmed() {
