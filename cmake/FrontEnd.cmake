@@ -19,6 +19,7 @@ add_library(skylob_ui STATIC
     app/QtSideFrame.cpp
     app/QtTitleAnimation.cpp
     app/QtTitlePicture.cpp
+    app/SdlSoundDevice.cpp
     app/SdlSoundPlayer.cpp
     app/SingleCopy.cpp
     app/frmManual.cpp
