@@ -1,7 +1,9 @@
 #include "app/qt/Application.h"
 
+#include <QDeadlineTimer>
 #include <QFile>
 #include <QTimer>
+#include <chrono>
 #include <cstdlib>
 #include <exception>
 
@@ -60,6 +62,9 @@ namespace {
 
 constexpr int kOverviewText = 1000;  ///< the manual's first topic
 
+// How long the program's end waits for sounds: a sound system that hangs would never end.
+constexpr std::chrono::milliseconds kPatienceWithSounds{3000}, kPatienceWithClosing{1000};
+
 std::string resourceText(const QString& name) {
     QFile file{name};
     if (!file.open(QIODevice::ReadOnly)) qFatal("a text of the program is missing");
@@ -94,7 +99,9 @@ int Application::run() {
     } catch (const std::exception& error) {
         fail(error.what());
     }
-    return exec();
+    const int status = exec();
+    if (!m_sounds.close(kPatienceWithClosing)) std::_Exit(status);
+    return status;
 }
 
 void Application::after(Event event) {
@@ -200,8 +207,9 @@ void Application::quitWhenSilent() {
     if (m_manual) m_manual->hide();  // not deleted yet: it may be at work on a print
     m_singleCopy.release();
     auto* timer = new QTimer{this};
-    connect(timer, &QTimer::timeout, this, [this] {
-        if (!m_sounds.isPlaying()) quit();
+    const QDeadlineTimer deadline{kPatienceWithSounds};
+    connect(timer, &QTimer::timeout, this, [this, deadline] {
+        if (!m_sounds.isPlaying() || deadline.hasExpired()) quit();
     });
     timer->start(kPause);
 }

@@ -1,8 +1,12 @@
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <QDir>
 #include <QStandardPaths>
 #include <QtGlobal>
 #include <cstdio>
 #include <cstdlib>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -14,8 +18,26 @@ namespace {
 
 constexpr int kUnusableArguments = 2;
 
-void print(std::string_view text) {
-    std::fwrite(text.data(), 1, text.size(), stdout);
+/// Gives descriptors 0 to 2 to /dev/null where they are closed. The next files to be opened would
+/// get them, and what is printed or redirected later would go into those.
+void fillStandardDescriptors() {
+    int descriptor = 0;
+    while (descriptor >= 0 && descriptor <= STDERR_FILENO) descriptor = open("/dev/null", O_RDWR);
+    if (descriptor >= 0) close(descriptor);
+}
+
+/// Answers on standard output. Returns the exit status.
+int print(std::string_view text) {
+    if (std::fwrite(text.data(), 1, text.size(), stdout) == text.size() && std::fflush(stdout) == 0)
+        return EXIT_SUCCESS;
+    std::perror("skylob: cannot write to the standard output");
+    return EXIT_FAILURE;
+}
+
+/// Empty when the toolkit, for which names are UTF-8, would make another folder of it.
+QString folderNamed(const std::string& bytes) {
+    const QString name = QString::fromStdString(bytes);
+    return name.toStdString() == bytes ? name : QString{};
 }
 
 /// Makes the chosen folder the working directory.
@@ -24,7 +46,11 @@ bool enterDataFolder(const skylob::CommandLine& commandLine) {
     const QString folder =
         commandLine.userData
             ? QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/Skylob"
-            : QString::fromStdString(*commandLine.dataDir);
+            : folderNamed(*commandLine.dataDir);
+    if (folder.isEmpty()) {
+        std::fputs("skylob: --data-dir needs a folder with a name in UTF-8\n", stderr);
+        return false;
+    }
     if (QDir{}.mkpath(folder) && QDir::setCurrent(folder)) return true;
     std::fprintf(stderr, "skylob: cannot use the folder '%s'\n", qPrintable(folder));
     return false;
@@ -48,18 +74,15 @@ void endWhereThereIsNoDisplay(QtMsgType type, const QMessageLogContext&, const Q
 }  // namespace
 
 int main(int argc, char** argv) {
+    fillStandardDescriptors();
     using Request = skylob::CommandLine::Request;
     const std::vector<std::string_view> arguments{argv + 1, argv + argc};
     const auto commandLine = skylob::parseCommandLine(arguments);
     switch (commandLine.request) {
         case Request::Help:
-            print(skylob::commandLineHelp());
-            return 0;
+            return print(skylob::commandLineHelp());
         case Request::Version:
-            print("Skylob ");
-            print(skylob::kVersion);
-            print("\n");
-            return 0;
+            return print("Skylob " + std::string{skylob::kVersion} + "\n");
         case Request::Refused:
             std::fprintf(stderr, "skylob: %s\n", commandLine.error.c_str());
             return kUnusableArguments;

@@ -1,24 +1,23 @@
 #pragma once
 
-#include <QTimer>
-#include <map>
+#include <chrono>
 #include <memory>
-#include <string>
 
 #include "base/SoundPlayer.h"
 
-struct Mix_Chunk;
-
 namespace skylob {
 
-/// Plays the sounds compiled into the program, one at a time, from the audio library's own
-/// thread: a sound goes on while the user-interface thread is busy. Without a sound device the
-/// game plays on in silence, after one line on standard error.
+/// Plays the sounds compiled into the program, one at a time and on threads of its own: a sound
+/// goes on while the user-interface thread is busy, and a sound system that does not answer keeps
+/// nobody else waiting. Without a sound device the game plays on in silence, after one line on
+/// standard error.
+///
+/// The device is opened when a sound is to be played, and closed again when nothing has been
+/// heard for some seconds: an open one costs processor time even in silence.
 class SdlSoundPlayer final : public SoundPlayer {
   public:
-    /// The device is opened when a sound is to be played, and closed again when nothing has been
-    /// heard for some seconds: an open one costs processor time even in silence.
     SdlSoundPlayer();
+    /// Closes the device, unless that takes more than a second.
     ~SdlSoundPlayer() override;
 
     SdlSoundPlayer(const SdlSoundPlayer&) = delete;
@@ -26,23 +25,18 @@ class SdlSoundPlayer final : public SoundPlayer {
 
     void PlaySound(std::string_view name) override;
 
-    /// True while a sound can be heard.
+    /// True while a sound can be heard, or waits for the device to open.
     bool isPlaying() const;
 
+    /// Closes the device for good. Returns false when that takes longer than `patience`: a
+    /// thread still waits for the sound system then, and the process should end by _Exit.
+    bool close(std::chrono::milliseconds patience);
+
   private:
-    struct FreeChunk {
-        void operator()(Mix_Chunk* chunk) const;
-    };
-    using Chunk = std::unique_ptr<Mix_Chunk, FreeChunk>;
+    struct Desk;
+    static void serve(const std::shared_ptr<Desk>& desk);
 
-    bool openDevice();
-    void closeDevice();
-    Mix_Chunk* chunk(const std::string& name);
-
-    enum class Device { Closed, Open, Missing };
-    Device m_device = Device::Closed;
-    std::map<std::string, Chunk> m_chunks;
-    QTimer m_silenceTimer;
+    std::shared_ptr<Desk> m_desk;  ///< shared with the thread, which may outlive the player
 };
 
 }  // namespace skylob

@@ -142,7 +142,7 @@ void frmGetPlayers::addShortcuts() {
         connect(shortcut, &QShortcut::activated, where, std::move(action));
     };
     onKey(this, Qt::Key_Escape, [this] { m_lobby.cmdQuit_Click(); });
-    onKey(this, Qt::Key_F1, [this] { emit helpWanted(); });
+    onKey(this, Qt::Key_F1, [this] { Form_KeyDown(); });
     onKey(this, Qt::ALT | Qt::Key_C, [this] { chkComputer->click(); });
     onKey(
         grid, Qt::Key_F2, [this] { m_lobby.cmdModify_Click(grid->highlighted()); },
@@ -172,6 +172,10 @@ void frmGetPlayers::setTabOrder() {
                                 cmdQuit};
     for (qsizetype i = 1; i < order.size(); ++i) QWidget::setTabOrder(order[i - 1], order[i]);
     grid->setFocus();
+}
+
+void frmGetPlayers::Form_KeyDown() {
+    emit helpWanted();
 }
 
 void frmGetPlayers::Form_Activate() {

@@ -68,6 +68,7 @@ class frmGetPlayers : public QWidget, private LobbyView {
     void addShortcuts();
     void setTabOrder();
     void Form_Activate();
+    void Form_KeyDown();  ///< F1
 
     basSkylob& m_shared;
     frmGetPlayersPorts m_ports;

@@ -30,13 +30,16 @@ QLabel* makeLabel(const QRect& place, const char* role, QWidget* parent) {
     return label;
 }
 
-void addRow(QtSideFrame& frame, int top, const QString& text, int number) {
+/// A row of a caption and a figure. Returns the figure's label.
+QLabel* addRow(QtSideFrame& frame, int top, const QString& text, const char* name, int number) {
     constexpr int kRowHeight = 28;
     makeLabel({12, top, 190, kRowHeight}, "caption", &frame)->setText(text);
     auto* figure = makeLabel({204, top, 60, kRowHeight}, "figure", &frame);
+    figure->setObjectName(QStringLiteral("%1(%2)").arg(QLatin1String{name}).arg(frame.side()));
     figure->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     figure->setText(QString::number(number));
     figure->setAccessibleName(QStringLiteral("%1: %2").arg(text).arg(number));
+    return figure;
 }
 
 void addRule(QtSideFrame& frame, int top) {
@@ -60,6 +63,7 @@ frmSummary::frmSummary(basSkylob& shared, SummaryKind kind, const SummaryPorts& 
     applyLook(*this);
     setFixedSize(600, 444);
     for (QLabel* line : {label, labelDateTime}) line->setAlignment(Qt::AlignCenter);
+    makeFrames();
     makeBubble();
     makeOkay();
     auto* timerDateTime = new QTimer{this};
@@ -70,17 +74,19 @@ frmSummary::frmSummary(basSkylob& shared, SummaryKind kind, const SummaryPorts& 
 
 void frmSummary::makeFrames() {
     for (const int side : {1, 2}) {
-        auto* frame = new QtSideFrame{side, this};
-        frame->setGeometry(kFrames[side - 1]);
-        frame->setCaption(QString::fromStdString(m_shared.PlayerName[side]));
-        frame->setBadge(QtSideFrame::Badge::Filled);
-        frame->setTurn(side == m_shared.Winner);
-        addRow(*frame, 36, tr("Rounds won"), m_shared.RoundsWon[side]);
-        addRule(*frame, 66);
-        addRow(*frame, 68, tr("Enemy killed this round"), m_shared.RoundKills[side]);
-        addRule(*frame, 98);
-        addRow(*frame, 100, tr("Enemy killed this set"), m_shared.TotalKills[side]);
-        frame->show();
+        frame[side] = new QtSideFrame{side, this};
+        QtSideFrame& box = *frame[side];
+        box.setGeometry(kFrames[side - 1]);
+        box.setCaption(QString::fromStdString(m_shared.PlayerName[side]));
+        box.setBadge(QtSideFrame::Badge::Filled);
+        labelRoundsWon[side] =
+            addRow(box, 36, tr("Rounds won"), "labelRoundsWon", m_shared.RoundsWon[side]);
+        addRule(box, 66);
+        labelKills[side] =
+            addRow(box, 68, tr("Enemy killed this round"), "labelKills", m_shared.RoundKills[side]);
+        addRule(box, 98);
+        labelTotalKills[side] = addRow(box, 100, tr("Enemy killed this set"), "labelTotalKills",
+                                       m_shared.TotalKills[side]);
     }
 }
 
@@ -110,7 +116,7 @@ void frmSummary::showEvent(QShowEvent* event) {
 void frmSummary::Form_Activate() {
     m_fade->activate();
     m_summary.Form_Activate();
-    makeFrames();  // now that the winner of a set is known
+    for (const int side : {1, 2}) frame[side]->setTurn(side == m_shared.Winner);
     showFitting(*label, QString::fromStdString(m_summary.heading()), {20, 17});
     labelComputerSays->setText(QString::fromStdString(m_summary.labelComputerSays()));
     timerDateTime_Timer();

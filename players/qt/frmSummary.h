@@ -2,6 +2,7 @@
 
 #include <QDialog>
 
+#include "base/PerSide.h"
 #include "base/SettingsStore.h"
 #include "players/Summary.h"
 
@@ -11,6 +12,7 @@ namespace skylob {
 
 class QtScreenFade;
 class QtShapes;
+class QtSideFrame;
 
 /// The screen after every round, and after the set. However the user closes it, a finished set is
 /// recorded. Run it with exec().
@@ -40,6 +42,8 @@ class frmSummary : public QDialog {
     const QtShapes& m_shapes;
     Summary m_summary;
     QtScreenFade* m_fade;
+    PerSide<QtSideFrame*> frame;
+    PerSide<QLabel*> labelRoundsWon, labelKills, labelTotalKills;
     QLabel *label, *labelDateTime, *labelComputerSays;
     bool m_activated = false, m_answered = false;
 };

@@ -119,6 +119,11 @@ TEST(GlintLayout, PlacesCaptionAndPicture) {
         EXPECT_EQ(picturePlace(row.position, client, picture, text, false),
                   (GlintRect{40, 15, 60, 25}));
     }
+    // 28 x 10 in the middle of 100 x 40 would be at 36, 15.
+    GlintRig rig;
+    rig.button.Caption = "Quit";
+    resize(rig.button, rig);
+    EXPECT_EQ(rig.button.text, (GlintRect{38, 17, 66, 27}));
     // A caption wider than its button: -29 / 2 is cut towards zero.
     EXPECT_EQ(captionShift(0, {100, 41}, {}, {4, 4, 129, 17}).width, -14);
 }

@@ -72,6 +72,22 @@ TEST(GlintInteraction, FollowsADragOffAndBackOn) {
     EXPECT_EQ(rig.taken(), "MouseMove 1 2 30 10;Redraw(0, false);");
 }
 
+TEST(GlintInteraction, ForgetsTheHoverInAClickThatMoves) {
+    GlintRig rig;
+    rig.button.Enabled = true;
+    rig.interaction.mouseMove(kNone);
+    rig.interaction.mouseDown(kLeft);
+    rig.interaction.mouseMove(kLeft);
+    rig.taken();
+    rig.interaction.mouseUp(kLeft);
+    rig.interaction.click();
+    EXPECT_EQ(rig.taken(), "MouseUp 1 2 30 10;Redraw(0, false);Redraw(0, true);Click;");
+    EXPECT_FALSE(rig.drawnOver);
+    rig.interaction.mouseMove(kNone);  // the timer has gone on
+    EXPECT_EQ(rig.taken(), "MouseMove 0 0 30 10;timer on;Redraw(0, true);MouseOver;");
+    EXPECT_TRUE(rig.drawnOver);
+}
+
 TEST(GlintInteraction, TogglesTheFieldAlone) {
     GlintRig rig;
     rig.button.Enabled = rig.button.CheckBoxBehaviour = true;
@@ -103,13 +119,17 @@ TEST(GlintInteraction, TakesOnlyAWholeSpace) {
 
 TEST(GlintInteraction, RedrawsForFocusAndColoursAsItIs) {
     GlintRig rig;
-    rig.button.currentState = kStatePressed;
-    rig.interaction.gotFocus();
-    EXPECT_TRUE(rig.button.HasFocus);
+    rig.interaction.keyDown(32, 0);
+    rig.taken();
+    // The space bar will come up elsewhere: the button stays pressed, with and without the focus.
     rig.interaction.lostFocus();
     EXPECT_FALSE(rig.button.HasFocus);
+    rig.interaction.gotFocus();
+    EXPECT_TRUE(rig.button.HasFocus);
     rig.interaction.ambientChanged();
     EXPECT_EQ(rig.taken(), "Redraw(2, true);Redraw(2, true);palette;Redraw(2, true);");
+    rig.interaction.mouseMove(kNone);
+    EXPECT_EQ(rig.button.currentState, kStateUp);
 }
 
 TEST(GlintInteraction, ShowsUpWithAPaletteOfItsOwn) {

@@ -4,7 +4,7 @@
 set -euo pipefail
 program=$(realpath "$1")
 work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
+trap 'kill $(jobs -p) 2>/dev/null || true; rm -rf "$work"' EXIT
 unset DISPLAY WAYLAND_DISPLAY QT_QPA_PLATFORM
 cd "$work"
 
@@ -38,3 +38,30 @@ expect 1 --data-dir new/folder # nothing to show it on, but the folder is made
 DISPLAY=:9999 XDG_RUNTIME_DIR=$work expect 1
 XDG_DATA_HOME=$work/own expect 1 --user-data
 [[ -d own/Skylob ]] || fail "--user-data makes no folder"
+expect 2 --data-dir $'bad\xff' # the toolkit would make another folder of it
+! compgen -G 'bad*' || fail "--data-dir makes another folder"
+for option in --help --version; do
+    status=0
+    "$program" $option >/dev/full 2>err || status=$?
+    ((status == 1)) && [[ $(wc -l <err) == 1 ]] || fail "status $status with a full disk: $(<err)"
+done
+
+# The standard descriptors that are closed are not taken by other files.
+export QT_QPA_PLATFORM=offscreen XDG_RUNTIME_DIR=$work HOME=$work
+for closed in 0 1 2 "0 1" "0 2" "1 2" "0 1 2"; do
+    (
+        for descriptor in $closed; do eval "exec $descriptor>&-"; done
+        exec "$program"
+    ) </dev/zero >out 2>err &
+    game=$!
+    until ls -l "/proc/$game/fd" 2>/dev/null | grep -q Skylob.lock; do
+        kill -0 $game || fail "without $closed it ends"
+        sleep 0.05
+    done
+    for descriptor in $closed; do
+        held=$(readlink "/proc/$game/fd/$descriptor") || true
+        [[ $held == /dev/null ]] || fail "without $closed, $descriptor is '$held'"
+    done
+    kill $game
+    wait $game || true
+done

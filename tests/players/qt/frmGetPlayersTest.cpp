@@ -19,6 +19,7 @@
 
 #include "controls/qt/GlintButton.h"
 #include "players/qt/frmGetSkillLevel.h"
+#include "players/qt/frmSummary.h"
 #include "screen/Fade.h"
 #include "screen/qt/QtModalGuard.h"
 #include "tests/support/Fakes.h"
@@ -134,6 +135,26 @@ class frmGetPlayersTest : public QObject {
         option("Enabled")->click();
         QVERIFY(option("Disabled")->isChecked());
         QCOMPARE(screen.settings.get("FadeStatus", ""), "False"s);
+    }
+
+    void sumsUpBothSidesFromTheStart() {
+        World world;
+        world.shared.PlayerName = {"Ann", "Bob"};
+        world.shared.RoundsWon = {3, 0};
+        world.shared.RoundKills = {17, 100};
+        world.shared.TotalKills = {-32768, 122};
+        ScriptedRandom random{{}, 0};
+        const StringTable strings;
+        const frmSummary form{world.shared,
+                              SummaryKind::Round,
+                              {world.clock, random, world.sounds, world.boxes, strings, world.file},
+                              world.settings,
+                              world.shapes};
+        QString figures;
+        for (const char* name : {"labelRoundsWon(%1)", "labelKills(%1)", "labelTotalKills(%1)"})
+            for (const int side : {1, 2})
+                figures += form.findChild<QLabel*>(QString{name}.arg(side))->text() + " ";
+        QCOMPARE(figures, QStringLiteral("3 0 17 100 -32768 122 "));
     }
 
     void leavesOnlyWhenConfirmed() {

@@ -1,0 +1,67 @@
+#include <sys/stat.h>
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QLockFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "platform/qt/QtSettingsStore.h"
+#include "tests/support/CapturedErrors.h"
+
+using namespace skylob;
+using namespace std::string_literals;
+
+class SettingsStoreTest : public QObject {
+    Q_OBJECT
+
+  private slots:
+    void initTestCase() {
+        qputenv("XDG_CONFIG_HOME", m_folder.path().toLocal8Bit());
+        QVERIFY(QDir{m_folder.path()}.mkdir("Skylob"));
+    }
+
+    void waitsOnlyOnceForALock() {
+        QLockFile lock{m_file + ".lock"};
+        QVERIFY(lock.lock());
+        const test::CapturedErrors errors;
+        QElapsedTimer timer;
+        timer.start();
+        QtSettingsStore store;
+        for (const char* value : {"3", "4", "5", "6", "7"}) store.save("GameSpeed", value);
+        QVERIFY2(timer.elapsed() < 2000, "it waits for each");
+        QCOMPARE(store.get("GameSpeed", "0"), "7"s);
+        QVERIFY(errors.text().startsWith("skylob: ") && errors.text().count('\n') == 1);
+        QVERIFY(!QFile::exists(m_file));
+        lock.unlock();
+        store.save("WindSetting", "1");
+        QCOMPARE(onDisk(), QByteArray{"[Defaults]\nGameSpeed=7\nWindSetting=1\n"});
+        QCOMPARE(errors.text().count('\n'), 1);
+    }
+
+    void takesDefaultsWhereThereIsNoFile() {
+        const QByteArray name = m_file.toLocal8Bit();
+        for (const bool pipe : {true, false}) {
+            QFile::remove(m_file);
+            QCOMPARE(pipe ? mkfifo(name, 0600) : mkdir(name, 0700), 0);
+            const test::CapturedErrors errors;
+            QtSettingsStore store;
+            QCOMPARE(store.get("GameSpeed", "50"), "50"s);
+            store.save("GameSpeed", "8");
+            QCOMPARE(store.get("GameSpeed", "50"), "8"s);
+            QVERIFY(errors.text().startsWith("skylob: ") && errors.text().count('\n') == 1);
+        }
+    }
+
+  private:
+    QByteArray onDisk() const {
+        QFile file{m_file};
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray{};
+    }
+
+    const QTemporaryDir m_folder;
+    const QString m_file = m_folder.filePath("Skylob/Skylob.ini");
+};
+
+QTEST_GUILESS_MAIN(SettingsStoreTest)
+#include "SettingsStoreTest.moc"
