@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "players/Windows1252.h"
 #include "tests/support/PlayersRig.h"
 
 namespace skylob::test {
@@ -14,6 +15,10 @@ static PlayerRecord played(int sets, int won, int average) {
     record.SetsWon = static_cast<std::int16_t>(won);
     record.AverageScore = static_cast<std::int16_t>(average);
     return record;
+}
+
+TEST(Windows1252, GoesOnAfterACharacterCutShort) {
+    EXPECT_EQ(toWindows1252("\xC3Z\xE2\x82Y"), "?Z??Y");
 }
 
 TEST(RankingKey, IsTheTabledOne) {
@@ -109,6 +114,8 @@ TEST_F(RecordSetResultsTest, KeepsTheOrderOfEqualTextsAndOfAllWhoseNamesDiffer) 
 TEST_F(RecordSetResultsTest, LeavesASinglePlayerUnranked) {
     EXPECT_EQ(recordIn(record("Ann", kNew)), record("Ann", "\1\0\1\0\x68\0\0\0\0"s));
     EXPECT_EQ(recordIn(""), "");
+    files.failing = "sync Skylob.Data";
+    EXPECT_THROW(recordIn(record("Ann", kNew)), FileError);
 }
 
 }  // namespace skylob::test
