@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "app/CommandLine.h"
+#include "app/CountedWait.h"
 #include "app/Fade.h"
 #include "app/OpenLink.h"
 #include "app/PrintLayout.h"
@@ -101,6 +102,7 @@ TEST(Fade, EndsExactlyAtItsEnd) {
         fade.StartFade(start, end, step, AfterFade::Close);
         std::vector<int> shown;
         while (fade.isActive() && shown.size() < 1000) shown.push_back(fade.tick());
+        EXPECT_EQ(fade.after(), AfterFade::Close);
         return shown;
     };
     EXPECT_EQ(opacities(kInvisible, kOpaque, kFadeStep),
@@ -108,6 +110,14 @@ TEST(Fade, EndsExactlyAtItsEnd) {
     EXPECT_EQ(opacities(kOpaque, kInvisible, kFadeStep),
               (std::vector{235, 215, 195, 175, 155, 135, 115, 95, 75, 55, 35, 15, 0}));
     EXPECT_EQ(opacities(kOpaque, kInvisible, kSlowFadeStep).at(24), 5);
+}
+
+TEST(CountedWait, LastsHalfANanosecondForEachCount) {
+    const auto begin = std::chrono::steady_clock::now();
+    CountedWait wait;
+    wait.start();
+    wait.run(40'000'000);
+    EXPECT_GE(std::chrono::steady_clock::now() - begin, 20ms);
 }
 
 TEST(OpenLink, PutsTheSchemeInFrontAndReportsOnlyAFailedCall) {

@@ -119,6 +119,7 @@ TEST(SideWithoutMen, LosesAtTheStartOfItsTurnOrByANearMiss) {
         for (int shot = 1; shot <= 25; ++shot) rig.shoot(kMiss);
         EXPECT_EQ(rig.state().MenLeft, (PerSide<int>{0, 4}));  // 13 times 8, but never below 0
         rig.boxes.answers = {BoxAnswer::Ok};
+        rig.boxes.onShow = [&] { EXPECT_EQ(rig.panel().side[2].labelMenLeft, "Men Left: 0"); };
         rig.shoot(beside ? kNearMissBy[1] : kMiss);
         const Log box{
             "Ann loses this round!: Ann-\r\n\r\nYou can't shoot because you have no men "

@@ -122,7 +122,10 @@ struct RecordingView : HeadlessView {
     void showField() override {
         if (onShowField) onShowField();
     }
-    void showPanel(const BattlePanel& shown) override { panel = shown; }
+    void showPanel(const BattlePanel& shown) override {
+        panel = shown;
+        ++panelsShown;
+    }
     int displayWidth() const override { return width; }
     void holdInput() override { inputHeld = true; }
     void releaseInput() override {
@@ -146,6 +149,7 @@ struct RecordingView : HeadlessView {
 
     Log& log;
     BattlePanel panel;  ///< as it was last shown
+    int panelsShown = 0;
     std::function<void()> onShowField;
     bool inputHeld = false;
     int width = 801;
