@@ -26,7 +26,7 @@ TEST(ScrollBars, KeepToTheirRangesAndClickOnEveryChange) {
     EXPECT_EQ(rig.log, (Log{"sound click", "sound click", "sound click"}));
 }
 
-TEST(EveryHandler, MarksTheTimeAsTheLastActivity) {
+TEST(EveryHandler, MarksTheTimeAsTheLastActivityAndShowsItsEffect) {
     StartedRig rig;
     BattleControls& controls = rig.controls();
     const std::function<void()> handlers[] = {
@@ -38,7 +38,9 @@ TEST(EveryHandler, MarksTheTimeAsTheLastActivity) {
     };
     for (const auto& handler : handlers) {
         rig.clock.time += std::chrono::seconds{1};
+        rig.view.panelsShown = 0;
         handler();
+        EXPECT_GT(rig.view.panelsShown, 0) << &handler - handlers;
         EXPECT_EQ(rig.state().TurnStartTime, rig.clock.time) << &handler - handlers;
     }
 }
@@ -111,6 +113,9 @@ TEST(Quit, StaysOnNo) {
     rig.boxes.answers = {BoxAnswer::No};
     rig.controls().chkSound_Click(true);
     rig.clock.time += std::chrono::seconds{99};
+    rig.boxes.onShow = [&] {
+        EXPECT_FALSE(rig.panel().timerMeteors || rig.panel().timerLightning);
+    };
     rig.controls().cmdQuit_Click();
     EXPECT_EQ(rig.boxes.shown, Log{"Skylob: Are you sure you want to quit this set? (?) Yes/no"});
     EXPECT_EQ(rig.state().TurnStartTime, rig.clock.time);

@@ -34,10 +34,33 @@ TEST(StartRound, SetsUpBothSides) {
     EXPECT_TRUE(rig.panel().commandsEnabled && !rig.view.inputHeld);
     BattleRig narrow;
     narrow.view.width = 800;
+    narrow.shared.RoundsWon = narrow.shared.TotalKills = narrow.shared.RoundShots = {3, 9};
     narrow.start();
     EXPECT_EQ(narrow.battle.picture().penWidth(), 1);
+    const PerSide<int> none{0, 0};  // of the set before
+    EXPECT_EQ(narrow.shared.RoundsWon, none);
+    EXPECT_EQ(narrow.shared.TotalKills, none);
+    EXPECT_EQ(narrow.shared.RoundShots, none);
     rig.start();  // as when a box closes over the battle; it would draw side 2
     EXPECT_EQ(rig.state().Shooter, 1);
+}
+
+TEST(RedrawField, MakesTheRoundsPictureWithAnyPen) {
+    BattleRig rig;
+    FieldPicture& picture = rig.battle.picture();
+    picture.resize(1000, 1000, 1);
+    picture.setPenWidth(3);  // of the round's stars
+    rig.start();
+    const auto shown = [&] {
+        return std::vector(picture.screenPixels(), picture.screenPixels() + 1000 * 1000);
+    };
+    const auto before = shown();
+    picture.setPenWidth(5);
+    picture.setPersistentDrawing(false);
+    rig.battle.redrawField();
+    EXPECT_TRUE(shown() == before);
+    EXPECT_EQ(picture.penWidth(), 5);
+    EXPECT_FALSE(picture.persistentDrawing());
 }
 
 TEST(Miss, CostsTheShooterDesertersAndPassesTheTurn) {
@@ -96,6 +119,7 @@ TEST(SideWithoutMen, LosesAtTheStartOfItsTurnOrByANearMiss) {
         for (int shot = 1; shot <= 25; ++shot) rig.shoot(kMiss);
         EXPECT_EQ(rig.state().MenLeft, (PerSide<int>{0, 4}));  // 13 times 8, but never below 0
         rig.boxes.answers = {BoxAnswer::Ok};
+        rig.boxes.onShow = [&] { EXPECT_EQ(rig.panel().side[2].labelMenLeft, "Men Left: 0"); };
         rig.shoot(beside ? kNearMissBy[1] : kMiss);
         const Log box{
             "Ann loses this round!: Ann-\r\n\r\nYou can't shoot because you have no men "

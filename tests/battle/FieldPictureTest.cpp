@@ -27,6 +27,7 @@ TEST(FieldPicture, MapsTheFieldsCornersToItsOwn) {
     EXPECT_EQ(picture.screenPixels()[511 * 984], 0xFFFF0000u);  // bottom left, red-green-blue
     EXPECT_EQ(picture.screenPixels()[983], 0xFFD08700u);        // top right
     EXPECT_EQ(picture.pixel(1000, 1000), kTan);
+    EXPECT_EQ(picture.pixel(1000, 1002) | picture.pixel(0, 1), kBlack);  // one pixel outside
     EXPECT_EQ(litPixels(picture), 2);
 }
 

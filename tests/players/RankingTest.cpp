@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "players/Windows1252.h"
 #include "tests/support/PlayersRig.h"
 
 namespace skylob::test {
@@ -14,6 +15,10 @@ static PlayerRecord played(int sets, int won, int average) {
     record.SetsWon = static_cast<std::int16_t>(won);
     record.AverageScore = static_cast<std::int16_t>(average);
     return record;
+}
+
+TEST(Windows1252, GoesOnAfterACharacterCutShort) {
+    EXPECT_EQ(toWindows1252("\xC3Z\xE2\x82Y"), "?Z??Y");
 }
 
 TEST(RankingKey, IsTheTabledOne) {
@@ -115,6 +120,8 @@ TEST_F(RecordSetResultsTest, LeavesASinglePlayerUnranked) {
     RecordSetResults(file, shared);
     EXPECT_EQ(bytes(), record("Bob", "\1\0\0\0\x3A\0\0\0\0"s));
     EXPECT_EQ(bytesOf(folder / "TempFile.$$$"), "old");
+    files.failing = "sync Skylob.Data";
+    EXPECT_THROW(recordIn(record("Ann", kNew)), FileError);
 }
 
 TEST_F(RecordSetResultsTest, LosesNoResultWhenTheNewOrderCannotBeStored) {

@@ -10,6 +10,7 @@ TEST(Fade, EndsExactlyAtItsEnd) {
         fade.StartFade(start, end, step, AfterFade::Close);
         std::vector<int> shown;
         while (fade.isActive() && shown.size() < 1000) shown.push_back(fade.tick());
+        EXPECT_EQ(fade.after(), AfterFade::Close);
         return shown;
     };
     EXPECT_EQ(opacities(kInvisible, kOpaque, kFadeStep),

@@ -11,6 +11,10 @@ struct RecordingView : HeadlessView {
     void showField() override {
         if (onShowField) onShowField();
     }
+    void showPanel(const BattlePanel& shown) override {
+        panel = shown;
+        ++panelsShown;
+    }
     int displayWidth() const override { return width; }
     void holdInput() override { inputHeld = true; }
     void releaseInput() override {
@@ -33,6 +37,8 @@ struct RecordingView : HeadlessView {
     }
 
     Log& log;
+    BattlePanel panel;  ///< as it was last shown
+    int panelsShown = 0;
     std::function<void()> onShowField;
     bool inputHeld = false;
     int width = 801;
@@ -68,9 +74,9 @@ struct BattleRig {
     }
 
     BattleControls& controls() { return battle.controls(); }
-    const BattlePanel& panel() { return battle.controls().panel(); }
+    const BattlePanel& panel() const { return view.panel; }
     const BattleState& state() const { return battle.state(); }
-    bool bothTimersRun() { return panel().timerMeteors && panel().timerLightning; }
+    bool bothTimersRun() const { return panel().timerMeteors && panel().timerLightning; }
 
     Log log;
     basSkylob shared;

@@ -1,0 +1,43 @@
+#include "title/TitleScene.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <string>
+
+namespace skylob::test {
+
+TEST(TitleScene, IsTheSameInEveryLoopAndOnEveryMachine) {
+    struct Row {
+        double seconds;
+        const char* figures;
+    };
+    // How many spots, and the sums of their fields, each times its place in the list. Worked out
+    // by a second program that shares no code with this one.
+    for (const Row& row : {Row{0.44, "110 1714203 542453 6170 0 95805342328 1095310"},
+                           Row{0.45, "111 1727967 568982 6836 0 97666774366 1119875"},
+                           Row{0.6, "112 1741409 595973 7439 0 99544976062 982515"},
+                           Row{1.7, "144 2743890 953248 13066 0 168417878526 1916206"},
+                           Row{2.8, "192 6659158 2277108 33604 704 303617452658 4037738"},
+                           Row{3.2, "192 6659118 2276391 37996 704 303617452658 2785195"},
+                           Row{3.7, "174 4875566 1484701 18026 0 248555529208 1143964"},
+                           Row{3.8, "110 1714203 542453 6170 0 95805342328 1005261"},
+                           Row{6.45, "111 1727967 568982 6836 0 97666774366 1119875"}}) {
+        const auto spots = TitleScene{}.at(row.seconds);
+        double x = 0, y = 0, radius = 0, ring = 0, colour = 0, alpha = 0, place = 0;
+        for (const TitleSpot& spot : spots) {
+            x += ++place * spot.x;
+            y += place * spot.y;
+            radius += place * spot.radius;
+            ring += place * spot.ringWidth;
+            colour += place * spot.colour;
+            alpha += place * spot.alpha;
+        }
+        std::string figures = std::to_string(spots.size());
+        for (const double sum : {x, y, radius, ring, colour, alpha})
+            figures += " " + std::to_string(std::llround(sum));
+        EXPECT_EQ(figures, row.figures) << row.seconds;
+    }
+}
+
+}  // namespace skylob::test
