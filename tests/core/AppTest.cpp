@@ -85,9 +85,12 @@ TEST(WaveImage, IsReadChunkByChunk) {
     const auto file = header + odd + format + data;
     const auto image = read(file);
     ASSERT_TRUE(image);
+    EXPECT_EQ(image->formatTag, 1);
     EXPECT_EQ(image->rate, 11025);
     EXPECT_EQ(image->bitsPerSample, 8);
     EXPECT_FALSE(image->factSamples);
+    EXPECT_EQ(read(header + "fact\x04\0\0\0\x02\1\0\0"s + format + data)->factSamples, 258u);
+    EXPECT_FALSE(read(header + "fact\x03\0\0\0\x02\1\0\0"s + format + data)->factSamples);
     ASSERT_EQ(image->data.size(), 2u);
     EXPECT_EQ(image->data[0], std::byte{0x80});
     for (const auto& wrong :

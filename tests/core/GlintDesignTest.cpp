@@ -208,6 +208,7 @@ TEST(GlintLayout, PlacesCaptionAndPicture) {
         EXPECT_EQ(picturePlace(row.position, client, picture, text, false),
                   (GlintRect{40, 15, 60, 25}));
     }
+    EXPECT_EQ(picturePlace(0, {101, 40}, {20, 11}, {}, false), (GlintRect{40, 14, 60, 25}));
     // A caption wider than its button: -29 / 2 is cut towards zero.
     EXPECT_EQ(captionShift(0, {100, 41}, {}, {4, 4, 129, 17}).width, -14);
 }
