@@ -34,6 +34,7 @@ TEST(StartRound, SetsUpBothSides) {
     EXPECT_TRUE(rig.panel().commandsEnabled && !rig.view.inputHeld);
     BattleRig narrow;
     narrow.view.width = 800;
+    narrow.view.onShowField = [&] { EXPECT_TRUE(narrow.view.inputHeld); };
     narrow.shared.RoundsWon = narrow.shared.TotalKills = narrow.shared.RoundShots = {3, 9};
     narrow.start();
     EXPECT_EQ(narrow.battle.picture().penWidth(), 1);
@@ -71,6 +72,7 @@ TEST(Miss, CostsTheShooterDesertersAndPassesTheTurn) {
     EXPECT_EQ(rig.state().Shooter, 2);
     EXPECT_TRUE(rig.panel().side[2].enabled && !rig.panel().side[1].enabled);
     EXPECT_EQ(rig.panel().side[1].labelMenLeft, "Men Left: 85");
+    EXPECT_EQ(rig.panel().side[1].menLeft, 85);
     rig.random.script({0});
     rig.shoot(kOutOfBounds);
     EXPECT_EQ(rig.state().MenLeft, (PerSide<int>{85, 99}));

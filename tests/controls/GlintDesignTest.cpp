@@ -208,6 +208,7 @@ TEST(GlintLayout, PlacesCaptionAndPicture) {
         EXPECT_EQ(picturePlace(row.position, client, picture, text, false),
                   (GlintRect{40, 15, 60, 25}));
     }
+    EXPECT_EQ(picturePlace(0, {101, 40}, {20, 11}, {}, false), (GlintRect{40, 14, 60, 25}));
     // 28 x 10 in the middle of 100 x 40 would be at 36, 15.
     GlintRig rig;
     rig.button.Caption = "Quit";

@@ -42,7 +42,8 @@ TEST(RoundSound, FollowsTheSecondsAgainstTheComputerAlone) {
 
 struct SummaryTest : testing::Test, PlayersRig {
     SummaryTest() {
-        strings.addLines("2000 self\n2023 self\n2300 one\n2313 one\n2700 set\n2711 set\n");
+        strings.addLines(
+            "2000 self\n2023 self\n2200 lost\n2300 one\n2313 one\n2700 set\n2711 set\n");
         shared.PlayerName = {"Ann", "Bob"};
         shared.RoundsWon = {3, 2};
         shared.TotalKills = {101, 122};  // 33 + 21 and 40 + 14: a tie of 54
@@ -70,6 +71,9 @@ TEST_F(SummaryTest, OfARoundRecordsNothing) {
     summary.cmdOkay_Click();
     EXPECT_EQ(bytes(), list);
     EXPECT_TRUE(log.empty());
+    shared.PlayerName[2] = "Computer";
+    summary.Form_Activate();
+    EXPECT_EQ(log, Log{"sound contempt"});
 }
 
 TEST_F(SummaryTest, OfASetDecidesAndRecordsIt) {
