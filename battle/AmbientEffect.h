@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+#include <deque>
 #include <functional>
 #include <utility>
 
@@ -10,29 +12,51 @@ namespace skylob {
 /// asks whether it has been interrupted after every yield, and if so tidies up and ends.
 class AmbientEffect {
   public:
+    /// What can be put off. A box is clicked as often as it is clicked; a shot and leaving wait
+    /// once at most: the second click of a double click must not become the opponent's shot.
+    enum class Command { Shoot, Quit, BoxClick };
+
     bool isRunning() const { return m_isRunning; }
 
-    /// A command waits for the effect's end.
-    bool isInterrupted() const { return static_cast<bool>(m_command); }
+    /// A command waits for the effect's end, or for that of one before it.
+    bool isInterrupted() const { return !m_waiting.empty(); }
 
-    /// Runs `effect` and, after its end, the command that has interrupted it. Calls do not nest.
+    /// Runs `effect` and, after its end, the commands that have been given meanwhile, in their
+    /// order. Calls do not nest. What `effect` or a command throws goes to the caller; nothing
+    /// waits any more then.
     void run(const std::function<void()>& effect) {
+        const Reset reset{*this};
         m_isRunning = true;
         effect();
         m_isRunning = false;
-        if (const auto command = std::exchange(m_command, {})) command();
+        // One stays in the line while it runs: what is given in its own yields comes after all.
+        for (; isInterrupted(); m_waiting.pop_front()) m_waiting.front().run();
     }
 
-    /// True while an effect runs: `command` will follow it and is not to run now. Only the first
-    /// one does; the second click of a double click must not become the opponent's shot.
-    bool putsOff(std::function<void()> command) {
-        if (m_isRunning && !m_command) m_command = std::move(command);
-        return m_isRunning;
+    /// Runs `action` at once, or when its turn has come.
+    void give(Command command, std::function<void()> action) {
+        if (!m_isRunning && !isInterrupted()) return action();
+        const auto isTheSame = [command](const Waiting& other) { return other.what == command; };
+        if (command == Command::BoxClick || std::ranges::none_of(m_waiting, isTheSame))
+            m_waiting.push_back({command, std::move(action)});
     }
 
   private:
+    struct Waiting {
+        Command what;
+        std::function<void()> run;
+    };
+
+    struct Reset {
+        AmbientEffect& effect;
+        ~Reset() {
+            effect.m_isRunning = false;
+            effect.m_waiting.clear();
+        }
+    };
+
     bool m_isRunning = false;
-    std::function<void()> m_command;
+    std::deque<Waiting> m_waiting;
 };
 
 }  // namespace skylob

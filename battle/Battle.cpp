@@ -112,9 +112,10 @@ void Battle::loseWithoutMen() {
 }
 
 void Battle::cmdShoot_Click() {
-    if (!m_controls.isWaiting() || m_controls.effect().putsOff([this] { cmdShoot_Click(); }))
-        return;
-    fire();
+    if (!m_controls.isWaiting()) return;
+    m_controls.effect().give(AmbientEffect::Command::Shoot, [this] {
+        if (m_controls.isWaiting()) fire();
+    });
 }
 
 void Battle::fire() {

@@ -90,22 +90,24 @@ void BattleControls::chkTrajectory_Click(bool ticked) {
 }
 
 void BattleControls::chkMeteors_Click(bool ticked) {
-    if (m_effect.putsOff([this, ticked] { chkMeteors_Click(ticked); })) return;
-    markActivity();
-    m_panel.chkMeteors = ticked;
-    // The meteors follow the lightning box, as it stands when this one is clicked.
-    m_panel.timerMeteors = m_panel.chkLightning;
-    show();
-    m_ports.pacer.yieldToEvents();
+    m_effect.give(AmbientEffect::Command::BoxClick, [this, ticked] {
+        markActivity();
+        m_panel.chkMeteors = ticked;
+        // The meteors follow the lightning box, as it stands when this one is clicked.
+        m_panel.timerMeteors = m_panel.chkLightning;
+        show();
+        m_ports.pacer.yieldToEvents();
+    });
 }
 
 void BattleControls::chkLightning_Click(bool ticked) {
-    if (m_effect.putsOff([this, ticked] { chkLightning_Click(ticked); })) return;
-    markActivity();
-    m_panel.chkLightning = ticked;
-    m_panel.timerLightning = ticked;
-    show();
-    m_ports.pacer.yieldToEvents();
+    m_effect.give(AmbientEffect::Command::BoxClick, [this, ticked] {
+        markActivity();
+        m_panel.chkLightning = ticked;
+        m_panel.timerLightning = ticked;
+        show();
+        m_ports.pacer.yieldToEvents();
+    });
 }
 
 void BattleControls::chkWind_Click(bool ticked) {
@@ -124,7 +126,11 @@ void BattleControls::chkWind_Click(bool ticked) {
 }
 
 void BattleControls::cmdQuit_Click() {
-    if (!isWaiting() || m_effect.putsOff([this] { cmdQuit_Click(); })) return;
+    if (isWaiting()) m_effect.give(AmbientEffect::Command::Quit, [this] { leave(); });
+}
+
+void BattleControls::leave() {
+    if (!isWaiting()) return;  // any more
     markActivity();
     stopTimers();
     m_isLeaving = true;
@@ -207,7 +213,7 @@ void BattleControls::stormEnds() {
 
 bool BattleControls::isIdle() const {
     using namespace std::chrono;
-    if (!isWaiting() || m_effect.isRunning()) return false;
+    if (!isWaiting() || m_effect.isRunning() || m_effect.isInterrupted()) return false;
     return floor<seconds>(m_ports.clock.now() - m_state.TurnStartTime) >= 12s;
 }
 

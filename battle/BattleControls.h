@@ -82,6 +82,7 @@ class BattleControls {
     void markActivity();
     void click();
     void show();
+    void leave();
     bool mayLeave();
     void offerToKeepGameSpeed();
     void saveOptions();

@@ -77,13 +77,33 @@ TEST(AmbientEffects, EndBeforeACommandRuns) {
         std::function<bool(SkyRig&)> hasRun;
     };
     const Command commands[] = {
-        // Of two commands at once only the first one counts.
-        {"shoot, then quit",
-         [](SkyRig& rig) { rig.battle.FieldPiece_Click(), rig.controls().cmdQuit_Click(); },
+        {"shoot with a double click",
+         [](SkyRig& rig) { rig.battle.FieldPiece_Click(), rig.battle.cmdShoot_Click(); },
          [](SkyRig& rig) { return rig.battle.shots().size() == 1 && !rig.view.isClosed(); }},
+        {"shoot, then quit",
+         [](SkyRig& rig) { rig.battle.cmdShoot_Click(), rig.controls().cmdQuit_Click(); },
+         [](SkyRig& rig) { return rig.battle.shots().size() == 1 && rig.view.isClosed(); }},
         {"quit, then shoot",
          [](SkyRig& rig) { rig.controls().cmdQuit_Click(), rig.battle.cmdShoot_Click(); },
          [](SkyRig& rig) { return rig.battle.shots().empty() && rig.view.isClosed(); }},
+        {"untick meteors, then quit",
+         [](SkyRig& rig) {
+             rig.controls().chkMeteors_Click(false), rig.controls().cmdQuit_Click();
+         },
+         [](SkyRig& rig) {
+             return rig.view.isClosed() && rig.settings.get("MeteorsSetting", "") == "0";
+         }},
+        {"untick and tick lightning, shoot in the yield between",
+         [](SkyRig& rig) {
+             rig.controls().chkLightning_Click(false);
+             rig.battle.cmdShoot_Click();
+             rig.atYield(1, [&rig] {
+                 rig.battle.cmdShoot_Click();
+                 EXPECT_TRUE(rig.battle.shots().empty());
+             });
+             rig.controls().chkLightning_Click(true);
+         },
+         [](SkyRig& rig) { return rig.battle.shots().size() == 1 && rig.panel().chkLightning; }},
         {"untick meteors", [](SkyRig& rig) { rig.controls().chkMeteors_Click(false); },
          [](SkyRig& rig) { return !rig.panel().chkMeteors && rig.panel().timerMeteors; }},
         {"untick lightning", [](SkyRig& rig) { rig.controls().chkLightning_Click(false); },
@@ -110,9 +130,25 @@ TEST(AmbientEffects, EndBeforeACommandRuns) {
                 EXPECT_FALSE(rig.controls().effect().isRunning());
                 EXPECT_TRUE(rig.picture().persistentDrawing());
                 EXPECT_EQ(std::count(rig.log.begin(), rig.log.end(), "wait 125000"), 0);
-                EXPECT_LE(rig.yields(), yield + 1);  // a box or quit has one of its own
+                EXPECT_LE(rig.yields(), yield + 2);  // a box and quit have one of their own
             }
         }
+    }
+}
+
+TEST(AmbientEffects, LeaveNothingBehindWhenTheyFail) {
+    for (const Effect effect : {kMeteor, kStorm}) {
+        SkyRig rig;
+        rig.atYield(9, [&] {
+            rig.controls().cmdQuit_Click();
+            throw std::runtime_error{"no more sky"};
+        });
+        EXPECT_THROW(begin(rig, effect), std::runtime_error);
+        EXPECT_FALSE(rig.view.isClosed());
+        begin(rig, effect);
+        EXPECT_GT(rig.yields(), 400);  // all of it
+        rig.controls().cmdQuit_Click();
+        EXPECT_TRUE(rig.view.isClosed());
     }
 }
 
