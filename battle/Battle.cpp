@@ -64,26 +64,17 @@ void Battle::GenerateBattlefield() {
     m_ports.view.showCursor(BattleCursor::Hourglass);
     m_ports.view.holdInput();
     generateBattlefield(m_state.field, m_ports.random, m_state.RoundNumber, m_shared.NumRounds);
-    m_starWidth = m_picture.penWidth();
-    drawField();
+    m_state.field.starWidth = m_state.penWidth;
+    m_state.penWidth = drawField();
     m_ports.view.showCursor(BattleCursor::Normal);
 }
 
-void Battle::redrawField() {
-    // The screen can move to another display even while a meteor flies.
-    const int penWidth = m_picture.penWidth();
-    const bool persistent = m_picture.persistentDrawing();
-    m_picture.setPenWidth(m_starWidth);
-    m_picture.setPersistentDrawing(true);
-    drawField();
-    m_picture.setPersistentDrawing(persistent);
-    m_picture.setPenWidth(penWidth);
-}
-
-void Battle::drawField() {
+/// Returns the width of the ground's lines.
+int Battle::drawField() {
     const int groundLineWidth = m_ports.view.displayWidth() <= 800 ? 1 : 2;
     drawBattlefield(m_state.field, m_picture, groundLineWidth);
     m_ports.view.showField();
+    return groundLineWidth;
 }
 
 void Battle::BeginTurn() {
@@ -155,6 +146,7 @@ void Battle::Explode(FieldPoint at, Landing landing) {
     play(landingSound(landing));
     if (landing == Landing::OutOfBounds) return;
     animateExplosion(at, landing, m_animation, FlightDelayCount(m_shared.GameSpeed));
+    m_state.penWidth = 1;
 }
 
 void Battle::FinishShot() {

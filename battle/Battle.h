@@ -52,7 +52,7 @@ class Battle {
     void timerLightning_Timer() { m_storm.timerLightning_Timer(); }
 
     /// The picture of the field has another size or another display: draws it anew.
-    void redrawField();
+    void redrawField() { drawField(); }
 
     BattleControls& controls() { return m_controls; }
     const BattleState& state() const { return m_state; }
@@ -67,7 +67,7 @@ class Battle {
     void StartRound();
     void chooseFirstShooter();
     void GenerateBattlefield();
-    void drawField();
+    int drawField();
     void BeginTurn();
     void loseWithoutMen();
     void fire();
@@ -91,7 +91,6 @@ class Battle {
     Meteors m_meteors;
     LightningStorm m_storm;
     std::vector<Shot> m_shots;
-    int m_starWidth = 1;  ///< the pen width that this round's stars were drawn with
     bool m_activated = false;
 };
 

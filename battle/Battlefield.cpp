@@ -164,17 +164,18 @@ void generateBattlefield(Battlefield& field, RandomSource& random, int roundNumb
 void drawBattlefield(const Battlefield& field, FieldPicture& picture, int groundLineWidth) {
     picture.hidePieces();
     picture.clear();
-    for (const auto& star : field.stars) picture.setPoint(star.x, star.y, star.colour);
+    for (const auto& star : field.stars)
+        picture.setPoint(star.x, star.y, star.colour, field.starWidth);
     if (field.hasMoon()) {
         const int shadow = field.MoonX + field.MoonOffset - 5;
         picture.filledCircle(field.MoonX, field.moonY, kMoonRadius, kCyan);
         picture.filledCircle(shadow, field.moonY, kMoonRadius, kBlack);
     }
-    picture.setPenWidth(groundLineWidth);
     for (int x = 1; x < kColumns; x += 2) {
         const int mirrored = kColumns + 1 - x;
-        picture.verticalLine(x, 1, field.heightAt(x), field.groundColour);
-        picture.verticalLine(mirrored, 1, field.heightAt(mirrored), field.groundColour);
+        for (const int column : {x, mirrored})
+            picture.verticalLine(column, 1, field.heightAt(column), field.groundColour,
+                                 groundLineWidth);
     }
     for (const int side : {1, 2}) picture.placePiece(side, field.PieceX[side], field.PieceY[side]);
     picture.refresh();

@@ -87,7 +87,6 @@ void LightningStorm::rage() {
 }
 
 void LightningStorm::strike(int bolts) {
-    m_animation.picture().setPersistentDrawing(false);
     const auto mayGoOn = [this] {
         m_ports.pacer.yieldToEvents();
         return !m_controls.effect().isInterrupted();
@@ -103,7 +102,7 @@ void LightningStorm::strike(int bolts) {
 void LightningStorm::draw(const Bolt& bolt) {
     for (const FieldPoint& at : bolt) {
         if (m_controls.effect().isInterrupted()) return;
-        m_animation.picture().setPoint(at.x, at.y, kYellow);
+        m_animation.picture().setPassingPoint(at.x, at.y, kYellow, m_state.penWidth);
         m_animation.show();
         m_ports.pacer.yieldToEvents();
     }
@@ -118,7 +117,6 @@ void LightningStorm::thunder(int bolts) {
 }
 
 void LightningStorm::clearSky() {
-    m_animation.picture().setPersistentDrawing(true);
     m_animation.picture().refresh();
     m_animation.show();
 }

@@ -53,7 +53,7 @@ std::int32_t meteorDelayCount(int gameSpeed) {
     return static_cast<std::int32_t>(std::clamp(counts, std::int64_t{0}, kMost));
 }
 
-Meteors::Meteors(const basSkylob& shared, const BattleState& state, BattleControls& controls,
+Meteors::Meteors(const basSkylob& shared, BattleState& state, BattleControls& controls,
                  const BattlePorts& ports, FieldAnimation& animation)
     : m_shared{shared},
       m_state{state},
@@ -80,14 +80,12 @@ void Meteors::fly() {
 
 void Meteors::streak(const std::vector<FieldPoint>& points) {
     FieldPicture& picture = m_animation.picture();
-    picture.setPersistentDrawing(false);
-    picture.setPenWidth(kNarrow);
+    int width = kNarrow;
     m_animation.start();
     for (const FieldPoint& at : points) {
-        if (RandomInt(m_ports.random, 1, 20) == 10)
-            picture.setPenWidth(kNarrow + kWide - picture.penWidth());
-        const auto sky = picture.liftPoint(at.x, at.y);
-        picture.setPoint(at.x, at.y, kYellow);
+        if (RandomInt(m_ports.random, 1, 20) == 10) width = kNarrow + kWide - width;
+        const auto sky = picture.liftPoint(at.x, at.y, width);
+        picture.setPassingPoint(at.x, at.y, kYellow, width);
         // Asked anew at each point: the game speed bar can be moved meanwhile.
         m_animation.hold(meteorDelayCount(m_shared.GameSpeed));
         m_ports.pacer.yieldToEvents();
@@ -95,8 +93,7 @@ void Meteors::streak(const std::vector<FieldPoint>& points) {
         if (m_controls.effect().isInterrupted()) break;
     }
     m_animation.show();
-    picture.setPenWidth(1);
-    picture.setPersistentDrawing(true);
+    m_state.penWidth = 1;
 }
 
 }  // namespace skylob

@@ -31,7 +31,7 @@ std::int32_t meteorDelayCount(int gameSpeed);
 class Meteors {
   public:
     /// All of these must outlive the meteors.
-    Meteors(const basSkylob& shared, const BattleState& state, BattleControls& controls,
+    Meteors(const basSkylob& shared, BattleState& state, BattleControls& controls,
             const BattlePorts& ports, FieldAnimation& animation);
 
     /// Every 333 ms. A meteor comes with one tick in twenty and runs to its end, or to the
@@ -43,7 +43,7 @@ class Meteors {
     void streak(const std::vector<FieldPoint>& points);
 
     const basSkylob& m_shared;
-    const BattleState& m_state;
+    BattleState& m_state;
     BattleControls& m_controls;
     BattlePorts m_ports;
     FieldAnimation& m_animation;

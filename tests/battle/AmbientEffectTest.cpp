@@ -128,7 +128,6 @@ TEST(AmbientEffects, EndBeforeACommandRuns) {
                 begin(rig, effect);
                 EXPECT_TRUE(command.hasRun(rig));
                 EXPECT_FALSE(rig.controls().effect().isRunning());
-                EXPECT_TRUE(rig.picture().persistentDrawing());
                 EXPECT_EQ(std::count(rig.log.begin(), rig.log.end(), "wait 125000"), 0);
                 EXPECT_LE(rig.yields(), yield + 2);  // a box and quit have one of their own
             }

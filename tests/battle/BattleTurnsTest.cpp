@@ -23,7 +23,7 @@ TEST(FirstShooter, IsDrawnBetweenTwoPeople) {
 
 TEST(StartRound, SetsUpBothSides) {
     StartedRig rig;
-    EXPECT_EQ(rig.battle.picture().penWidth(), 2);  // of the ground's lines
+    EXPECT_EQ(rig.state().penWidth, 2);  // of the ground's lines
     for (const int side : {1, 2}) {
         EXPECT_EQ(rig.panel().side[side].labelSpeed, "Speed: 300");
         EXPECT_EQ(rig.panel().side[side].labelAngle, "Angle:   75");
@@ -35,7 +35,7 @@ TEST(StartRound, SetsUpBothSides) {
     BattleRig narrow;
     narrow.view.width = 800;
     narrow.start();
-    EXPECT_EQ(narrow.battle.picture().penWidth(), 1);
+    EXPECT_EQ(narrow.state().penWidth, 1);
     rig.start();  // as when a box closes over the battle; it would draw side 2
     EXPECT_EQ(rig.state().Shooter, 1);
 }
@@ -140,6 +140,26 @@ TEST(Shot, IsPacedByTheGameSpeedAndTracedOnDemand) {
     EXPECT_NE(rig.picture().pixel(863, 36), kBlack);
     rig.fire(kMiss);
     EXPECT_EQ(rig.pacer.counts.at(1), 19'500'001);  // of the explosion
+}
+
+TEST(Stars, HaveTheWidthThatTheRoundBeforeLeftThePenAt) {
+    SkyRig rig;
+    const auto expectWidth = [&](int width) {
+        const auto& star = rig.state().field.stars.at(400);
+        const auto shown = rig.pixels();
+        EXPECT_EQ(rig.picture().pixel(star.x + 1, star.y - 1) == star.colour, width == 2);
+        rig.shoot(kMiss);  // leaves the pen at 1
+        rig.battle.redrawField();
+        EXPECT_TRUE(rig.pixels() == shown);
+    };
+    rig.battle.redrawField();  // with the pen still at the ground's width
+    expectWidth(1);
+    rig.shoot(kSelfHit);
+    expectWidth(1);
+    rig.shoot(kSelfHit);
+    rig.boxes.answers = {BoxAnswer::Ok};
+    while (rig.state().RoundNumber == 3) rig.shoot({999, 75});  // out of bounds, over the top
+    expectWidth(2);
 }
 
 TEST(LastRound, EndsTheSet) {

@@ -79,8 +79,7 @@ TEST(LightningStorm, PausesThundersAndClearsTheSky) {
     SkyRig rig;
     rig.controls().chkSound_Click(true);
     rig.passTime();
-    rig.picture().setPersistentDrawing(false);
-    rig.picture().setPoint(300, 300, kCyan);  // what is left of a trail
+    rig.picture().setPassingPoint(300, 300, kCyan);  // what is left of a trail
     rig.random.script({.0999, .5});
     rig.view.onShowField = [&] { rig.picture().takeDirty(); };
     int waits = 0;
@@ -90,7 +89,6 @@ TEST(LightningStorm, PausesThundersAndClearsTheSky) {
         EXPECT_EQ(rig.yellowPixels() > 500, ++waits == 1);
         EXPECT_FALSE(rig.panel().timerMeteors || rig.panel().timerLightning);
     };
-    const int penWidth = rig.picture().penWidth();
     rig.battle.timerLightning_Timer();
     EXPECT_EQ(rig.events(), (Log{"wait 125000", "sound thunder3", "wait 2000", "release input"}));
     // At a chance of 0.5 three bolts run to the right, from column 500 to 995 and from 223 of those
@@ -98,8 +96,7 @@ TEST(LightningStorm, PausesThundersAndClearsTheSky) {
     EXPECT_EQ(rig.yields(), 496 + 273 + 151 + 10 + 1);
     EXPECT_TRUE(rig.bothTimersRun());
     EXPECT_EQ(rig.picture().pixel(300, 300), kBlack);
-    EXPECT_EQ(rig.picture().penWidth(), penWidth);
-    EXPECT_TRUE(rig.picture().persistentDrawing());
+    EXPECT_EQ(rig.state().penWidth, 2);
 }
 
 TEST(LightningStorm, LastsFrom50SecondsTo50AndAsManyForEachBolt) {

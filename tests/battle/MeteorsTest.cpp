@@ -92,10 +92,8 @@ TEST(Meteors, FlickerAndPutTheSkyBack) {
     SkyRig rig;
     rig.picture().resize(500, 300, 2);  // as on a display of twice the density
     rig.battle.redrawField();
-    rig.picture().setPersistentDrawing(false);
-    rig.picture().setPoint(450, 950, kCyan);  // of a shell's trail
-    rig.picture().setPoint(449, 951, kRed);
-    rig.picture().setPersistentDrawing(true);
+    rig.picture().setPassingPoint(450, 950, kCyan);  // of a shell's trail
+    rig.picture().setPassingPoint(449, 951, kRed);
     const auto before = rig.pixels();
     const long yellowBefore = rig.yellowPixels();
     // Chance and path, then two wide points and narrow ones from there on.
@@ -111,7 +109,7 @@ TEST(Meteors, FlickerAndPutTheSkyBack) {
     ASSERT_EQ(yellow.size(), 486u);
     EXPECT_EQ(std::vector(yellow.begin(), yellow.begin() + 4), (std::vector<long>{32, 32, 12, 12}));
     EXPECT_TRUE(rig.pixels() == before);
-    EXPECT_TRUE(rig.picture().penWidth() == 1 && rig.picture().persistentDrawing());
+    EXPECT_EQ(rig.state().penWidth, 1);
     EXPECT_EQ(rig.pacer.counts.at(49), 15'000);
     EXPECT_EQ(rig.pacer.counts.at(50), 150'000);
 }
