@@ -91,7 +91,7 @@ void drawMoon(Battlefield& field, RandomSource& random) {
 void drawPieces(Battlefield& field, RandomSource& random) {
     field.PieceX[1] = RandomInt(random, 20, field.leftFoot - 20);
     field.PieceX[2] = RandomInt(random, field.rightFoot + 20, 980);
-    for (const int side : {1, 2}) field.PieceY[side] = field.heightAt(field.PieceX[side]);
+    for (const int side : kSides) field.PieceY[side] = field.heightAt(field.PieceX[side]);
 }
 
 }  // namespace
@@ -177,7 +177,7 @@ void drawBattlefield(const Battlefield& field, FieldPicture& picture, int ground
             picture.verticalLine(column, 1, field.heightAt(column), field.groundColour,
                                  groundLineWidth);
     }
-    for (const int side : {1, 2}) picture.placePiece(side, field.PieceX[side], field.PieceY[side]);
+    for (const int side : kSides) picture.placePiece(side, field.PieceX[side], field.PieceY[side]);
     picture.refresh();
 }
 

@@ -147,7 +147,7 @@ void FieldPicture::placePiece(int side, int x, int groundHeight) {
 }
 
 void FieldPicture::hidePieces() {
-    for (const int side : {1, 2}) m_pieces[side].area = {};
+    for (const int side : kSides) m_pieces[side].area = {};
 }
 
 PixelRect FieldPicture::pieceArea(int side) const {
@@ -157,7 +157,7 @@ PixelRect FieldPicture::pieceArea(int side) const {
 void FieldPicture::refresh() {
     ++m_making;
     m_screen = m_persistent;
-    for (const int side : {1, 2}) {
+    for (const int side : kSides) {
         const auto& [image, area] = m_pieces[side];
         const PixelRect seen = clipped({area.x, area.y, std::min(area.width, image.width),
                                         std::min(area.height, image.height)});

@@ -109,7 +109,7 @@ TEST(SideWithoutMen, LosesAtTheStartOfItsTurnOrByANearMiss) {
 
 TEST(Shot, DisablesEverythingAndHoldsInput) {
     StartedRig rig;
-    rig.controls().chkSound_Click(true);
+    rig.options().chkSound_Click(true);
     bool seen = false;
     rig.view.onShowField = [&] {
         seen = true;
@@ -118,7 +118,7 @@ TEST(Shot, DisablesEverythingAndHoldsInput) {
         EXPECT_TRUE(rig.view.inputHeld);
         // Clicks that come through all the same do nothing.
         rig.battle.FieldPiece_Click();
-        rig.controls().cmdQuit_Click();
+        rig.battle.cmdQuit_Click();
     };
     rig.battle.cmdShoot_Click();
     EXPECT_TRUE(seen);
@@ -129,13 +129,13 @@ TEST(Shot, DisablesEverythingAndHoldsInput) {
 
 TEST(Shot, IsPacedByTheGameSpeedAndTracedOnDemand) {
     SkyRig rig;
-    rig.controls().setGameSpeed(60);
-    rig.controls().chkTrajectory_Click(false);
+    rig.options().setGameSpeed(60);
+    rig.options().chkTrajectory_Click(false);
     rig.fire(kOutOfBounds);
     EXPECT_EQ(rig.pacer.counts.at(1), 19'500'001);
     // The muzzle is 8 above the ground.
     EXPECT_EQ(rig.picture().pixel(163, 113), kBlack);
-    rig.controls().chkTrajectory_Click(true);
+    rig.options().chkTrajectory_Click(true);
     rig.fire(kOutOfBounds);
     EXPECT_NE(rig.picture().pixel(863, 36), kBlack);
     rig.fire(kMiss);
@@ -175,7 +175,7 @@ TEST(LastRound, EndsTheSet) {
 TEST(ComputersTurn, PausesFiresAndQueuesTheNextTurn) {
     BattleRig rig{"Computer"};
     rig.start();
-    rig.controls().chkSound_Click(true);
+    rig.options().chkSound_Click(true);
     rig.log.clear();
     rig.fire(kMiss);
     // Four clicks: 15 up for the lower ground, 2 degrees flatter for the distance, and then the

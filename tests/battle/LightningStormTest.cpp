@@ -77,7 +77,7 @@ TEST(BoltPath, KeepsItsBoundsTenThousandTimes) {
 
 TEST(LightningStorm, PausesThundersAndClearsTheSky) {
     SkyRig rig;
-    rig.controls().chkSound_Click(true);
+    rig.options().chkSound_Click(true);
     rig.passTime();
     rig.picture().setPassingPoint(300, 300, kCyan);  // what is left of a trail
     rig.random.script({.0999, .5});
@@ -110,7 +110,7 @@ TEST(LightningStorm, LastsFrom50SecondsTo50AndAsManyForEachBolt) {
                            Row{.9, 0, .49, {"wait 50000", "sound thunder2"}},
                            Row{.9, .9999, .5, {"wait 250000", "sound thunder3"}}}) {
         SkyRig rig;
-        rig.controls().chkSound_Click(true);
+        rig.options().chkSound_Click(true);
         rig.passTime();
         const int bolts = 1 + static_cast<int>(4 * row.bolts);
         std::deque<double> script{0, row.bolts};
@@ -130,7 +130,7 @@ TEST(LightningStorm, LastsFrom50SecondsTo50AndAsManyForEachBolt) {
 TEST(LightningStorm, LetsTheWindowBeClosedAfterItsThunder) {
     SkyRig rig;  // without sound
     rig.random.script({0, 0});
-    rig.atYield(496 + 5 + 1, [&] { rig.controls().cmdQuit_Click(); });
+    rig.atYield(496 + 5 + 1, [&] { rig.battle.cmdQuit_Click(); });
     rig.battle.timerLightning_Timer();
     EXPECT_EQ(rig.events(), (Log{"wait 75000", "release input", "close"}));
 }
@@ -140,15 +140,15 @@ TEST(LightningStorm, ComesOnceInTenTicksAndStopsOnlyTheTimerWhoseBoxIsTicked) {
     rig.random.script({.1});
     rig.battle.timerLightning_Timer();
     EXPECT_EQ(rig.yields(), 0);
-    rig.controls().chkMeteors_Click(false);  // their timer goes on
+    rig.options().chkMeteors_Click(false);  // their timer goes on
     rig.passTime();
     rig.random.script({0});
     rig.pacer.onWait = [&] { EXPECT_TRUE(rig.panel().timerMeteors); };
     rig.battle.timerLightning_Timer();
     EXPECT_GT(rig.yields(), 400);
     // It starts theirs, if their box is ticked, even if it stood still.
-    rig.controls().chkLightning_Click(false);
-    rig.controls().chkMeteors_Click(true);
+    rig.options().chkLightning_Click(false);
+    rig.options().chkMeteors_Click(true);
     EXPECT_FALSE(rig.panel().timerMeteors);
     rig.pacer.onWait = {};
     rig.passTime();

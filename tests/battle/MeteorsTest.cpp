@@ -103,7 +103,7 @@ TEST(Meteors, FlickerAndPutTheSkyBack) {
     rig.random.script(script);
     std::vector<long> yellow;
     rig.view.onShowField = [&] { yellow.push_back(rig.yellowPixels() - yellowBefore); };
-    rig.atYield(50, [&] { rig.controls().setGameSpeed(90); });
+    rig.atYield(50, [&] { rig.options().setGameSpeed(90); });
     rig.battle.timerMeteors_Timer();
     // Dots of 6 and 4 device pixels across; the last picture is without any.
     ASSERT_EQ(yellow.size(), 486u);
@@ -116,7 +116,7 @@ TEST(Meteors, FlickerAndPutTheSkyBack) {
 
 TEST(Meteors, ExplodeWhereTheyComeDownWithoutASound) {
     SkyRig rig;
-    rig.controls().chkSound_Click(true);
+    rig.options().chkSound_Click(true);
     rig.passTime();
     // From column 600 at 900 to the left, over the mountain, 2 a step: 120 in column 210, where
     // the ground is 105 high.
@@ -135,7 +135,7 @@ TEST(Meteors, ExplodeWhereTheyComeDownWithoutASound) {
     EXPECT_EQ(rig.events(), Log{});
     rig.passTime();
     rig.random.script(script);
-    rig.atYield(9, [&] { rig.controls().chkMeteors_Click(false); });
+    rig.atYield(9, [&] { rig.options().chkMeteors_Click(false); });
     rig.battle.timerMeteors_Timer();
     EXPECT_EQ(rig.pacer.counts.size(), 9u);  // interrupted, it does not explode
 }
@@ -143,7 +143,7 @@ TEST(Meteors, ExplodeWhereTheyComeDownWithoutASound) {
 TEST(Meteors, HoldTheLightningTimerIfItsBoxIsTicked) {
     for (const bool lightning : {true, false}) {
         SkyRig rig;
-        rig.controls().chkLightning_Click(lightning);
+        rig.options().chkLightning_Click(lightning);
         rig.passTime();
         rig.random.script({0});
         rig.view.onShowField = [&] {

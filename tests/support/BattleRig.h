@@ -38,10 +38,6 @@ struct RecordingView : HeadlessView {
     int width = 801;
 };
 
-struct Aim {
-    int speed, angle;
-};
-
 /// A battle between "Ann" and "Bob" (or the computer) with every port in the test's hands.
 /// Chance is r = 0.5 unless the test scripts it. That makes, in every round, a field with
 /// level ground of height 105 up to column 325, a mountain with its top of 720 at 550, ground of
@@ -62,13 +58,14 @@ struct BattleRig {
         view.runQueue();
     }
     void fire(const Aim& aim) {
-        battle.controls().setSpeed(state().Shooter, aim.speed);
-        battle.controls().setAngle(state().Shooter, aim.angle);
+        aims().setSpeed(state().Shooter, aim.speed);
+        aims().setAngle(state().Shooter, aim.angle);
         battle.cmdShoot_Click();
     }
 
-    BattleControls& controls() { return battle.controls(); }
-    const BattlePanel& panel() { return battle.controls().panel(); }
+    Aims& aims() { return battle.aims(); }
+    BattleOptions& options() { return battle.options(); }
+    const BattlePanel& panel() const { return battle.panel(); }
     const BattleState& state() const { return battle.state(); }
     bool bothTimersRun() { return panel().timerMeteors && panel().timerLightning; }
 
@@ -81,7 +78,7 @@ struct BattleRig {
     QueuedBoxes boxes{log};
     MemorySettings settings;
     RecordingView view{log};
-    Battle battle{shared, {random, clock, pacer, sounds, boxes, settings, view}};
+    Battle battle{shared, {random, clock, pacer, sounds, boxes, settings}, view};
 };
 
 /// A battle that waits for side 1, with nothing in its log yet.

@@ -41,8 +41,9 @@ struct Screen {
         settings.save("GameSpeed", "99");
         settings.save("SoundSetting", "0");
         form = std::make_unique<frmPlayGame>(
-            shared, frmPlayGamePorts{random, clock, pacer, sounds, boxes, settings, shapes,
-                                     [](SummaryKind) {}});
+            shared,
+            frmPlayGamePorts{
+                {random, clock, pacer, sounds, boxes, settings}, shapes, [](SummaryKind) {}});
         form->show();
         form->activateWindow();
         (void)QTest::qWaitForWindowActive(form.get());
