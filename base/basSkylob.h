@@ -44,7 +44,9 @@ struct basSkylob {
     bool NearMiss = false;   ///< the last shell came down beside the enemy
     bool SetOver = false;    ///< the last round of the set has been played
 
-    bool isComputer(int side) const { return side == kRight && PlayerName[side] == kComputerName; }
+    bool isComputer(int side) const {
+        return side == kRightSide && PlayerName[side] == kComputerName;
+    }
 };
 
 }  // namespace skylob

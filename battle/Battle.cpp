@@ -1,8 +1,6 @@
 #include "battle/Battle.h"
 
-#include <cstdlib>
-#include <string>
-
+#include "battle/BattleQuestions.h"
 #include "battle/BattleSettings.h"
 #include "battle/Casualties.h"
 #include "battle/Explosion.h"
@@ -27,10 +25,10 @@ Battle::Battle(basSkylob& shared, const BattlePorts& ports, BattleView& view)
       m_commands{m_state, m_effect},
       m_options{shared, m_state, m_desk, m_commands, ports.random, ports.pacer},
       m_computer{m_state, m_aims, ports.random},
-      m_meteors{{m_state, m_animation, ports.random, m_effect}, shared},
-      m_storm{{m_state, m_animation, ports.random, m_effect}, m_sounds, ports.pacer, view},
-      m_ambientClock{
-          {m_state, m_animation, ports.random, m_effect}, ports.clock, m_desk, m_meteors, m_storm} {
+      m_sky{m_state, m_animation, ports.random, m_effect},
+      m_meteors{m_sky, shared},
+      m_storm{m_sky, m_sounds, ports.pacer, view},
+      m_ambientClock{m_sky, ports.clock, m_desk, m_meteors, m_storm} {
 }
 
 void Battle::Form_Activate() {
@@ -66,11 +64,11 @@ void Battle::chooseFirstShooter() {
     if (m_state.RoundNumber > 1) {
         // The loser opens the next round. The computer goes on correcting its last miss.
         m_state.Shooter = opponentOf(m_shared.Winner);
-    } else if (m_shared.isComputer(kRight)) {
-        m_state.Shooter = kLeft;
+    } else if (m_shared.isComputer(kRightSide)) {
+        m_state.Shooter = kLeftSide;
         m_state.AimDistance = 0;
     } else {
-        m_state.Shooter = RandomInt(m_ports.random, kLeft, kRight);
+        m_state.Shooter = RandomInt(m_ports.random, kLeftSide, kRightSide);
     }
 }
 
@@ -105,11 +103,8 @@ void Battle::BeginTurn() {
 }
 
 void Battle::loseWithoutMen() {
-    const std::string& name = m_shared.PlayerName[m_state.Shooter];
     m_shared.Winner = opponentOf(m_state.Shooter);
-    m_ports.boxes.show({name + " loses this round!",
-                        name + "-\r\n\r\nYou can't shoot because you have no men left!",
-                        BoxIcon::Critical, BoxButtons::Ok});
+    tellOfNoMen(m_shared.PlayerName[m_state.Shooter], m_ports.boxes);
     FinishShot();
 }
 
@@ -143,33 +138,11 @@ void Battle::fire() {
 }
 
 void Battle::FireShell() {
-    const int shooter = m_state.Shooter;
-    const Battlefield& field = m_state.field;
-    const auto& [speed, angle] = m_state.aim[shooter];
-    const Launch launch{shooter,     speed, angle, field.PieceX[shooter], field.PieceY[shooter],
-                        m_state.Wind};
-    const Trail trail = m_state.ShowTrajectory ? Trail::Coloured : Trail::None;
-    const FieldPoint at =
-        flyShell(launch, field, trail, m_animation, FlightDelayCount(m_shared.GameSpeed));
-    if (m_shared.PlayerName[shooter] == kComputerName) m_state.LastImpactX = at.x;
-
-    const Landing landing =
-        classifyLanding(at.x, field.PieceX[shooter], field.PieceX[opponentOf(shooter)]);
-    m_shots.push_back({shooter, speed, angle, at, landing});
-    settle(landing, at);
-}
-
-void Battle::settle(Landing landing, FieldPoint at) {
-    const int target = opponentOf(m_state.Shooter);
-    const int targetX = m_state.field.PieceX[target];
-    m_shared.SelfHit = landing == Landing::SelfHit;
-    m_shared.DirectHit = landing == Landing::DirectHit;
-    if (landing == Landing::NearMiss) {
-        m_shared.NearMiss = true;
-        m_state.NearMissKills = nearMissKills(m_state.MenLeft[target], std::abs(at.x - targetX));
-        at.x = targetX;  // the blast is seen on the target
-    }
-    Explode(at, landing);
+    const Shot shot = flyShot(m_state, m_shared.GameSpeed, m_animation);
+    m_shots.push_back(shot);
+    if (m_shared.PlayerName[shot.side] == kComputerName) m_state.LastImpactX = shot.landedAt.x;
+    judgeShot(shot, m_shared, m_state);
+    Explode(blastOf(shot, m_state), shot.landing);
     FinishShot();
 }
 

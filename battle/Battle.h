@@ -12,15 +12,9 @@
 #include "battle/ComputerOpponent.h"
 #include "battle/ControlDesk.h"
 #include "battle/FieldPicture.h"
+#include "battle/Gunnery.h"
 
 namespace skylob {
-
-/// One shell of the set, as it was fired and as it came down.
-struct Shot {
-    int side = 0, speed = 0, angle = 0;
-    FieldPoint landedAt;
-    Landing landing = Landing::Miss;
-};
 
 /// The referee of a set: who fires when, what a shell does, when a round and the set are
 /// decided. A side that is no computer's fires when cmdShoot_Click is called; the computer fires
@@ -84,7 +78,6 @@ class Battle {
     void loseWithoutMen();
     void fire();
     void FireShell();
-    void settle(Landing landing, FieldPoint at);
     void Explode(FieldPoint at, Landing landing);
     void FinishShot();
     void afterShot(void (Battle::*next)());
@@ -105,6 +98,7 @@ class Battle {
     Commands m_commands;
     BattleOptions m_options;
     ComputerOpponent m_computer;
+    Sky m_sky;
     Meteors m_meteors;
     LightningStorm m_storm;
     AmbientClock m_ambientClock;

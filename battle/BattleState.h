@@ -27,10 +27,10 @@ struct BattleState {
     Battlefield field;
 
     Phase phase = Phase::Setup;
-    int Shooter = kLeft;   ///< the side whose turn it is
-    int RoundNumber = 0;   ///< 1-based; 0 before the first round
-    PerSide<int> MenLeft;  ///< 100 at the start of every round
-    PerSide<Aim> aim;      ///< to be changed through Aims
+    int Shooter = kLeftSide;  ///< the side whose turn it is
+    int RoundNumber = 0;      ///< 1-based; 0 before the first round
+    PerSide<int> MenLeft;     ///< 100 at the start of every round
+    PerSide<Aim> aim;         ///< to be changed through Aims
     TurnNotice turnNotice;
     int Wind = 0;  ///< 6..39 to the right, -6..-39 to the left, 0 when it is off
 

@@ -12,7 +12,7 @@ namespace skylob {
 // Every division of whole numbers below cuts towards zero.
 
 namespace {
-constexpr int kSide = kRight, kTarget = kLeft;
+constexpr int kSide = kRightSide, kTarget = kLeftSide;
 }
 
 ComputerOpponent::ComputerOpponent(BattleState& state, Aims& aims, RandomSource& random)

@@ -23,6 +23,26 @@ TEST(ScrollBars, KeepToTheirRangesAndClickOnEveryChange) {
     EXPECT_EQ(rig.log, (Log{"sound click", "sound click", "sound click"}));
 }
 
+TEST(Boxes, GoBackWhenTheyAreClickedAtTheWrongTime) {
+    StartedRig rig;
+    const BattlePanel before = rig.panel();
+    rig.view.onShowField = [&] {
+        const BattlePanel during = rig.panel();
+        const int shown = rig.view.panelsShown;
+        rig.options().chkSound_Click(true);
+        rig.options().chkMeteors_Click(false);
+        EXPECT_EQ(rig.view.panelsShown, shown + 2);  // the same again, for the boxes to follow
+        EXPECT_TRUE(rig.panel() == during);
+    };
+    rig.battle.cmdShoot_Click();
+    rig.view.onShowField = {};
+    EXPECT_TRUE(!rig.state().SoundOn && rig.state().chkMeteors);
+    const int shown = rig.view.panelsShown;
+    rig.aims().setSpeed(1, 300);  // where it is
+    EXPECT_EQ(rig.view.panelsShown, shown);
+    EXPECT_FALSE(rig.panel() == before);  // it is the other side's turn
+}
+
 TEST(EveryHandler, MarksTheTimeAsTheLastActivity) {
     StartedRig rig;
     const std::function<void()> handlers[] = {

@@ -86,7 +86,7 @@ TEST(LightningStorm, PausesThundersAndClearsTheSky) {
     rig.pacer.onWait = [&] {
         EXPECT_TRUE(rig.view.inputHeld);
         EXPECT_TRUE(rig.picture().takeDirty().isEmpty());
-        EXPECT_EQ(rig.yellowPixels() > 500, ++waits == 1);
+        EXPECT_EQ(yellowPixels(rig.picture()) > 500, ++waits == 1);
         EXPECT_FALSE(rig.panel().timerMeteors || rig.panel().timerLightning);
     };
     rig.battle.timerLightning_Timer();
@@ -109,21 +109,23 @@ TEST(LightningStorm, LastsFrom50SecondsTo50AndAsManyForEachBolt) {
                            Row{.25, .9999, .49, {"wait 150000", "sound thunder1"}},
                            Row{.9, 0, .49, {"wait 50000", "sound thunder2"}},
                            Row{.9, .9999, .5, {"wait 250000", "sound thunder3"}}}) {
-        SkyRig rig;
-        rig.options().chkSound_Click(true);
-        rig.passTime();
+        BareSky rig;
+        rig.state.SoundOn = true;
+        RecordingSounds player{rig.log};
+        SwitchedSounds sounds{player, rig.state};
+        LightningStorm storm{rig.sky, sounds, rig.pacer, rig.view};
         const int bolts = 1 + static_cast<int>(4 * row.bolts);
-        std::deque<double> script{0, row.bolts};
+        std::deque<double> script{row.bolts};
         for (int bolt = 1; bolt <= bolts; ++bolt)  // coin, column, tendency, 46 runs
             script.insert(script.end(), (bolt > 1) + 2u + 46 * 2, 0.0);
         script.insert(script.end(), {row.pause, row.thunder});
         rig.random.script(script);
         const int before = rig.random.draws();
-        rig.battle.timerLightning_Timer();
+        storm.rage();
         EXPECT_EQ(rig.random.draws() - before, static_cast<int>(script.size()));
-        Log events = rig.events();
-        events.resize(2);
-        EXPECT_EQ(events, row.events);
+        std::erase(rig.log, "yield");
+        rig.log.resize(2);
+        EXPECT_EQ(rig.log, row.events);
     }
 }
 

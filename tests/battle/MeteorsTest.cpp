@@ -89,27 +89,32 @@ TEST(Meteors, ComeOnceInTwentyTicksAtThePaceOfTheGameSpeed) {
 }
 
 TEST(Meteors, FlickerAndPutTheSkyBack) {
-    SkyRig rig;
-    rig.picture().resize(500, 300, 2);  // as on a display of twice the density
-    rig.battle.redrawField();
-    rig.picture().setPassingPoint(450, 950, kCyan);  // of a shell's trail
-    rig.picture().setPassingPoint(449, 951, kRed);
-    const auto before = rig.pixels();
-    const long yellowBefore = rig.yellowPixels();
-    // Chance and path, then two wide points and narrow ones from there on.
-    std::deque<double> script(5 + 486, .5);
-    script.front() = 0;
+    BareSky rig;
+    rig.picture.resize(500, 300, 2);  // as on a display of twice the density
+    drawBattlefield(rig.state.field, rig.picture, 2);
+    rig.picture.setPassingPoint(450, 950, kCyan);  // of a shell's trail
+    rig.picture.setPassingPoint(449, 951, kRed);
+    const auto before = pixelsOf(rig.picture);
+    const long yellowBefore = yellowPixels(rig.picture);
+    basSkylob shared;
+    shared.GameSpeed = 99;
+    Meteors meteors{rig.sky, shared};
+    rig.state.penWidth = 2;
+    // The path, then two wide points and narrow ones from there on.
+    std::deque<double> script(4 + 486, .5);
     script.insert(script.end(), {.45, .5, .4999});
     rig.random.script(script);
     std::vector<long> yellow;
-    rig.view.onShowField = [&] { yellow.push_back(rig.yellowPixels() - yellowBefore); };
-    rig.atYield(50, [&] { rig.options().setGameSpeed(90); });
-    rig.battle.timerMeteors_Timer();
+    rig.view.onShowField = [&] {
+        yellow.push_back(yellowPixels(rig.picture) - yellowBefore);
+        if (yellow.size() == 50) shared.GameSpeed = 90;
+    };
+    meteors.fly();
     // Dots of 6 and 4 device pixels across; the last picture is without any.
     ASSERT_EQ(yellow.size(), 486u);
     EXPECT_EQ(std::vector(yellow.begin(), yellow.begin() + 4), (std::vector<long>{32, 32, 12, 12}));
-    EXPECT_TRUE(rig.pixels() == before);
-    EXPECT_EQ(rig.state().penWidth, 1);
+    EXPECT_TRUE(pixelsOf(rig.picture) == before);
+    EXPECT_EQ(rig.state.penWidth, 1);
     EXPECT_EQ(rig.pacer.counts.at(49), 15'000);
     EXPECT_EQ(rig.pacer.counts.at(50), 150'000);
 }

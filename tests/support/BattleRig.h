@@ -11,6 +11,7 @@ struct RecordingView : HeadlessView {
     void showField() override {
         if (onShowField) onShowField();
     }
+    void showPanel(const BattlePanel&) override { ++panelsShown; }
     int displayWidth() const override { return width; }
     void holdInput() override { inputHeld = true; }
     void releaseInput() override {
@@ -35,7 +36,7 @@ struct RecordingView : HeadlessView {
     Log& log;
     std::function<void()> onShowField;
     bool inputHeld = false;
-    int width = 801;
+    int width = 801, panelsShown = 0;
 };
 
 /// A battle between "Ann" and "Bob" (or the computer) with every port in the test's hands.
