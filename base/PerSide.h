@@ -5,6 +5,10 @@
 
 namespace skylob {
 
+/// The two sides, as they are numbered everywhere.
+inline constexpr int kLeftSide = 1, kRightSide = 2;
+inline constexpr std::array kSides{kLeftSide, kRightSide};
+
 /// The opponent of side 1 is side 2 and the other way round.
 constexpr int opponentOf(int side) {
     return 3 - side;

@@ -1,45 +1,57 @@
 #include "battle/Battle.h"
 
-#include <algorithm>
-#include <cstdlib>
-#include <string>
-
+#include "battle/BattleQuestions.h"
+#include "battle/BattleSettings.h"
+#include "battle/Casualties.h"
 #include "battle/Explosion.h"
 
 namespace skylob {
 
-Battle::Battle(basSkylob& shared, const BattlePorts& ports)
+namespace {
+constexpr int kWidestNarrowDisplay = 800;  // logical pixels; the ground has finer lines there
+constexpr int kMenInARound = 100;
+constexpr Aim kFirstAim{300, 75};
+}  // namespace
+
+Battle::Battle(basSkylob& shared, const BattlePorts& ports, BattleView& view)
     : m_shared{shared},
       m_ports{ports},
-      m_animation{m_picture, ports.view, ports.pacer},
-      m_controls{shared, m_state, ports},
-      m_computer{shared, m_state, m_controls, ports},
-      m_meteors{shared, m_state, m_controls, ports, m_animation},
-      m_storm{m_state, m_controls, ports, m_animation} {
+      m_view{view},
+      m_animation{m_picture, view, ports.pacer},
+      m_sounds{ports.sounds, m_state},
+      m_desk{m_state, shared, ports.clock, m_sounds, view},
+      m_aims{m_state.aim, [this] { m_desk.barMoved(); }},
+      m_effect{ports.pacer},
+      m_commands{m_state, m_effect},
+      m_options{shared, m_state, m_desk, m_commands, ports.random, ports.pacer},
+      m_computer{m_state, m_aims, ports.random},
+      m_sky{m_state, m_animation, ports.random, m_effect},
+      m_meteors{m_sky, shared},
+      m_storm{m_sky, m_sounds, ports.pacer, view},
+      m_ambientClock{m_sky, ports.clock, m_desk, m_meteors, m_storm} {
 }
 
 void Battle::Form_Activate() {
     if (m_activated) return;
     m_activated = true;
-    m_controls.restoreOptions();
+    restoreOptions(m_state, m_shared, m_ports.settings);
     m_shared.RoundsWon = {};
     m_shared.TotalKills = {};
-    m_state.RoundNumber = 0;
     m_shared.SetOver = false;
     StartRound();
 }
 
 void Battle::StartRound() {
-    for (const int side : {1, 2}) {
-        m_controls.setAngle(side, 75);
-        m_controls.setSpeed(side, 300);
-        m_state.MenLeft[side] = 100;
+    for (const int side : kSides) {
+        m_aims.setAngle(side, kFirstAim.angle);
+        m_aims.setSpeed(side, kFirstAim.speed);
+        m_state.MenLeft[side] = kMenInARound;
         m_shared.RoundKills[side] = 0;
         m_shared.RoundShots[side] = 0;
     }
     ++m_state.RoundNumber;
-    m_controls.showRoundNumber();
-    if (m_controls.panel().chkWind) m_controls.chkWind_Click(true);
+    m_desk.show();
+    if (m_state.chkWind) m_options.drawWind();
     chooseFirstShooter();
     m_shared.Winner = 0;
     m_shared.SelfHit = false;
@@ -52,150 +64,106 @@ void Battle::chooseFirstShooter() {
     if (m_state.RoundNumber > 1) {
         // The loser opens the next round. The computer goes on correcting its last miss.
         m_state.Shooter = opponentOf(m_shared.Winner);
-    } else if (m_shared.isComputer(2)) {
-        m_state.Shooter = 1;
+    } else if (m_shared.isComputer(kRightSide)) {
+        m_state.Shooter = kLeftSide;
         m_state.AimDistance = 0;
     } else {
-        m_state.Shooter = RandomInt(m_ports.random, 1, 2);
+        m_state.Shooter = RandomInt(m_ports.random, kLeftSide, kRightSide);
     }
 }
 
 void Battle::GenerateBattlefield() {
-    m_ports.view.showCursor(BattleCursor::Hourglass);
-    m_ports.view.holdInput();
+    m_view.showCursor(BattleCursor::Hourglass);
+    m_view.holdInput();
     generateBattlefield(m_state.field, m_ports.random, m_state.RoundNumber, m_shared.NumRounds);
-    m_starWidth = m_picture.penWidth();
-    drawField();
-    m_ports.view.showCursor(BattleCursor::Normal);
+    m_state.field.starWidth = m_state.penWidth;
+    m_state.penWidth = drawField();
+    m_view.showCursor(BattleCursor::Normal);
 }
 
-void Battle::redrawField() {
-    // The screen can move to another display even while a meteor flies.
-    const int penWidth = m_picture.penWidth();
-    const bool persistent = m_picture.persistentDrawing();
-    m_picture.setPenWidth(m_starWidth);
-    m_picture.setPersistentDrawing(true);
-    drawField();
-    m_picture.setPersistentDrawing(persistent);
-    m_picture.setPenWidth(penWidth);
-}
-
-void Battle::drawField() {
-    const int groundLineWidth = m_ports.view.displayWidth() <= 800 ? 1 : 2;
+/// Returns the width of the ground's lines.
+int Battle::drawField() {
+    const int groundLineWidth = m_view.displayWidth() <= kWidestNarrowDisplay ? 1 : 2;
     drawBattlefield(m_state.field, m_picture, groundLineWidth);
-    m_ports.view.showField();
+    m_view.showField();
+    return groundLineWidth;
 }
 
 void Battle::BeginTurn() {
-    m_controls.showTurn(m_state.Shooter);
+    m_state.phase = Phase::Turn;
+    m_state.turnNotice = {m_state.Shooter, m_state.MenLeft};
     m_shared.NearMiss = false;
-    m_controls.showMenLeft();
-    if (m_state.MenLeft[m_state.Shooter] < 1) {
+    m_desk.show();
+    if (m_state.MenLeft[m_state.Shooter] < 1)
         loseWithoutMen();
-    } else if (m_shared.isComputer(m_state.Shooter)) {
-        m_computer.ComputerTurn();
-        fire();
-    } else {
-        m_ports.view.releaseInput();
-        m_controls.enableCommands();
-        m_controls.startTimers();
-    }
+    else if (m_shared.isComputer(m_state.Shooter))
+        ComputerTurn();
+    else
+        waitForPlayer();
 }
 
 void Battle::loseWithoutMen() {
-    const std::string& name = m_shared.PlayerName[m_state.Shooter];
     m_shared.Winner = opponentOf(m_state.Shooter);
-    m_ports.boxes.show({name + " loses this round!",
-                        name + "-\r\n\r\nYou can't shoot because you have no men left!",
-                        BoxIcon::Critical, BoxButtons::Ok});
+    tellOfNoMen(m_shared.PlayerName[m_state.Shooter], m_ports.boxes);
     FinishShot();
 }
 
+void Battle::ComputerTurn() {
+    m_ports.pacer.Wait(1);
+    m_computer.takeAim(m_shared.SkillLevel);
+    m_ports.pacer.yieldToEvents();
+    m_ports.pacer.Wait(0.25f);
+    fire();
+}
+
+void Battle::waitForPlayer() {
+    m_view.releaseInput();
+    m_state.phase = Phase::Waiting;
+    m_options.setGameSpeed(m_shared.GameSpeed);
+    m_desk.markActivity();
+    m_ambientClock.startTimers();
+}
+
 void Battle::cmdShoot_Click() {
-    if (!m_controls.isWaiting()) return;
-    m_controls.effect().give(AmbientEffect::Command::Shoot, [this] {
-        if (m_controls.isWaiting()) fire();
-    });
+    m_commands.give(Deed::Shoot, [this] { fire(); });
 }
 
 void Battle::fire() {
-    m_ports.view.holdInput();
-    m_controls.stopTimers();
-    m_controls.disableForShot(m_state.Shooter);
+    m_view.holdInput();
+    m_state.phase = Phase::Shot;
+    m_ambientClock.stopTimers();
     ++m_shared.RoundShots[m_state.Shooter];
-    play("shot");
+    m_sounds.PlaySound("shot");
     FireShell();
 }
 
 void Battle::FireShell() {
-    const int shooter = m_state.Shooter, target = opponentOf(shooter);
-    const PerSide<int>& pieceX = m_state.field.PieceX;
-    const Launch launch{shooter,         m_controls.speed(shooter),     m_controls.angle(shooter),
-                        pieceX[shooter], m_state.field.PieceY[shooter], m_state.Wind};
-    FieldPoint at =
-        flyShell(launch, m_state.field, m_state.ShowTrajectory ? Trail::Coloured : Trail::None,
-                 m_animation, FlightDelayCount(m_shared.GameSpeed));
-    if (m_shared.PlayerName[shooter] == kComputerName) m_state.LastImpactX = at.x;
-
-    const Landing landing = classifyLanding(at.x, pieceX[shooter], pieceX[target]);
-    m_shots.push_back({shooter, launch.speed, launch.angle, at, landing});
-    m_shared.SelfHit = landing == Landing::SelfHit;
-    m_shared.DirectHit = landing == Landing::DirectHit;
-    if (landing == Landing::NearMiss) {
-        m_shared.NearMiss = true;
-        m_state.NearMissKills =
-            nearMissKills(m_state.MenLeft[target], std::abs(at.x - pieceX[target]));
-        at.x = pieceX[target];  // the blast is seen on the target
-    }
-    Explode(at, landing);
+    const Shot shot = flyShot(m_state, m_shared.GameSpeed, m_animation);
+    m_shots.push_back(shot);
+    if (m_shared.PlayerName[shot.side] == kComputerName) m_state.LastImpactX = shot.landedAt.x;
+    judgeShot(shot, m_shared, m_state);
+    Explode(blastOf(shot, m_state), shot.landing);
     FinishShot();
 }
 
 void Battle::Explode(FieldPoint at, Landing landing) {
-    play(landingSound(landing));
+    m_sounds.PlaySound(landingSound(landing));
     if (landing == Landing::OutOfBounds) return;
     animateExplosion(at, landing, m_animation, FlightDelayCount(m_shared.GameSpeed));
+    m_state.penWidth = 1;
 }
 
 void Battle::FinishShot() {
-    const int shooter = m_state.Shooter, target = opponentOf(shooter);
-    if (m_shared.SelfHit) {
-        m_shared.Winner = target;
-        creditKills(target, m_state.MenLeft[shooter]);
-    }
-    if (m_shared.DirectHit) {
-        m_shared.Winner = shooter;
-        creditKills(shooter, m_state.MenLeft[target]);
-    }
-    if (m_shared.NearMiss) {
-        int& men = m_state.MenLeft[target];
-        men = std::max(0, men - m_state.NearMissKills);
-        creditKills(shooter, m_state.NearMissKills);
-        if (men == 0) m_shared.Winner = shooter;
-    }
-    if (m_shared.Winner < 1) {
-        desert();
-        m_state.Shooter = target;
-        afterShot(&Battle::BeginTurn);
-    } else {
-        EndRound();
-    }
-}
-
-void Battle::creditKills(int side, int kills) {
-    m_shared.RoundKills[side] += kills;
-    m_shared.TotalKills[side] += kills;
-}
-
-void Battle::desert() {
-    // Deserters are nobody's kills.
-    int& men = m_state.MenLeft[m_state.Shooter];
-    men = std::max(0, men - RandomInt(m_ports.random, 1, 15));
+    creditShot(m_shared, m_state);
+    if (m_shared.Winner >= 1) return EndRound();
+    desert(m_state, m_ports.random);
+    m_state.Shooter = opponentOf(m_state.Shooter);
+    afterShot(&Battle::BeginTurn);
 }
 
 void Battle::afterShot(void (Battle::*next)()) {
     if (m_shared.isComputer(m_shots.back().side))
-        m_ports.view.queue([this, next] { (this->*next)(); });
+        m_view.queue([this, next] { (this->*next)(); });
     else
         (this->*next)();
 }
@@ -203,7 +171,7 @@ void Battle::afterShot(void (Battle::*next)()) {
 void Battle::EndRound() {
     ++m_shared.RoundsWon[m_shared.Winner];
     m_ports.pacer.Wait(1);
-    m_ports.view.showSummary(SummaryKind::Round);
+    m_view.showSummary(SummaryKind::Round);
     if (m_state.RoundNumber == m_shared.NumRounds)
         EndSet();
     else
@@ -212,15 +180,33 @@ void Battle::EndRound() {
 
 void Battle::EndSet() {
     m_shared.SetOver = true;
-    m_ports.view.showCursor(BattleCursor::Hourglass);
+    m_view.showCursor(BattleCursor::Hourglass);
     m_ports.pacer.Wait(1);
-    m_ports.view.showCursor(BattleCursor::Normal);
-    m_ports.view.showSummary(SummaryKind::Set);
-    m_ports.view.closeBattle();
+    m_view.showCursor(BattleCursor::Normal);
+    m_view.showSummary(SummaryKind::Set);
+    m_view.closeBattle();
 }
 
-void Battle::play(std::string_view sound) {
-    if (m_state.SoundOn) m_ports.sounds.PlaySound(sound);
+void Battle::cmdQuit_Click() {
+    m_commands.give(Deed::Quit, [this] { leave(); });
+}
+
+void Battle::leave() {
+    m_desk.markActivity();
+    m_ambientClock.stopTimers();
+    m_state.phase = Phase::Asking;
+    if (!confirmsLeaving(m_state, m_shared, m_ports.boxes)) {
+        m_state.phase = Phase::Waiting;
+        m_desk.markActivity();
+        m_ambientClock.startTimers();
+        return;
+    }
+    offerToKeepGameSpeed(m_state, m_shared, m_ports.boxes, m_ports.settings);
+    saveOptions(m_state, m_ports.settings);
+    m_state.phase = Phase::Left;
+    m_view.holdInput();
+    m_ports.pacer.yieldToEvents();
+    m_view.closeBattle();
 }
 
 }  // namespace skylob

@@ -1,37 +1,34 @@
 #pragma once
 
-#include <string_view>
 #include <vector>
 
 #include "base/basSkylob.h"
-#include "battle/BattleControls.h"
+#include "battle/Aims.h"
+#include "battle/AmbientClock.h"
+#include "battle/BattleOptions.h"
 #include "battle/BattlePorts.h"
-#include "battle/BattleState.h"
+#include "battle/BattleView.h"
+#include "battle/Commands.h"
 #include "battle/ComputerOpponent.h"
+#include "battle/ControlDesk.h"
 #include "battle/FieldPicture.h"
-#include "battle/LightningStorm.h"
-#include "battle/Meteors.h"
-#include "battle/ShellFlight.h"
+#include "battle/Gunnery.h"
 
 namespace skylob {
-
-/// One shell of the set, as it was fired and as it came down.
-struct Shot {
-    int side = 0, speed = 0, angle = 0;
-    FieldPoint landedAt;
-    Landing landing = Landing::Miss;
-};
 
 /// The referee of a set: who fires when, what a shell does, when a round and the set are
 /// decided. A side that is no computer's fires when cmdShoot_Click is called; the computer fires
 /// by itself. Shots run to their end, explosion, next turn and summary included, inside the call
 /// that fires them; only the turn after a computer's shot is queued on the view, so that a long
 /// set does not pile up on the stack.
+///
+/// Handlers are named after the control and its event. A command that comes at the wrong time does
+/// nothing; one that comes while a meteor or a storm is under way ends it and follows it.
 class Battle {
   public:
-    /// `shared` and everything in `ports` must outlive the battle. Player names, skill level
+    /// All three and everything in `ports` must outlive the battle. Player names, skill level
     /// and number of rounds are taken from `shared` and must not change during the set.
-    Battle(basSkylob& shared, const BattlePorts& ports);
+    Battle(basSkylob& shared, const BattlePorts& ports, BattleView& view);
 
     Battle(const Battle&) = delete;
     Battle& operator=(const Battle&) = delete;
@@ -40,58 +37,72 @@ class Battle {
     /// not start it again.
     void Form_Activate();
 
-    /// Fires the shooter's shell. Does nothing while the commands are disabled. A meteor or a
-    /// storm ends first.
+    /// Fires the shooter's shell.
     void cmdShoot_Click();
     /// A click on either piece is one on the shoot button.
     void FieldPiece_Click() { cmdShoot_Click(); }
 
-    /// The ticks of the screen's timers, which run while the panel says so. A tick that finds the
-    /// player busy, or the battle not waiting for the player at all, does nothing.
-    void timerMeteors_Timer() { m_meteors.timerMeteors_Timer(); }
-    void timerLightning_Timer() { m_storm.timerLightning_Timer(); }
+    /// The player wants to leave the set: asks where it has to, saves the options and closes the
+    /// battle.
+    void cmdQuit_Click();
 
-    /// The picture of the field has another size or another display: draws it anew.
-    void redrawField();
+    /// The ticks of the screen's timers, which run while the panel says so.
+    void timerMeteors_Timer() { m_ambientClock.timerMeteors_Timer(); }
+    void timerLightning_Timer() { m_ambientClock.timerLightning_Timer(); }
 
-    BattleControls& controls() { return m_controls; }
+    Aims& aims() { return m_aims; }
+    BattleOptions& options() { return m_options; }
+
+    /// What the view has been shown last.
+    const BattlePanel& panel() const { return m_desk.panel(); }
     const BattleState& state() const { return m_state; }
     const basSkylob& shared() const { return m_shared; }
     /// Every shell of the set so far, in order.
     const std::vector<Shot>& shots() const { return m_shots; }
+    /// A meteor or a storm is under way.
+    bool effectIsRunning() const { return m_effect.isRunning(); }
 
     /// The picture to show; its size is the screen's to choose.
     FieldPicture& picture() { return m_picture; }
+    /// The picture of the field has another size or another display: draws it anew.
+    void redrawField() { drawField(); }
 
   private:
     void StartRound();
     void chooseFirstShooter();
     void GenerateBattlefield();
-    void drawField();
+    int drawField();
     void BeginTurn();
+    void ComputerTurn();
+    void waitForPlayer();
     void loseWithoutMen();
     void fire();
     void FireShell();
     void Explode(FieldPoint at, Landing landing);
     void FinishShot();
-    void creditKills(int side, int kills);
-    void desert();
     void afterShot(void (Battle::*next)());
     void EndRound();
     void EndSet();
-    void play(std::string_view sound);
+    void leave();
 
     basSkylob& m_shared;
     BattlePorts m_ports;
+    BattleView& m_view;
     BattleState m_state;
     FieldPicture m_picture;
     FieldAnimation m_animation;
-    BattleControls m_controls;
+    SwitchedSounds m_sounds;
+    ControlDesk m_desk;
+    Aims m_aims;
+    AmbientEffect m_effect;
+    Commands m_commands;
+    BattleOptions m_options;
     ComputerOpponent m_computer;
+    Sky m_sky;
     Meteors m_meteors;
     LightningStorm m_storm;
+    AmbientClock m_ambientClock;
     std::vector<Shot> m_shots;
-    int m_starWidth = 1;  ///< the pen width that this round's stars were drawn with
     bool m_activated = false;
 };
 

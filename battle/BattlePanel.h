@@ -3,41 +3,46 @@
 #include <string>
 
 #include "base/PerSide.h"
+#include "base/basSkylob.h"
+#include "battle/BattleState.h"
 
 namespace skylob {
 
-/// A scroll bar's range and value; arrow keys move it by 1, Page keys by `largeChange`.
-struct ScrollBar {
-    int minimum, maximum, largeChange;
-    int value = minimum;
-};
-
 /// One side's controls. The whole group is enabled while it is that side's turn.
 struct SidePanel {
-    ScrollBar scrollSpeed{100, 999, 10};
-    ScrollBar scrollAngle{10, 90, 5};
-    std::string labelSpeed = "Speed: 100", labelAngle = "Angle:   10", labelMenLeft;
+    int scrollSpeed = 0;  ///< in kSpeedRange
+    int scrollAngle = 0;  ///< in kAngleRange
+    std::string labelSpeed, labelAngle, labelMenLeft;
     int menLeft = 0;       ///< what labelMenLeft says, for a gauge beside it
     bool enabled = false;  ///< the frame and everything in it
+
+    bool operator==(const SidePanel&) const = default;
 };
 
-/// What the battle screen's controls show; the rules fill it in, the screen follows it.
+/// What the battle screen's controls show: a plain value, made from the state alone.
 struct BattlePanel {
     PerSide<SidePanel> side;
     int turn = 0;  ///< the side whose turn is marked, 0 before the first turn
 
-    ScrollBar scrollGameSpeed{1, 99, 10};
-    std::string labelGameSpeed = "Game Speed: 1", labelRoundNumber;
+    int scrollGameSpeed = 0;  ///< in kGameSpeedRange
+    std::string labelGameSpeed, labelRoundNumber;
 
     bool chkSound = false, chkTrajectory = false, chkMeteors = false;
     bool chkLightning = false, chkWind = false;
-    std::string chkWindCaption = "Wind";
+    std::string chkWindCaption;
 
     /// cmdShoot, cmdQuit, the game speed bar and the five boxes are usable.
     bool commandsEnabled = false;
 
     /// Whether the timers of meteors and lightning run.
     bool timerMeteors = false, timerLightning = false;
+
+    bool operator==(const BattlePanel&) const = default;
 };
+
+/// Where the game speed bar stands.
+int gameSpeedOnBar(const BattleState& state, const basSkylob& shared);
+
+BattlePanel panelOf(const BattleState& state, const basSkylob& shared);
 
 }  // namespace skylob

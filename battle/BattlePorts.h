@@ -6,11 +6,10 @@
 #include "base/RandomInt.h"
 #include "base/SettingsStore.h"
 #include "base/SoundPlayer.h"
-#include "battle/BattleView.h"
 
 namespace skylob {
 
-/// What a battle needs of the world. All of it must outlive the battle.
+/// What a battle needs of the world beside a screen. All of it must outlive the battle.
 struct BattlePorts {
     RandomSource& random;
     const Clock& clock;
@@ -18,7 +17,6 @@ struct BattlePorts {
     SoundPlayer& sounds;
     MessageBoxes& boxes;
     SettingsStore& settings;
-    BattleView& view;
 };
 
 }  // namespace skylob

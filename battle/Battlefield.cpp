@@ -91,7 +91,7 @@ void drawMoon(Battlefield& field, RandomSource& random) {
 void drawPieces(Battlefield& field, RandomSource& random) {
     field.PieceX[1] = RandomInt(random, 20, field.leftFoot - 20);
     field.PieceX[2] = RandomInt(random, field.rightFoot + 20, 980);
-    for (const int side : {1, 2}) field.PieceY[side] = field.heightAt(field.PieceX[side]);
+    for (const int side : kSides) field.PieceY[side] = field.heightAt(field.PieceX[side]);
 }
 
 }  // namespace
@@ -164,19 +164,20 @@ void generateBattlefield(Battlefield& field, RandomSource& random, int roundNumb
 void drawBattlefield(const Battlefield& field, FieldPicture& picture, int groundLineWidth) {
     picture.hidePieces();
     picture.clear();
-    for (const auto& star : field.stars) picture.setPoint(star.x, star.y, star.colour);
+    for (const auto& star : field.stars)
+        picture.setPoint(star.x, star.y, star.colour, field.starWidth);
     if (field.hasMoon()) {
         const int shadow = field.MoonX + field.MoonOffset - 5;
         picture.filledCircle(field.MoonX, field.moonY, kMoonRadius, kCyan);
         picture.filledCircle(shadow, field.moonY, kMoonRadius, kBlack);
     }
-    picture.setPenWidth(groundLineWidth);
     for (int x = 1; x < kColumns; x += 2) {
         const int mirrored = kColumns + 1 - x;
-        picture.verticalLine(x, 1, field.heightAt(x), field.groundColour);
-        picture.verticalLine(mirrored, 1, field.heightAt(mirrored), field.groundColour);
+        for (const int column : {x, mirrored})
+            picture.verticalLine(column, 1, field.heightAt(column), field.groundColour,
+                                 groundLineWidth);
     }
-    for (const int side : {1, 2}) picture.placePiece(side, field.PieceX[side], field.PieceY[side]);
+    for (const int side : kSides) picture.placePiece(side, field.PieceX[side], field.PieceY[side]);
     picture.refresh();
 }
 

@@ -28,6 +28,7 @@ struct Battlefield {
     PerSide<int> PieceX, PieceY;                    ///< a piece's column and the ground under it
 
     std::vector<Star> stars;
+    int starWidth = 1;         ///< of the pen that draws the stars
     int MoonX = 0, moonY = 0;  ///< the moon's centre; MoonX is 0 when there is no moon
     int MoonOffset = 0;        ///< kept from round to round: 40 in the first, then 4 less each
     Colour groundColour = kBlack;
@@ -46,13 +47,12 @@ int SlopeStep(RandomSource& random, int kind);
 Colour TerrainColours(int number);
 
 /// Makes `field` the battlefield of round `roundNumber` (1 or more) of `numRounds`. Only its
-/// MoonOffset is carried over from the round before. The last round has no moon. Draws from
-/// `random` in a fixed order, so that a seed makes a battlefield.
+/// MoonOffset is carried over from the round before; its stars are 1 wide. The last round has no
+/// moon. Draws from `random` in a fixed order, so that a seed makes a battlefield.
 void generateBattlefield(Battlefield& field, RandomSource& random, int roundNumber, int numRounds);
 
-/// Draws the battlefield as the persistent picture, with the two pieces standing on it. The stars
-/// have the picture's present pen width; the ground's columns have `groundLineWidth`, which stays
-/// the pen's width afterwards.
+/// Draws the battlefield as the persistent picture, with the two pieces standing on it. The
+/// ground's columns are drawn `groundLineWidth` wide.
 void drawBattlefield(const Battlefield& field, FieldPicture& picture, int groundLineWidth);
 
 }  // namespace skylob

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "base/basSkylob.h"
-#include "battle/BattleControls.h"
-#include "battle/BattlePorts.h"
+#include "base/RandomInt.h"
+#include "battle/Aims.h"
 #include "battle/BattleState.h"
 
 namespace skylob {
@@ -13,25 +12,23 @@ namespace skylob {
 /// in an earlier round.
 class ComputerOpponent {
   public:
-    /// All four must outlive the opponent.
-    ComputerOpponent(const basSkylob& shared, BattleState& state, BattleControls& controls,
-                     const BattlePorts& ports);
+    /// All three must outlive the opponent.
+    ComputerOpponent(BattleState& state, Aims& aims, RandomSource& random);
 
-    /// Thinks, aims, and gives the onlookers a moment; the shot is then the caller's to fire.
-    void ComputerTurn();
+    /// Aims for its next shot, as well as `skillLevel` (kGoodSkill, kFairSkill, kPoorSkill) allows.
+    void takeAim(int skillLevel);
 
   private:
     void measureField(int error);
-    void correctAim(int error);
+    void correctAim(int skillLevel, int error);
     void raiseToFloor(int error);
     void addSpeed(int change);
     void addAngle(int change);
     int angleOverMountain() const;
 
-    const basSkylob& m_shared;
     BattleState& m_state;
-    BattleControls& m_controls;
-    BattlePorts m_ports;
+    Aims& m_aims;
+    RandomSource& m_random;
 };
 
 }  // namespace skylob

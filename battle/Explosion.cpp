@@ -30,20 +30,15 @@ void animateExplosion(FieldPoint at, Landing landing, FieldAnimation& animation,
     const int maximum = isHit(landing) ? 22 : 6;
     const int y = isHit(landing) ? at.y + 16 : at.y;
     FieldPicture& picture = animation.picture();
-    picture.setPersistentDrawing(false);
     animation.start();
     for (int width = 2; width <= maximum; ++width) {
-        picture.setPenWidth(width);
         for (const Colour colour : {kYellow, kWhite}) {
-            picture.setPoint(at.x, y, colour);
+            picture.setPassingPoint(at.x, y, colour, width);
             animation.hold(delayCount);
         }
     }
-    picture.setPenWidth(maximum + 1);
-    picture.setPoint(at.x, y, kBlack);
+    picture.setPassingPoint(at.x, y, kBlack, maximum + 1);
     animation.show();
-    picture.setPenWidth(1);
-    picture.setPersistentDrawing(true);
 }
 
 }  // namespace skylob

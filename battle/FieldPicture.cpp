@@ -62,11 +62,17 @@ void FieldPicture::clear() {
     markDirty({0, 0, m_width, m_height});
 }
 
-void FieldPicture::setPoint(int x, int y, Colour colour) {
-    const PixelRect dot = dotArea(x, y);
-    const std::uint32_t value = toPixel(colour);
-    if (m_penWidth == 1) {
-        fill(dot, value);
+void FieldPicture::setPoint(int x, int y, Colour colour, int width) {
+    drawDot(dotArea(x, y, width), width, toPixel(colour), Buffers::Both);
+}
+
+void FieldPicture::setPassingPoint(int x, int y, Colour colour, int width) {
+    drawDot(dotArea(x, y, width), width, toPixel(colour), Buffers::ScreenOnly);
+}
+
+void FieldPicture::drawDot(const PixelRect& dot, int width, std::uint32_t value, Buffers into) {
+    if (width == 1) {
+        fill(dot, value, into);
         return;
     }
     // Dots of odd and of even size cannot stand on quite the same centre. The odd ones are a
@@ -77,7 +83,7 @@ void FieldPicture::setPoint(int x, int y, Colour colour) {
         const double dy = line + 0.5 - size / 2;
         const double half = std::sqrt(squaredRadius - dy * dy);
         const int left = static_cast<int>(std::ceil(size / 2 - half - 0.5));
-        fillRow(dot.x + left, dot.y + line, dot.width - 2 * left, value);
+        fillRow(dot.x + left, dot.y + line, dot.width - 2 * left, value, into);
     }
     markDirty(dot);
 }
@@ -87,10 +93,11 @@ Colour FieldPicture::pixel(int x, int y) const {
     return dot.isEmpty() ? kBlack : toColour(m_screen[index(dot.x, dot.y)]);
 }
 
-void FieldPicture::verticalLine(int x, int y1, int y2, Colour colour) {
-    const int width = m_penWidth * m_dotScale;
+void FieldPicture::verticalLine(int x, int y1, int y2, Colour colour, int width) {
+    const int pixels = width * m_dotScale;
     const int top = row(y2);
-    fill({column(x) - (width - 1) / 2, top, width, row(y1) - top + 1}, toPixel(colour));
+    fill({column(x) - (pixels - 1) / 2, top, pixels, row(y1) - top + 1}, toPixel(colour),
+         Buffers::Both);
 }
 
 void FieldPicture::filledCircle(int x, int y, int radius, Colour colour) {
@@ -99,13 +106,13 @@ void FieldPicture::filledCircle(int x, int y, int radius, Colour colour) {
     const int cx = column(x), cy = row(y);
     for (int dy = -reach; dy <= reach; ++dy) {
         const int half = toInt(std::sqrt(r * r - static_cast<double>(dy) * dy));
-        fillRow(cx - half, cy + dy, 2 * half + 1, toPixel(colour));
+        fillRow(cx - half, cy + dy, 2 * half + 1, toPixel(colour), Buffers::Both);
     }
     markDirty({cx - reach - 1, cy - reach, 2 * reach + 3, 2 * reach + 1});
 }
 
-FieldPicture::LiftedPoint FieldPicture::liftPoint(int x, int y) const {
-    LiftedPoint lifted{clipped(dotArea(x, y)), {}, m_making};
+FieldPicture::LiftedPoint FieldPicture::liftPoint(int x, int y, int width) const {
+    LiftedPoint lifted{clipped(dotArea(x, y, width)), {}, m_making};
     for (int line = 0; line < lifted.area.height; ++line) {
         const auto* from = m_screen.data() + index(lifted.area.x, lifted.area.y + line);
         lifted.pixels.insert(lifted.pixels.end(), from, from + lifted.area.width);
@@ -140,7 +147,7 @@ void FieldPicture::placePiece(int side, int x, int groundHeight) {
 }
 
 void FieldPicture::hidePieces() {
-    for (const int side : {1, 2}) m_pieces[side].area = {};
+    for (const int side : kSides) m_pieces[side].area = {};
 }
 
 PixelRect FieldPicture::pieceArea(int side) const {
@@ -150,7 +157,7 @@ PixelRect FieldPicture::pieceArea(int side) const {
 void FieldPicture::refresh() {
     ++m_making;
     m_screen = m_persistent;
-    for (const int side : {1, 2}) {
+    for (const int side : kSides) {
         const auto& [image, area] = m_pieces[side];
         const PixelRect seen = clipped({area.x, area.y, std::min(area.width, image.width),
                                         std::min(area.height, image.height)});
@@ -178,8 +185,8 @@ int FieldPicture::row(int y) const {
     return m_height - 1 - toInt((y - 1) * (m_height - 1) / kUnits);
 }
 
-PixelRect FieldPicture::dotArea(int x, int y) const {
-    const int size = m_penWidth * m_dotScale;
+PixelRect FieldPicture::dotArea(int x, int y, int width) const {
+    const int size = width * m_dotScale;
     return {column(x) - (size - 1) / 2, row(y) - (size - 1) / 2, size, size};
 }
 
@@ -195,17 +202,18 @@ std::size_t FieldPicture::index(int px, int py) const {
            static_cast<std::size_t>(px);
 }
 
-void FieldPicture::fillRow(int px, int py, int length, std::uint32_t value) {
+void FieldPicture::fillRow(int px, int py, int length, std::uint32_t value, Buffers into) {
     const PixelRect seen = clipped({px, py, length, 1});
     if (seen.isEmpty()) return;
     const std::size_t start = index(seen.x, seen.y);
     std::fill_n(m_screen.data() + start, seen.width, value);
-    if (m_persistentDrawing) std::fill_n(m_persistent.data() + start, seen.width, value);
+    if (into == Buffers::Both) std::fill_n(m_persistent.data() + start, seen.width, value);
 }
 
-void FieldPicture::fill(const PixelRect& area, std::uint32_t value) {
+void FieldPicture::fill(const PixelRect& area, std::uint32_t value, Buffers into) {
     const PixelRect seen = clipped(area);
-    for (int py = seen.y; py < seen.y + seen.height; ++py) fillRow(seen.x, py, seen.width, value);
+    for (int py = seen.y; py < seen.y + seen.height; ++py)
+        fillRow(seen.x, py, seen.width, value, into);
     markDirty(seen);
 }
 

@@ -22,8 +22,10 @@ struct PixelRect {
 ///
 /// There are two buffers. The persistent picture is what refresh() brings back; the screen
 /// picture is what the player sees: the persistent picture with the two pieces on it, and on top
-/// whatever was drawn while persistent drawing was off. What lies outside the picture is cut off.
-/// A picture of no size is valid and draws nothing: a game without a screen uses it.
+/// whatever has been drawn for the moment. What lies outside the picture is cut off. A picture of
+/// no size is valid and draws nothing: a game without a screen uses it.
+///
+/// A `width` is that of the pen, 1 or more; a dot is square at a width of 1 and round above.
 class FieldPicture {
   public:
     /// An image with premultiplied alpha, 0xAARRGGBB, row by row.
@@ -45,34 +47,29 @@ class FieldPicture {
     /// Blackens both buffers.
     void clear();
 
-    /// On (the usual state): drawing goes to both buffers. Off: to the screen picture alone.
-    void setPersistentDrawing(bool on) { m_persistentDrawing = on; }
-    bool persistentDrawing() const { return m_persistentDrawing; }
+    /// A dot, in both buffers.
+    void setPoint(int x, int y, Colour colour, int width = 1);
 
-    /// The width of points and lines, at least 1. It is 1 at first.
-    void setPenWidth(int width) { m_penWidth = width; }
-    int penWidth() const { return m_penWidth; }
-
-    /// A dot of the pen's width: square at widths up to 1 unit, round above.
-    void setPoint(int x, int y, Colour colour);
+    /// A dot on the screen picture alone: of a shell, a blast, a meteor, a bolt.
+    void setPassingPoint(int x, int y, Colour colour, int width = 1);
 
     /// The colour seen at a point; black outside the picture. Where a point is a square of
     /// several device pixels that is one of them: see liftPoint for all.
     Colour pixel(int x, int y) const;
 
-    /// A line of the pen's width along column x, from height y1 up to y2, both included.
-    void verticalLine(int x, int y1, int y2, Colour colour);
+    /// A line along column x, from height y1 up to y2, both included; in both buffers.
+    void verticalLine(int x, int y1, int y2, Colour colour, int width = 1);
 
-    /// A filled circle, round in pixels; `radius` is in horizontal units.
+    /// A filled circle, round in pixels, in both buffers; `radius` is in horizontal units.
     void filledCircle(int x, int y, int radius, Colour colour);
 
-    /// The pixels of the screen picture under a dot of the present pen width.
+    /// The pixels of the screen picture under a dot.
     struct LiftedPoint {
         PixelRect area;
         std::vector<std::uint32_t> pixels;
         int making;
     };
-    LiftedPoint liftPoint(int x, int y) const;
+    LiftedPoint liftPoint(int x, int y, int width = 1) const;
 
     /// Puts lifted pixels back onto the screen picture, exactly as they were. Does nothing if
     /// the picture has been resized, cleared or refreshed since: the dot went with that.
@@ -104,11 +101,13 @@ class FieldPicture {
   private:
     int column(int x) const;
     int row(int y) const;
-    PixelRect dotArea(int x, int y) const;
+    PixelRect dotArea(int x, int y, int width) const;
     PixelRect clipped(const PixelRect& area) const;
     std::size_t index(int px, int py) const;
-    void fillRow(int px, int py, int length, std::uint32_t value);
-    void fill(const PixelRect& area, std::uint32_t value);
+    enum class Buffers { Both, ScreenOnly };
+    void drawDot(const PixelRect& dot, int width, std::uint32_t value, Buffers into);
+    void fillRow(int px, int py, int length, std::uint32_t value, Buffers into);
+    void fill(const PixelRect& area, std::uint32_t value, Buffers into);
     void markDirty(const PixelRect& area);
 
     struct Piece {
@@ -117,8 +116,6 @@ class FieldPicture {
     };
 
     int m_width = 0, m_height = 0, m_dotScale = 1;
-    int m_penWidth = 1;
-    bool m_persistentDrawing = true;
     std::vector<std::uint32_t> m_persistent, m_screen;
     PerSide<Piece> m_pieces;
     PixelRect m_dirty;

@@ -56,71 +56,50 @@ Bolt boltPath(FieldPoint start, const Battlefield& field, RandomSource& random,
     return bolt;
 }
 
-LightningStorm::LightningStorm(const BattleState& state, BattleControls& controls,
-                               const BattlePorts& ports, FieldAnimation& animation)
-    : m_state{state}, m_controls{controls}, m_ports{ports}, m_animation{animation} {
-}
-
-void LightningStorm::timerLightning_Timer() {
-    if (!m_controls.isIdle()) return;
-    if (RandomInt(m_ports.random, 1, 10) == 1) m_controls.effect().run([this] { rage(); });
-}
-
 void LightningStorm::rage() {
-    m_controls.stormBegins();
-    const int bolts = RandomInt(m_ports.random, 1, 4);
+    const int bolts = RandomInt(m_sky.random, 1, 4);
     strike(bolts);
-    if (m_controls.effect().isInterrupted()) {
-        clearSky();
-    } else {
-        m_ports.view.holdInput();
-        const int pause = RandomInt(m_ports.random, kPauseSeconds, kPauseSeconds * (bolts + 1));
-        m_ports.pacer.Wait(static_cast<float>(pause));
-        thunder(bolts);
-        clearSky();
-        m_ports.pacer.yieldToEvents();
-        // A window can be closed even while its input is held.
-        if (!m_controls.effect().isInterrupted()) m_ports.pacer.Wait(2);
-        m_ports.view.releaseInput();
-    }
-    m_controls.stormEnds();
+    if (m_sky.effect.isInterrupted()) return clearSky();
+    m_view.holdInput();
+    const int pause = RandomInt(m_sky.random, kPauseSeconds, kPauseSeconds * (bolts + 1));
+    m_pacer.Wait(static_cast<float>(pause));
+    thunder(bolts);
+    clearSky();
+    // A window can be closed even while its input is held.
+    if (m_sky.effect.serveEvents()) m_pacer.Wait(2);
+    m_view.releaseInput();
 }
 
 void LightningStorm::strike(int bolts) {
-    m_animation.picture().setPersistentDrawing(false);
-    const auto mayGoOn = [this] {
-        m_ports.pacer.yieldToEvents();
-        return !m_controls.effect().isInterrupted();
-    };
     Bolt bolt;
-    for (int number = 1; number <= bolts && !m_controls.effect().isInterrupted(); ++number) {
-        const FieldPoint start = boltStart(bolt, m_ports.random);
-        bolt = boltPath(start, m_state.field, m_ports.random, mayGoOn);
+    for (int number = 1; number <= bolts && !m_sky.effect.isInterrupted(); ++number) {
+        const FieldPoint start = boltStart(bolt, m_sky.random);
+        bolt = boltPath(start, m_sky.state.field, m_sky.random,
+                        [this] { return m_sky.effect.serveEvents(); });
         draw(bolt);
     }
 }
 
 void LightningStorm::draw(const Bolt& bolt) {
     for (const FieldPoint& at : bolt) {
-        if (m_controls.effect().isInterrupted()) return;
-        m_animation.picture().setPoint(at.x, at.y, kYellow);
-        m_animation.show();
-        m_ports.pacer.yieldToEvents();
+        if (m_sky.effect.isInterrupted()) return;
+        m_sky.animation.picture().setPassingPoint(at.x, at.y, kYellow, m_sky.state.penWidth);
+        m_sky.animation.show();
+        m_sky.effect.serveEvents();
     }
 }
 
 void LightningStorm::thunder(int bolts) {
-    if (!m_state.SoundOn) return;
+    if (!m_sounds.areOn()) return;  // and nothing is drawn for it
     // The more bolts, the longer it rolls.
     std::string sound = "thunder";
-    sound += std::to_string(RandomInt(m_ports.random, 1, 2) + (bolts <= 2 ? 0 : 1));
-    m_ports.sounds.PlaySound(sound);
+    sound += std::to_string(RandomInt(m_sky.random, 1, 2) + (bolts <= 2 ? 0 : 1));
+    m_sounds.PlaySound(sound);
 }
 
 void LightningStorm::clearSky() {
-    m_animation.picture().setPersistentDrawing(true);
-    m_animation.picture().refresh();
-    m_animation.show();
+    m_sky.animation.picture().refresh();
+    m_sky.animation.show();
 }
 
 }  // namespace skylob

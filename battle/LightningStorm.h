@@ -3,11 +3,10 @@
 #include <functional>
 #include <vector>
 
-#include "battle/BattleControls.h"
-#include "battle/BattlePorts.h"
-#include "battle/BattleState.h"
-#include "battle/FieldAnimation.h"
+#include "battle/BattleView.h"
 #include "battle/ShellFlight.h"
+#include "battle/Sky.h"
+#include "battle/SwitchedSounds.h"
 
 namespace skylob {
 
@@ -24,29 +23,27 @@ Bolt boltPath(FieldPoint start, const Battlefield& field, RandomSource& random,
 /// the rest at a point of the middle third of the one before.
 FieldPoint boltStart(const Bolt& previous, RandomSource& random);
 
-/// Thunderstorms over the battlefield while the player leaves the controls alone: one to four
-/// bolts, a long pause, thunder.
+/// Thunderstorms over the battlefield: one to four bolts, a long pause, thunder.
 class LightningStorm {
   public:
     /// All of these must outlive the storm.
-    LightningStorm(const BattleState& state, BattleControls& controls, const BattlePorts& ports,
-                   FieldAnimation& animation);
+    LightningStorm(const Sky& sky, SwitchedSounds& sounds, Pacer& pacer, BattleView& view)
+        : m_sky{sky}, m_sounds{sounds}, m_pacer{pacer}, m_view{view} {}
 
-    /// Every 500 ms. A storm comes with one tick in ten and runs to its end inside the call, or,
-    /// while the bolts strike, to the command that interrupts it.
-    void timerLightning_Timer();
+    /// One storm, to its end or, while the bolts strike, to its interruption. The view's input is
+    /// held from the bolts on.
+    void rage();
 
   private:
-    void rage();
     void strike(int bolts);
     void draw(const Bolt& bolt);
     void thunder(int bolts);
     void clearSky();
 
-    const BattleState& m_state;
-    BattleControls& m_controls;
-    BattlePorts m_ports;
-    FieldAnimation& m_animation;
+    Sky m_sky;
+    SwitchedSounds& m_sounds;
+    Pacer& m_pacer;
+    BattleView& m_view;
 };
 
 }  // namespace skylob

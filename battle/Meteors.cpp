@@ -53,50 +53,31 @@ std::int32_t meteorDelayCount(int gameSpeed) {
     return static_cast<std::int32_t>(std::clamp(counts, std::int64_t{0}, kMost));
 }
 
-Meteors::Meteors(const basSkylob& shared, const BattleState& state, BattleControls& controls,
-                 const BattlePorts& ports, FieldAnimation& animation)
-    : m_shared{shared},
-      m_state{state},
-      m_controls{controls},
-      m_ports{ports},
-      m_animation{animation} {
-}
-
-void Meteors::timerMeteors_Timer() {
-    if (!m_controls.isIdle()) return;
-    if (RandomInt(m_ports.random, 1, 20) == 1) m_controls.effect().run([this] { fly(); });
-}
-
 void Meteors::fly() {
-    m_controls.meteorBegins();
-    const MeteorPath path = meteorPath(m_state.field, m_ports.random);
+    const MeteorPath path = meteorPath(m_sky.state.field, m_sky.random);
     streak(path.points);
-    if (path.hitsGround && !m_controls.effect().isInterrupted()) {
-        animateExplosion(path.end, Landing::Miss, m_animation,
+    if (path.hitsGround && !m_sky.effect.isInterrupted()) {
+        animateExplosion(path.end, Landing::Miss, m_sky.animation,
                          FlightDelayCount(m_shared.GameSpeed));
     }
-    m_controls.meteorEnds();
+    m_sky.state.penWidth = 1;
 }
 
 void Meteors::streak(const std::vector<FieldPoint>& points) {
-    FieldPicture& picture = m_animation.picture();
-    picture.setPersistentDrawing(false);
-    picture.setPenWidth(kNarrow);
-    m_animation.start();
+    FieldPicture& picture = m_sky.animation.picture();
+    int width = kNarrow;
+    m_sky.animation.start();
     for (const FieldPoint& at : points) {
-        if (RandomInt(m_ports.random, 1, 20) == 10)
-            picture.setPenWidth(kNarrow + kWide - picture.penWidth());
-        const auto sky = picture.liftPoint(at.x, at.y);
-        picture.setPoint(at.x, at.y, kYellow);
+        if (RandomInt(m_sky.random, 1, 20) == 10) width = kNarrow + kWide - width;
+        const auto sky = picture.liftPoint(at.x, at.y, width);
+        picture.setPassingPoint(at.x, at.y, kYellow, width);
         // Asked anew at each point: the game speed bar can be moved meanwhile.
-        m_animation.hold(meteorDelayCount(m_shared.GameSpeed));
-        m_ports.pacer.yieldToEvents();
+        m_sky.animation.hold(meteorDelayCount(m_shared.GameSpeed));
+        const bool goesOn = m_sky.effect.serveEvents();
         picture.putBack(sky);
-        if (m_controls.effect().isInterrupted()) break;
+        if (!goesOn) break;
     }
-    m_animation.show();
-    picture.setPenWidth(1);
-    picture.setPersistentDrawing(true);
+    m_sky.animation.show();
 }
 
 }  // namespace skylob

@@ -4,11 +4,8 @@
 #include <vector>
 
 #include "base/basSkylob.h"
-#include "battle/BattleControls.h"
-#include "battle/BattlePorts.h"
-#include "battle/BattleState.h"
-#include "battle/FieldAnimation.h"
 #include "battle/ShellFlight.h"
+#include "battle/Sky.h"
 
 namespace skylob {
 
@@ -26,27 +23,20 @@ MeteorPath meteorPath(const Battlefield& field, RandomSource& random);
 /// The counts that a meteor stays at each of its points: 0 from a game speed of 100 on.
 std::int32_t meteorDelayCount(int gameSpeed);
 
-/// Meteors cross the sky while the player leaves the controls alone. One that comes down explodes
-/// without a sound and hurts nobody.
+/// Meteors cross the sky. One that comes down explodes without a sound and hurts nobody.
 class Meteors {
   public:
-    /// All of these must outlive the meteors.
-    Meteors(const basSkylob& shared, const BattleState& state, BattleControls& controls,
-            const BattlePorts& ports, FieldAnimation& animation);
+    /// `shared`, whose GameSpeed is theirs, must outlive the meteors.
+    Meteors(const Sky& sky, const basSkylob& shared) : m_sky{sky}, m_shared{shared} {}
 
-    /// Every 333 ms. A meteor comes with one tick in twenty and runs to its end, or to the
-    /// command that interrupts it, inside the call.
-    void timerMeteors_Timer();
+    /// One meteor, to its end or its interruption. Leaves the pen at a width of 1.
+    void fly();
 
   private:
-    void fly();
     void streak(const std::vector<FieldPoint>& points);
 
+    Sky m_sky;
     const basSkylob& m_shared;
-    const BattleState& m_state;
-    BattleControls& m_controls;
-    BattlePorts m_ports;
-    FieldAnimation& m_animation;
 };
 
 }  // namespace skylob

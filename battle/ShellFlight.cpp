@@ -48,9 +48,6 @@ bool isFlying(FieldPoint at, const Battlefield& field) {
 FieldPoint flyShell(const Launch& launch, const Battlefield& field, Trail trail,
                     FieldAnimation& animation, std::int32_t delayCount) {
     FieldPicture& picture = animation.picture();
-    const int penWidth = picture.penWidth();
-    picture.setPersistentDrawing(false);
-    picture.setPenWidth(1);
     animation.start();
 
     ShellFlight flight{launch};
@@ -58,19 +55,17 @@ FieldPoint flyShell(const Launch& launch, const Battlefield& field, Trail trail,
     do {
         at = flight.position();
         const auto background = picture.liftPoint(at.x, at.y);
-        picture.setPoint(at.x, at.y, kYellow);
+        picture.setPassingPoint(at.x, at.y, kYellow);
         flight.advance();
         animation.hold(delayCount);
         if (trail == Trail::Coloured)
-            picture.setPoint(at.x, at.y, trailColour(launch.side));
+            picture.setPassingPoint(at.x, at.y, trailColour(launch.side));
         else
             picture.putBack(background);
     } while (isFlying(at, field));
 
-    picture.setPoint(at.x, at.y, kBlack);
+    picture.setPassingPoint(at.x, at.y, kBlack);
     animation.show();
-    picture.setPenWidth(penWidth);
-    picture.setPersistentDrawing(true);
     return at;
 }
 

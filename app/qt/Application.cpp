@@ -171,11 +171,12 @@ void Application::showSkillLevel() {
 
 void Application::showBattle() {
     m_battle = new frmPlayGame{
-        m_shared, frmPlayGamePorts{m_random, m_clock, m_pacer, m_sounds, m_boxes, m_settings,
-                                   m_shapes, [this](SummaryKind kind) {
-                                       after(kind == SummaryKind::Round ? Event::RoundDecided
-                                                                        : Event::SetDecided);
-                                   }}};
+        m_shared,
+        {{m_random, m_clock, m_pacer, m_sounds, m_boxes, m_settings},
+         m_shapes,
+         [this](SummaryKind kind) {
+             after(kind == SummaryKind::Round ? Event::RoundDecided : Event::SetDecided);
+         }}};
     follow(m_battle.get(), &frmPlayGame::battleClosed, Event::BattleLeft);
     show(m_battle);
 }

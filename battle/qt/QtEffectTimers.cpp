@@ -58,7 +58,7 @@ bool QtEffectTimers::eventFilter(QObject*, QEvent* event) {
 }
 
 void QtEffectTimers::follow() {
-    const BattlePanel& panel = m_battle.controls().panel();
+    const BattlePanel& panel = m_battle.panel();
     const bool mayRun = m_isShown && !m_hasEnded;
     run(*timerMeteors, mayRun && panel.timerMeteors);
     run(*timerLightning, mayRun && panel.timerLightning);

@@ -9,7 +9,7 @@ QtMenGauge::QtMenGauge(QWidget* parent) : QWidget{parent} {
     setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
-void QtMenGauge::show(int menLeft, const QColor& colour) {
+void QtMenGauge::showMen(int menLeft, const QColor& colour) {
     if (menLeft == m_menLeft && colour == m_colour) return;
     m_menLeft = menLeft;
     m_colour = colour;

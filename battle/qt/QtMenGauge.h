@@ -12,7 +12,7 @@ class QtMenGauge : public QWidget {
   public:
     explicit QtMenGauge(QWidget* parent);
 
-    void show(int menLeft, const QColor& colour);
+    void showMen(int menLeft, const QColor& colour);
 
   protected:
     void paintEvent(QPaintEvent* event) override;

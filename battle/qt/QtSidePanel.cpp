@@ -2,7 +2,6 @@
 
 #include <QLabel>
 #include <QScrollBar>
-#include <QSignalBlocker>
 
 #include "battle/qt/QtMenGauge.h"
 
@@ -12,8 +11,13 @@ namespace {
 
 constexpr QRgb kRestingGauge = 0x5A6785;
 
-QLabel* makeLabel(const QRect& place, QWidget* parent) {
+QString nameOf(const char* control, int side) {
+    return QStringLiteral("%1(%2)").arg(QLatin1String{control}).arg(side);
+}
+
+QLabel* makeLabel(const QString& name, const QRect& place, QWidget* parent) {
     auto* label = new QLabel{parent};
+    label->setObjectName(name);
     label->setGeometry(place);
     label->setTextFormat(Qt::PlainText);
     return label;
@@ -21,11 +25,13 @@ QLabel* makeLabel(const QRect& place, QWidget* parent) {
 
 }  // namespace
 
-QScrollBar* makeScrollBar(const ScrollBar& bar, const QRect& place, QWidget* parent) {
+QScrollBar* makeScrollBar(const QString& name, const BarRange& range, const QRect& place,
+                          QWidget* parent) {
     auto* widget = new QScrollBar{Qt::Horizontal, parent};
-    widget->setRange(bar.minimum, bar.maximum);
+    widget->setObjectName(name);
+    widget->setRange(range.minimum, range.maximum);
     widget->setSingleStep(1);
-    widget->setPageStep(bar.largeChange);
+    widget->setPageStep(range.largeChange);
     widget->setGeometry(place);
     widget->setFocusPolicy(Qt::StrongFocus);
     // A scroll bar takes "right" and "up" for less, as it suits a document; here it sets a value.
@@ -33,19 +39,16 @@ QScrollBar* makeScrollBar(const ScrollBar& bar, const QRect& place, QWidget* par
     return widget;
 }
 
-void showValue(QScrollBar& widget, const ScrollBar& bar) {
-    const QSignalBlocker quiet{widget};
-    widget.setValue(bar.value);
-}
-
 QtSidePanel::QtSidePanel(int side, const QString& caption, const SidePanelLayout& layout,
                          QWidget* parent)
     : QtSideFrame{side, parent},
-      m_labelSpeed{makeLabel(layout.labelSpeed, this)},
-      m_labelAngle{makeLabel(layout.labelAngle, this)},
-      m_labelMenLeft{makeLabel(layout.labelMenLeft, this)},
-      m_scrollSpeed{makeScrollBar(SidePanel{}.scrollSpeed, layout.scrollSpeed, this)},
-      m_scrollAngle{makeScrollBar(SidePanel{}.scrollAngle, layout.scrollAngle, this)},
+      m_labelSpeed{makeLabel(nameOf("labelSpeed", side), layout.labelSpeed, this)},
+      m_labelAngle{makeLabel(nameOf("labelAngle", side), layout.labelAngle, this)},
+      m_labelMenLeft{makeLabel(nameOf("labelMenLeft", side), layout.labelMenLeft, this)},
+      m_scrollSpeed{
+          makeScrollBar(nameOf("scrollSpeed", side), kSpeedRange, layout.scrollSpeed, this)},
+      m_scrollAngle{
+          makeScrollBar(nameOf("scrollAngle", side), kAngleRange, layout.scrollAngle, this)},
       m_menGauge{new QtMenGauge{this}} {
     m_labelMenLeft->setProperty("role", "men");
     // After the role: measuring the caption settles the looks of all that is in the frame.
@@ -63,9 +66,9 @@ void QtSidePanel::showPanel(const SidePanel& panel, bool isTurn) {
     m_labelSpeed->setText(QString::fromStdString(panel.labelSpeed));
     m_labelAngle->setText(QString::fromStdString(panel.labelAngle));
     m_labelMenLeft->setText(QString::fromStdString(panel.labelMenLeft));
-    showValue(*m_scrollSpeed, panel.scrollSpeed);
-    showValue(*m_scrollAngle, panel.scrollAngle);
-    m_menGauge->show(panel.menLeft, isTurn ? colour().rgb() : kRestingGauge);
+    m_scrollSpeed->setValue(panel.scrollSpeed);
+    m_scrollAngle->setValue(panel.scrollAngle);
+    m_menGauge->showMen(panel.menLeft, isTurn ? colour().rgb() : kRestingGauge);
     setEnabled(panel.enabled);
     setTurn(isTurn);
     setBadge(isTurn ? Badge::Filled : Badge::Hollow);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "battle/BarRange.h"
 #include "battle/BattlePanel.h"
 #include "battle/qt/frmPlayGameLayout.h"
 #include "screen/qt/QtSideFrame.h"
@@ -11,13 +12,12 @@ namespace skylob {
 
 class QtMenGauge;
 
-/// A horizontal scroll bar over the range of `bar`, usable by keyboard.
-QScrollBar* makeScrollBar(const ScrollBar& bar, const QRect& place, QWidget* parent);
+/// A horizontal scroll bar over a range, usable by keyboard. It stands at its minimum.
+QScrollBar* makeScrollBar(const QString& name, const BarRange& range, const QRect& place,
+                          QWidget* parent);
 
-/// Puts a value on a scroll bar without its telling anybody.
-void showValue(QScrollBar& widget, const ScrollBar& bar);
-
-/// One side's frame: name, speed and angle, men left.
+/// One side's frame: name, speed and angle, men left. Its controls are named after the side as
+/// well, such as "scrollSpeed(1)".
 class QtSidePanel : public QtSideFrame {
     Q_OBJECT
 
@@ -25,7 +25,8 @@ class QtSidePanel : public QtSideFrame {
     /// `caption` is plain text.
     QtSidePanel(int side, const QString& caption, const SidePanelLayout& layout, QWidget* parent);
 
-    /// Follows the panel; `isTurn` gives the frame its side's colour.
+    /// Follows the panel; `isTurn` gives the frame its side's colour. A bar whose value has come
+    /// from the player stands there already and is left alone.
     void showPanel(const SidePanel& panel, bool isTurn);
 
     QScrollBar* scrollSpeed() const { return m_scrollSpeed; }

@@ -9,7 +9,6 @@
 #include <QScreen>
 #include <QScrollBar>
 #include <QShortcut>
-#include <QSignalBlocker>
 #include <QWindow>
 #include <algorithm>
 #include <utility>
@@ -28,11 +27,6 @@ namespace skylob {
 
 namespace {
 
-void showTicked(QCheckBox& box, bool ticked) {
-    const QSignalBlocker quiet{box};
-    box.setChecked(ticked);
-}
-
 void enable(GlintButton& button, bool enabled) {
     if (button.state().Enabled != enabled) button.design().setEnabled(enabled);
 }
@@ -43,12 +37,10 @@ frmPlayGame::frmPlayGame(basSkylob& shared, const frmPlayGamePorts& ports)
     : m_layout{layoutForScreenSize(shared.ScreenSize)},
       m_showSummary{ports.showSummary},
       m_shared{shared},
-      m_battle{shared,
-               {ports.random, ports.clock, ports.pacer, ports.sounds, ports.boxes, ports.settings,
-                *this}},
+      m_battle{shared, ports.battle, *this},
       m_shapes{ports.shapes},
       m_gate{new QtInputGate{this}},
-      m_fade{new QtScreenFade{this, shared, ports.settings}},
+      m_fade{new QtScreenFade{this, shared, ports.battle.settings}},
       m_timers{new QtEffectTimers{this, m_battle}},
       m_field{new picGameField{m_battle.picture(), m_shapes, this}} {
     setWindowTitle(QStringLiteral(" Skylob - Battlefield"));
@@ -61,14 +53,14 @@ frmPlayGame::frmPlayGame(basSkylob& shared, const frmPlayGamePorts& ports)
     connectControls();
     addShortcuts();
     setTabOrder();
-    showPanel(m_battle.controls().panel());
+    showPanel(m_battle.panel());
     m_fade->load();
 }
 
 void frmPlayGame::makeSidePanels() {
-    for (const int side : {1, 2}) {
+    for (const int side : kSides) {
         m_side[side] = new QtSidePanel{side, caption(side), m_layout.inFrame, this};
-        m_side[side]->setGeometry(m_layout.frame[side - 1]);
+        m_side[side]->setGeometry(m_layout.frame[side]);
     }
 }
 
@@ -76,11 +68,11 @@ QString frmPlayGame::caption(int side) const {
     const QString name = QString::fromStdString(m_shared.PlayerName[side]);
     if (!m_shared.isComputer(side)) return name;
     switch (m_shared.SkillLevel) {
-        case 4:
+        case kGoodSkill:
             return name + QStringLiteral(" (Skill level: Good)");
-        case 5:
+        case kFairSkill:
             return name + QStringLiteral(" (Skill level: Fair)");
-        case 6:
+        case kPoorSkill:
             return name + QStringLiteral(" (Skill level: Poor)");
         default:
             return name;
@@ -89,6 +81,7 @@ QString frmPlayGame::caption(int side) const {
 
 void frmPlayGame::makeButtons() {
     labelRoundNumber = new QLabel{this};
+    labelRoundNumber->setObjectName(QStringLiteral("labelRoundNumber"));
     labelRoundNumber->setGeometry(m_layout.labelRoundNumber);
     labelRoundNumber->setAlignment(Qt::AlignCenter);
     labelRoundNumber->setProperty("role", m_layout.oneFrameAtATime ? "round-small" : "round");
@@ -111,51 +104,50 @@ void frmPlayGame::makeOptions() {
     QWidget* const gameSpeedParent =
         m_layout.gameSpeedInStrip ? strip : static_cast<QWidget*>(this);
     labelGameSpeed = new QLabel{gameSpeedParent};
+    labelGameSpeed->setObjectName(QStringLiteral("labelGameSpeed"));
     labelGameSpeed->setGeometry(m_layout.labelGameSpeed);
     if (!m_layout.gameSpeedInStrip) labelGameSpeed->setAlignment(Qt::AlignCenter);
-    scrollGameSpeed =
-        makeScrollBar(BattlePanel{}.scrollGameSpeed, m_layout.scrollGameSpeed, gameSpeedParent);
+    scrollGameSpeed = makeScrollBar(QStringLiteral("scrollGameSpeed"), kGameSpeedRange,
+                                    m_layout.scrollGameSpeed, gameSpeedParent);
     scrollGameSpeed->setAccessibleName(tr("Game speed"));
 
-    chkSound = makeBox(tr("S&ound"), m_layout.chkSound, strip);
-    chkTrajectory = makeBox(tr("&Trajectory"), m_layout.chkTrajectory, strip);
-    chkMeteors = makeBox(tr("&Meteors"), m_layout.chkMeteors, strip);
-    chkLightning = makeBox(tr("&Lightning"), m_layout.chkLightning, strip);
-    chkWind = makeBox({}, m_layout.chkWind, strip);
+    chkSound = makeBox("chkSound", tr("S&ound"), m_layout.chkSound, strip);
+    chkTrajectory = makeBox("chkTrajectory", tr("&Trajectory"), m_layout.chkTrajectory, strip);
+    chkMeteors = makeBox("chkMeteors", tr("&Meteors"), m_layout.chkMeteors, strip);
+    chkLightning = makeBox("chkLightning", tr("&Lightning"), m_layout.chkLightning, strip);
+    chkWind = makeBox("chkWind", {}, m_layout.chkWind, strip);
 }
 
-QCheckBox* frmPlayGame::makeBox(const QString& caption, const QRect& place, QWidget* strip) {
+QCheckBox* frmPlayGame::makeBox(const char* name, const QString& caption, const QRect& place,
+                                QWidget* strip) {
     auto* box = new QCheckBox{caption, strip};
+    box->setObjectName(QLatin1String{name});
     box->setGeometry(place);
     return box;
 }
 
 void frmPlayGame::connectControls() {
-    BattleControls& controls = m_battle.controls();
-    for (const int side : {1, 2}) {
+    // A bar that is set by the rules reports the value that they have already: no change.
+    for (const int side : kSides) {
         connect(m_side[side], &QtSidePanel::speedMoved, this,
-                [&controls](int which, int value) { controls.setSpeed(which, value); });
+                [this](int which, int value) { m_battle.aims().setSpeed(which, value); });
         connect(m_side[side], &QtSidePanel::angleMoved, this,
-                [&controls](int which, int value) { controls.setAngle(which, value); });
+                [this](int which, int value) { m_battle.aims().setAngle(which, value); });
     }
+    BattleOptions& options = m_battle.options();
     connect(scrollGameSpeed, &QScrollBar::valueChanged, this,
-            [&controls](int value) { controls.setGameSpeed(value); });
-    const auto onToggle = [this, &controls](QCheckBox* box, void (BattleControls::*handler)(bool)) {
-        connect(box, &QCheckBox::toggled, this, [this, &controls, handler](bool ticked) {
-            // A box clicks a moment after its access key: perhaps too late.
-            if (controls.panel().commandsEnabled)
-                (controls.*handler)(ticked);
-            else
-                showPanel(controls.panel());
-        });
+            [&options](int value) { options.setGameSpeed(value); });
+    const auto onClick = [this, &options](QCheckBox* box, void (BattleOptions::*handler)(bool)) {
+        connect(box, &QCheckBox::clicked, this,
+                [&options, handler](bool ticked) { (options.*handler)(ticked); });
     };
-    onToggle(chkSound, &BattleControls::chkSound_Click);
-    onToggle(chkTrajectory, &BattleControls::chkTrajectory_Click);
-    onToggle(chkMeteors, &BattleControls::chkMeteors_Click);
-    onToggle(chkLightning, &BattleControls::chkLightning_Click);
-    onToggle(chkWind, &BattleControls::chkWind_Click);
+    onClick(chkSound, &BattleOptions::chkSound_Click);
+    onClick(chkTrajectory, &BattleOptions::chkTrajectory_Click);
+    onClick(chkMeteors, &BattleOptions::chkMeteors_Click);
+    onClick(chkLightning, &BattleOptions::chkLightning_Click);
+    onClick(chkWind, &BattleOptions::chkWind_Click);
     connect(cmdShoot, &GlintButton::Click, this, [this] { m_battle.cmdShoot_Click(); });
-    connect(cmdQuit, &GlintButton::Click, this, [&controls] { controls.cmdQuit_Click(); });
+    connect(cmdQuit, &GlintButton::Click, this, [this] { m_battle.cmdQuit_Click(); });
     connect(m_field, &picGameField::pieceClicked, this, [this] { m_battle.FieldPiece_Click(); });
 }
 
@@ -166,7 +158,7 @@ void frmPlayGame::addShortcuts() {
         connect(shortcut, &QShortcut::activated, this, std::move(action));
     };
     const auto shooterSide = [this] { return m_side[m_battle.state().Shooter]; };
-    onKey(Qt::Key_Escape, [this] { m_battle.controls().cmdQuit_Click(); });
+    onKey(Qt::Key_Escape, [this] { m_battle.cmdQuit_Click(); });
     onKey(Qt::ALT | Qt::Key_P, [shooterSide] { shooterSide()->scrollSpeed()->setFocus(); });
     onKey(Qt::ALT | Qt::Key_A, [shooterSide] { shooterSide()->scrollAngle()->setFocus(); });
     onKey(Qt::ALT | Qt::Key_G, [this] { scrollGameSpeed->setFocus(); });
@@ -216,7 +208,7 @@ void frmPlayGame::showEvent(QShowEvent* event) {
 
 void frmPlayGame::closeEvent(QCloseEvent* event) {
     event->ignore();
-    if (m_fade->takesClosing()) m_battle.controls().cmdQuit_Click();
+    if (m_fade->takesClosing()) m_battle.cmdQuit_Click();
 }
 
 void frmPlayGame::paintEvent(QPaintEvent* event) {
@@ -229,18 +221,18 @@ void frmPlayGame::showField() {
 }
 
 void frmPlayGame::showPanel(const BattlePanel& panel) {
-    for (const int side : {1, 2}) {
+    for (const int side : kSides) {
         m_side[side]->showPanel(panel.side[side], panel.turn == side);
         if (m_layout.oneFrameAtATime) m_side[side]->setVisible(side == std::max(panel.turn, 1));
     }
     labelRoundNumber->setText(QString::fromStdString(panel.labelRoundNumber));
     labelGameSpeed->setText(QString::fromStdString(panel.labelGameSpeed));
-    showValue(*scrollGameSpeed, panel.scrollGameSpeed);
-    showTicked(*chkSound, panel.chkSound);
-    showTicked(*chkTrajectory, panel.chkTrajectory);
-    showTicked(*chkMeteors, panel.chkMeteors);
-    showTicked(*chkLightning, panel.chkLightning);
-    showTicked(*chkWind, panel.chkWind);
+    scrollGameSpeed->setValue(panel.scrollGameSpeed);
+    chkSound->setChecked(panel.chkSound);
+    chkTrajectory->setChecked(panel.chkTrajectory);
+    chkMeteors->setChecked(panel.chkMeteors);
+    chkLightning->setChecked(panel.chkLightning);
+    chkWind->setChecked(panel.chkWind);
     chkWind->setText(QString::fromStdString(panel.chkWindCaption));
     showCommands(panel);
     m_timers->follow();

@@ -23,12 +23,7 @@ struct frmPlayGameLayout;
 
 /// What the battle screen needs beside the shared state; all of it must outlive the screen.
 struct frmPlayGamePorts {
-    RandomSource& random;
-    const Clock& clock;
-    Pacer& pacer;
-    SoundPlayer& sounds;
-    MessageBoxes& boxes;
-    SettingsStore& settings;
+    BattlePorts battle;
     const QtShapes& shapes;
     /// Shows the summary of a round or set and returns when the user has closed it.
     std::function<void(SummaryKind)> showSummary;
@@ -69,7 +64,8 @@ class frmPlayGame : public QWidget, private BattleView {
     void makeSidePanels();
     void makeButtons();
     void makeOptions();
-    QCheckBox* makeBox(const QString& caption, const QRect& place, QWidget* strip);
+    QCheckBox* makeBox(const char* name, const QString& caption, const QRect& place,
+                       QWidget* strip);
     void connectControls();
     void addShortcuts();
     void setTabOrder();

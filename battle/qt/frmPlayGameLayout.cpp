@@ -1,5 +1,7 @@
 #include "battle/qt/frmPlayGameLayout.h"
 
+#include "base/basSkylob.h"
+
 namespace skylob {
 
 namespace {
@@ -7,7 +9,7 @@ namespace {
 const frmPlayGameLayout kSmall{
     .screen = {784, 548},
     .field = {8, 8, 768, 400},
-    .frame = {{8, 416, 424, 88}, {8, 416, 424, 88}},
+    .frame = {QRect{8, 416, 424, 88}, QRect{8, 416, 424, 88}},
     .oneFrameAtATime = true,
     .inFrame = {.labelSpeed = {12, 29, 92, 22},
                 .scrollSpeed = {108, 31, 176, 18},
@@ -34,7 +36,7 @@ const frmPlayGameLayout kSmall{
 const frmPlayGameLayout kNormal{
     .screen = {1008, 704},
     .field = {12, 12, 984, 512},
-    .frame = {{12, 536, 344, 120}, {652, 536, 344, 120}},
+    .frame = {QRect{12, 536, 344, 120}, QRect{652, 536, 344, 120}},
     .oneFrameAtATime = false,
     .inFrame = {.labelSpeed = {12, 32, 92, 22},
                 .scrollSpeed = {108, 34, 224, 18},
@@ -61,7 +63,7 @@ const frmPlayGameLayout kNormal{
 const frmPlayGameLayout kLarge{
     .screen = {1264, 740},
     .field = {12, 12, 1240, 580},
-    .frame = {{12, 604, 440, 84}, {812, 604, 440, 84}},
+    .frame = {QRect{12, 604, 440, 84}, QRect{812, 604, 440, 84}},
     .oneFrameAtATime = false,
     .inFrame = {.labelSpeed = {12, 29, 92, 22},
                 .scrollSpeed = {108, 31, 192, 18},
@@ -89,9 +91,9 @@ const frmPlayGameLayout kLarge{
 
 const frmPlayGameLayout& layoutForScreenSize(int screenSize) {
     switch (screenSize) {
-        case 1:
+        case kSmallScreen:
             return kSmall;
-        case 3:
+        case kLargeScreen:
             return kLarge;
         default:
             return kNormal;

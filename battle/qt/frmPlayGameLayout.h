@@ -3,6 +3,8 @@
 #include <QRect>
 #include <QSize>
 
+#include "base/PerSide.h"
+
 namespace skylob {
 
 /// Where the controls of one side's frame stand in it.
@@ -14,7 +16,7 @@ struct SidePanelLayout {
 struct frmPlayGameLayout {
     QSize screen;
     QRect field;
-    QRect frame[2];  ///< the sides' frames; in the same place when only one is shown
+    PerSide<QRect> frame;  ///< the sides' frames; in the same place when only one is shown
     bool oneFrameAtATime;
     SidePanelLayout inFrame;
     QRect labelRoundNumber, cmdShoot, cmdQuit;
@@ -26,8 +28,8 @@ struct frmPlayGameLayout {
     QRect chkSound, chkTrajectory, chkMeteors, chkLightning, chkWind;
 };
 
-/// The layout for a screen size: 1 fits a display of 800 x 600, 2 one of 1024 x 768, 3 one of
-/// 1280 x 800. Any other size is laid out as 2.
+/// The layout for a screen size: kSmallScreen fits a display of 800 x 600, kNormalScreen one of
+/// 1024 x 768, kLargeScreen one of 1280 x 800. Any other size is laid out as kNormalScreen.
 const frmPlayGameLayout& layoutForScreenSize(int screenSize);
 
 }  // namespace skylob

@@ -35,7 +35,7 @@ bool picGameField::fitPicture() {
     if (pixels == QSize{m_picture.width(), m_picture.height()}) return false;
     m_picture.resize(pixels.width(), pixels.height(), std::max(1, qRound(ratio)));
     const auto [pieceWidth, pieceHeight] = m_picture.pieceSize();
-    for (const int side : {1, 2}) {
+    for (const int side : kSides) {
         const QString name = QStringLiteral("piece%1").arg(side);
         m_picture.setPieceImage(side, pieceImage(m_shapes.render(name, {pieceWidth, pieceHeight},
                                                                  QtShapes::Edges::Smooth)));
@@ -85,7 +85,7 @@ QRectF picGameField::logical(const PixelRect& area) const {
 }
 
 int picGameField::pieceAt(QPointF position) const {
-    for (const int side : {1, 2})
+    for (const int side : kSides)
         if (logical(m_picture.pieceArea(side)).contains(position)) return side;
     return 0;
 }

@@ -29,7 +29,7 @@ TEST(AmbientEffects, WaitForTwelveWholeSecondsWithoutActivity) {
     for (const Effect effect : {kMeteor, kStorm}) {
         SkyRig rig;
         rig.clock.time += std::chrono::seconds{88};
-        rig.controls().setAngle(2, 33);
+        rig.aims().setAngle(2, 33);
         rig.clock.time += std::chrono::milliseconds{11'999};
         expectNothingFromTicks(rig);
         rig.clock.time -= std::chrono::hours{1};
@@ -58,14 +58,14 @@ TEST(AmbientEffects, KeepQuietWhileTheBattleIsBusy) {
     rig.passTime();
     rig.boxes.answers = {BoxAnswer::No, BoxAnswer::Yes};
     rig.boxes.onShow = look;
-    rig.controls().cmdQuit_Click();
+    rig.battle.cmdQuit_Click();
     rig.passTime();
     for (const Effect effect : {kMeteor, kStorm}) {
         rig.atYield(1, look);
         begin(rig, effect);
     }
     EXPECT_EQ(looks, 3);
-    rig.controls().cmdQuit_Click();
+    rig.battle.cmdQuit_Click();
     look();
     EXPECT_TRUE(rig.view.isClosed());
 }
@@ -81,32 +81,30 @@ TEST(AmbientEffects, EndBeforeACommandRuns) {
          [](SkyRig& rig) { rig.battle.FieldPiece_Click(), rig.battle.cmdShoot_Click(); },
          [](SkyRig& rig) { return rig.battle.shots().size() == 1 && !rig.view.isClosed(); }},
         {"shoot, then quit",
-         [](SkyRig& rig) { rig.battle.cmdShoot_Click(), rig.controls().cmdQuit_Click(); },
+         [](SkyRig& rig) { rig.battle.cmdShoot_Click(), rig.battle.cmdQuit_Click(); },
          [](SkyRig& rig) { return rig.battle.shots().size() == 1 && rig.view.isClosed(); }},
         {"quit, then shoot",
-         [](SkyRig& rig) { rig.controls().cmdQuit_Click(), rig.battle.cmdShoot_Click(); },
+         [](SkyRig& rig) { rig.battle.cmdQuit_Click(), rig.battle.cmdShoot_Click(); },
          [](SkyRig& rig) { return rig.battle.shots().empty() && rig.view.isClosed(); }},
         {"untick meteors, then quit",
-         [](SkyRig& rig) {
-             rig.controls().chkMeteors_Click(false), rig.controls().cmdQuit_Click();
-         },
+         [](SkyRig& rig) { rig.options().chkMeteors_Click(false), rig.battle.cmdQuit_Click(); },
          [](SkyRig& rig) {
              return rig.view.isClosed() && rig.settings.get("MeteorsSetting", "") == "0";
          }},
         {"untick and tick lightning, shoot in the yield between",
          [](SkyRig& rig) {
-             rig.controls().chkLightning_Click(false);
+             rig.options().chkLightning_Click(false);
              rig.battle.cmdShoot_Click();
              rig.atYield(1, [&rig] {
                  rig.battle.cmdShoot_Click();
                  EXPECT_TRUE(rig.battle.shots().empty());
              });
-             rig.controls().chkLightning_Click(true);
+             rig.options().chkLightning_Click(true);
          },
          [](SkyRig& rig) { return rig.battle.shots().size() == 1 && rig.panel().chkLightning; }},
-        {"untick meteors", [](SkyRig& rig) { rig.controls().chkMeteors_Click(false); },
+        {"untick meteors", [](SkyRig& rig) { rig.options().chkMeteors_Click(false); },
          [](SkyRig& rig) { return !rig.panel().chkMeteors && rig.panel().timerMeteors; }},
-        {"untick lightning", [](SkyRig& rig) { rig.controls().chkLightning_Click(false); },
+        {"untick lightning", [](SkyRig& rig) { rig.options().chkLightning_Click(false); },
          [](SkyRig& rig) { return !rig.panel().chkLightning && !rig.panel().timerLightning; }},
     };
     for (const Effect effect : {kMeteor, kStorm}) {
@@ -121,14 +119,13 @@ TEST(AmbientEffects, EndBeforeACommandRuns) {
                     EXPECT_FALSE(command.hasRun(rig));
                     // What shows the field next is the tidying up, and then the shot.
                     rig.view.onShowField = [&, shown = 0]() mutable {
-                        EXPECT_EQ(rig.controls().effect().isRunning(), ++shown == 1);
+                        EXPECT_EQ(rig.battle.effectIsRunning(), ++shown == 1);
                         EXPECT_TRUE(shown > 1 || rig.pixels() == before);
                     };
                 });
                 begin(rig, effect);
                 EXPECT_TRUE(command.hasRun(rig));
-                EXPECT_FALSE(rig.controls().effect().isRunning());
-                EXPECT_TRUE(rig.picture().persistentDrawing());
+                EXPECT_FALSE(rig.battle.effectIsRunning());
                 EXPECT_EQ(std::count(rig.log.begin(), rig.log.end(), "wait 125000"), 0);
                 EXPECT_LE(rig.yields(), yield + 2);  // a box and quit have one of their own
             }
@@ -140,14 +137,14 @@ TEST(AmbientEffects, LeaveNothingBehindWhenTheyFail) {
     for (const Effect effect : {kMeteor, kStorm}) {
         SkyRig rig;
         rig.atYield(9, [&] {
-            rig.controls().cmdQuit_Click();
+            rig.battle.cmdQuit_Click();
             throw std::runtime_error{"no more sky"};
         });
         EXPECT_THROW(begin(rig, effect), std::runtime_error);
         EXPECT_FALSE(rig.view.isClosed());
         begin(rig, effect);
         EXPECT_GT(rig.yields(), 400);  // all of it
-        rig.controls().cmdQuit_Click();
+        rig.battle.cmdQuit_Click();
         EXPECT_TRUE(rig.view.isClosed());
     }
 }

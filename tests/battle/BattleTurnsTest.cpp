@@ -23,7 +23,7 @@ TEST(FirstShooter, IsDrawnBetweenTwoPeople) {
 
 TEST(StartRound, SetsUpBothSides) {
     StartedRig rig;
-    EXPECT_EQ(rig.battle.picture().penWidth(), 2);  // of the ground's lines
+    EXPECT_EQ(rig.state().penWidth, 2);  // of the ground's lines
     for (const int side : {1, 2}) {
         EXPECT_EQ(rig.panel().side[side].labelSpeed, "Speed: 300");
         EXPECT_EQ(rig.panel().side[side].labelAngle, "Angle:   75");
@@ -37,31 +37,13 @@ TEST(StartRound, SetsUpBothSides) {
     narrow.view.onShowField = [&] { EXPECT_TRUE(narrow.view.inputHeld); };
     narrow.shared.RoundsWon = narrow.shared.TotalKills = narrow.shared.RoundShots = {3, 9};
     narrow.start();
-    EXPECT_EQ(narrow.battle.picture().penWidth(), 1);
+    EXPECT_EQ(narrow.state().penWidth, 1);
     const PerSide<int> none{0, 0};  // of the set before
     EXPECT_EQ(narrow.shared.RoundsWon, none);
     EXPECT_EQ(narrow.shared.TotalKills, none);
     EXPECT_EQ(narrow.shared.RoundShots, none);
     rig.start();  // as when a box closes over the battle; it would draw side 2
     EXPECT_EQ(rig.state().Shooter, 1);
-}
-
-TEST(RedrawField, MakesTheRoundsPictureWithAnyPen) {
-    BattleRig rig;
-    FieldPicture& picture = rig.battle.picture();
-    picture.resize(1000, 1000, 1);
-    picture.setPenWidth(3);  // of the round's stars
-    rig.start();
-    const auto shown = [&] {
-        return std::vector(picture.screenPixels(), picture.screenPixels() + 1000 * 1000);
-    };
-    const auto before = shown();
-    picture.setPenWidth(5);
-    picture.setPersistentDrawing(false);
-    rig.battle.redrawField();
-    EXPECT_TRUE(shown() == before);
-    EXPECT_EQ(picture.penWidth(), 5);
-    EXPECT_FALSE(picture.persistentDrawing());
 }
 
 TEST(Miss, CostsTheShooterDesertersAndPassesTheTurn) {
@@ -135,7 +117,7 @@ TEST(SideWithoutMen, LosesAtTheStartOfItsTurnOrByANearMiss) {
 
 TEST(Shot, DisablesEverythingAndHoldsInput) {
     StartedRig rig;
-    rig.controls().chkSound_Click(true);
+    rig.options().chkSound_Click(true);
     bool seen = false;
     rig.view.onShowField = [&] {
         seen = true;
@@ -144,7 +126,7 @@ TEST(Shot, DisablesEverythingAndHoldsInput) {
         EXPECT_TRUE(rig.view.inputHeld);
         // Clicks that come through all the same do nothing.
         rig.battle.FieldPiece_Click();
-        rig.controls().cmdQuit_Click();
+        rig.battle.cmdQuit_Click();
     };
     rig.battle.cmdShoot_Click();
     EXPECT_TRUE(seen);
@@ -155,17 +137,37 @@ TEST(Shot, DisablesEverythingAndHoldsInput) {
 
 TEST(Shot, IsPacedByTheGameSpeedAndTracedOnDemand) {
     SkyRig rig;
-    rig.controls().setGameSpeed(60);
-    rig.controls().chkTrajectory_Click(false);
+    rig.options().setGameSpeed(60);
+    rig.options().chkTrajectory_Click(false);
     rig.fire(kOutOfBounds);
     EXPECT_EQ(rig.pacer.counts.at(1), 19'500'001);
     // The muzzle is 8 above the ground.
     EXPECT_EQ(rig.picture().pixel(163, 113), kBlack);
-    rig.controls().chkTrajectory_Click(true);
+    rig.options().chkTrajectory_Click(true);
     rig.fire(kOutOfBounds);
     EXPECT_NE(rig.picture().pixel(863, 36), kBlack);
     rig.fire(kMiss);
     EXPECT_EQ(rig.pacer.counts.at(1), 19'500'001);  // of the explosion
+}
+
+TEST(Stars, HaveTheWidthThatTheRoundBeforeLeftThePenAt) {
+    SkyRig rig;
+    const auto expectWidth = [&](int width) {
+        const auto& star = rig.state().field.stars.at(400);
+        const auto shown = rig.pixels();
+        EXPECT_EQ(rig.picture().pixel(star.x + 1, star.y - 1) == star.colour, width == 2);
+        rig.shoot(kMiss);  // leaves the pen at 1
+        rig.battle.redrawField();
+        EXPECT_TRUE(rig.pixels() == shown);
+    };
+    rig.battle.redrawField();  // with the pen still at the ground's width
+    expectWidth(1);
+    rig.shoot(kSelfHit);
+    expectWidth(1);
+    rig.shoot(kSelfHit);
+    rig.boxes.answers = {BoxAnswer::Ok};
+    while (rig.state().RoundNumber == 3) rig.shoot({999, 75});  // out of bounds, over the top
+    expectWidth(2);
 }
 
 TEST(LastRound, EndsTheSet) {
@@ -181,7 +183,7 @@ TEST(LastRound, EndsTheSet) {
 TEST(ComputersTurn, PausesFiresAndQueuesTheNextTurn) {
     BattleRig rig{"Computer"};
     rig.start();
-    rig.controls().chkSound_Click(true);
+    rig.options().chkSound_Click(true);
     rig.log.clear();
     rig.fire(kMiss);
     // Four clicks: 15 up for the lower ground, 2 degrees flatter for the distance, and then the

@@ -104,11 +104,10 @@ TEST(DrawBattlefield, ShowsSkyMoonGroundAndPieces) {
     picture.resize(1000, 1000, 1);  // a pixel is a unit
     FieldPicture::PieceImage white{24, 46, std::vector<std::uint32_t>(24 * 46, 0xFFFFFFFF)};
     for (const int side : {1, 2}) picture.setPieceImage(side, white);
-    picture.setPenWidth(2);  // as a round without an explosion leaves it
+    field.starWidth = 2;
     drawBattlefield(field, picture, 2);
     EXPECT_EQ(picture.pixel(701, 899), 0x0000FFu);
-    EXPECT_EQ(picture.penWidth(), 2);
-    picture.setPenWidth(1);
+    field.starWidth = 1;
     drawBattlefield(field, picture, 1);
 
     EXPECT_EQ(picture.pixel(700, 900), 0x0000FFu);

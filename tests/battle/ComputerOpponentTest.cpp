@@ -2,36 +2,26 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/support/BattleRig.h"
+#include "tests/support/Fakes.h"
 
 namespace skylob::test {
 
 /// A computer at its turn on a field made for the case.
 struct Thinker {
-    Thinker(int skillLevel, std::deque<double> chance) : random{std::move(chance)} {
-        shared.PlayerName = {"Ann", "Computer"};
-        shared.SkillLevel = skillLevel;
-    }
+    Thinker(int skillLevel, std::deque<double> chance)
+        : level{skillLevel}, random{std::move(chance)} {}
 
-    void think(int speed, int angle) {
-        controls.setSpeed(2, speed);
-        controls.setAngle(2, angle);
-        opponent.ComputerTurn();
+    void think(const Aim& aim) {
+        state.aim[2] = aim;
+        opponent.takeAim(level);
     }
+    const Aim& aim() const { return state.aim[2]; }
 
-    Log log;
-    basSkylob shared;
-    BattleState state;
+    int level;
     ScriptedRandom random;
-    HandSetClock clock;
-    RecordingPacer pacer{log};
-    SilentSounds sounds;
-    QueuedBoxes boxes{log};
-    MemorySettings settings;
-    HeadlessView view;
-    BattlePorts ports{random, clock, pacer, sounds, boxes, settings, view};
-    BattleControls controls{shared, state, ports};
-    ComputerOpponent opponent{shared, state, controls, ports};
+    BattleState state;
+    Aims aims{state.aim, [] {}};
+    ComputerOpponent opponent{state, aims, random};
 };
 
 TEST(ComputerOpponent, MeasuresTheField) {
@@ -65,13 +55,13 @@ TEST(ComputerOpponent, MeasuresTheField) {
         state.field.PieceX = {row.pieceX1, row.pieceX2};
         state.field.PieceY = {row.pieceY1, row.pieceY2};
         state.Wind = row.wind;
-        computer.think(row.speed, row.angle);
-        EXPECT_EQ(computer.controls.speed(2), row.newSpeed);
-        EXPECT_EQ(computer.controls.angle(2), row.newAngle);
+        computer.think({row.speed, row.angle});
+        EXPECT_EQ(computer.aim().speed, row.newSpeed);
+        EXPECT_EQ(computer.aim().angle, row.newAngle);
         EXPECT_EQ(state.ComputerAngle, row.computerAngle);
         EXPECT_EQ(state.AimDistance, row.pieceX2 - row.pieceX1);
         EXPECT_EQ(state.LastImpactX, 500);
-        EXPECT_EQ(computer.log, (Log{"wait 1000", "yield", "wait 250"}));
+        EXPECT_EQ(computer.random.draws(), 1);
     }
 }
 
@@ -110,9 +100,9 @@ TEST(ComputerOpponent, CorrectsItsLastShot) {
         state.LastImpactX = row.impact;
         state.AimDistance = 300;
         state.ComputerAngle = row.computerAngle;
-        computer.think(row.speed, row.angle);
-        EXPECT_EQ(computer.controls.speed(2), row.newSpeed);
-        EXPECT_EQ(computer.controls.angle(2), row.newAngle);
+        computer.think({row.speed, row.angle});
+        EXPECT_EQ(computer.aim().speed, row.newSpeed);
+        EXPECT_EQ(computer.aim().angle, row.newAngle);
         EXPECT_EQ(state.AimDistance, row.impact - 200);
         EXPECT_EQ(state.ComputerAngle, row.computerAngle);
         EXPECT_EQ(computer.random.draws(), static_cast<int>(row.r.size()));
@@ -125,9 +115,9 @@ TEST(ComputerOpponent, MeasuresAgainAfterABullseyeOfItsMemory) {
     computer.state.field.PieceX = {200, 800};
     computer.state.LastImpactX = 200;
     computer.state.AimDistance = 300;
-    computer.think(300, 75);
+    computer.think({300, 75});
     EXPECT_EQ(computer.state.AimDistance, 0);
-    computer.opponent.ComputerTurn();
+    computer.opponent.takeAim(computer.level);
     EXPECT_EQ(computer.state.AimDistance, 600);
     EXPECT_EQ(computer.state.LastImpactX, 500);
 }

@@ -39,8 +39,7 @@ TEST(FieldPicture, DrawsDotsOfThePensWidth) {
     for (const Row& row : {Row{1, 1, 1}, Row{1, 2, 4}, Row{1, 3, 9}, Row{1, 4, 12}, Row{1, 6, 32},
                            Row{2, 1, 4}, Row{2, 2, 12}, Row{4, 1, 16}}) {
         FieldPicture picture = pictureOf(100, 100, row.dotScale);
-        picture.setPenWidth(row.penWidth);
-        picture.setPoint(500, 500, kYellow);
+        picture.setPoint(500, 500, kYellow, row.penWidth);
         EXPECT_EQ(litPixels(picture), row.pixels) << row.dotScale << " x " << row.penWidth;
     }
 }
@@ -48,14 +47,14 @@ TEST(FieldPicture, DrawsDotsOfThePensWidth) {
 TEST(FieldPicture, CutsOffWhatLiesOutside) {
     FieldPicture picture = pictureOf(50, 40);
     for (const int at : {-3'000'000, -30, 1030, 3'000'000}) {
-        picture.setPenWidth(at % 100 == 0 ? 23 : 1);
-        picture.setPoint(at, 500, kWhite);
-        picture.setPoint(500, at, kWhite);
+        const int width = at % 100 == 0 ? 23 : 1;
+        picture.setPoint(at, 500, kWhite, width);
+        picture.setPassingPoint(500, at, kWhite, width);
         picture.filledCircle(at, at, 40, kWhite);
-        picture.verticalLine(at, at, at, kWhite);
+        picture.verticalLine(at, at, at, kWhite, width);
         EXPECT_EQ(picture.pixel(at, at), kBlack);
-        picture.putBack(picture.liftPoint(at, at));
-        picture.putBack(picture.liftPoint(at, 500));
+        picture.putBack(picture.liftPoint(at, at, width));
+        picture.putBack(picture.liftPoint(at, 500, width));
     }
     FieldPicture none;
     none.setPoint(5, 5, kWhite);
@@ -69,8 +68,7 @@ TEST(FieldPicture, KeepsOnlyWhatIsDrawnPersistentlyAndLaysPiecesOverIt) {
     picture.setPieceImage(1, {24, 46, std::vector<std::uint32_t>(24 * 46, 0x80800000u)});
     picture.placePiece(1, 500, 100);
     picture.setPoint(500, 100, 0xFF0000);  // blue
-    picture.setPersistentDrawing(false);
-    picture.setPoint(200, 200, kYellow);
+    picture.setPassingPoint(200, 200, kYellow);
     EXPECT_EQ(picture.pixel(200, 200), kYellow);
     EXPECT_EQ(picture.pixel(500, 101), kBlack);
     picture.refresh();
@@ -84,12 +82,11 @@ TEST(FieldPicture, KeepsOnlyWhatIsDrawnPersistentlyAndLaysPiecesOverIt) {
 
 TEST(FieldPicture, PutsBackExactlyWhatItLifted) {
     FieldPicture picture = pictureOf(200, 200, 2);
-    picture.setPersistentDrawing(false);
-    picture.filledCircle(503, 500, 1, kCyan);  // covers the dot below only in part
+    picture.setPassingPoint(503, 500, kCyan, 2);  // covers the dot below only in part
     const std::vector<std::uint32_t> before(picture.screenPixels(),
                                             picture.screenPixels() + 200 * 200);
     const auto lifted = picture.liftPoint(500, 500);
-    picture.setPoint(500, 500, kYellow);
+    picture.setPassingPoint(500, 500, kYellow);
     picture.putBack(lifted);
     EXPECT_TRUE(std::equal(before.begin(), before.end(), picture.screenPixels()));
     EXPECT_GT(litPixels(picture), 0);
@@ -109,8 +106,7 @@ TEST(FieldPicture, TellsWhatHasChanged) {
     picture.setPoint(11, 990, kRed);
     picture.setPoint(21, 980, kRed);
     EXPECT_EQ(picture.takeDirty(), (PixelRect{10, 10, 12, 12}));
-    picture.setPenWidth(4);
-    picture.setPoint(11, 990, kRed);
+    picture.setPassingPoint(11, 990, kRed, 4);
     EXPECT_EQ(picture.takeDirty(), (PixelRect{7, 7, 8, 8}));
 }
 

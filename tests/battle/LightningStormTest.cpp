@@ -77,20 +77,18 @@ TEST(BoltPath, KeepsItsBoundsTenThousandTimes) {
 
 TEST(LightningStorm, PausesThundersAndClearsTheSky) {
     SkyRig rig;
-    rig.controls().chkSound_Click(true);
+    rig.options().chkSound_Click(true);
     rig.passTime();
-    rig.picture().setPersistentDrawing(false);
-    rig.picture().setPoint(300, 300, kCyan);  // what is left of a trail
+    rig.picture().setPassingPoint(300, 300, kCyan);  // what is left of a trail
     rig.random.script({.0999, .5});
     rig.view.onShowField = [&] { rig.picture().takeDirty(); };
     int waits = 0;
     rig.pacer.onWait = [&] {
         EXPECT_TRUE(rig.view.inputHeld);
         EXPECT_TRUE(rig.picture().takeDirty().isEmpty());
-        EXPECT_EQ(rig.yellowPixels() > 500, ++waits == 1);
+        EXPECT_EQ(yellowPixels(rig.picture()) > 500, ++waits == 1);
         EXPECT_FALSE(rig.panel().timerMeteors || rig.panel().timerLightning);
     };
-    const int penWidth = rig.picture().penWidth();
     rig.battle.timerLightning_Timer();
     EXPECT_EQ(rig.events(), (Log{"wait 125000", "sound thunder3", "wait 2000", "release input"}));
     // At a chance of 0.5 three bolts run to the right, from column 500 to 995 and from 223 of those
@@ -98,8 +96,7 @@ TEST(LightningStorm, PausesThundersAndClearsTheSky) {
     EXPECT_EQ(rig.yields(), 496 + 273 + 151 + 10 + 1);
     EXPECT_TRUE(rig.bothTimersRun());
     EXPECT_EQ(rig.picture().pixel(300, 300), kBlack);
-    EXPECT_EQ(rig.picture().penWidth(), penWidth);
-    EXPECT_TRUE(rig.picture().persistentDrawing());
+    EXPECT_EQ(rig.state().penWidth, 2);
 }
 
 TEST(LightningStorm, LastsFrom50SecondsTo50AndAsManyForEachBolt) {
@@ -112,28 +109,30 @@ TEST(LightningStorm, LastsFrom50SecondsTo50AndAsManyForEachBolt) {
                            Row{.25, .9999, .49, {"wait 150000", "sound thunder1"}},
                            Row{.9, 0, .49, {"wait 50000", "sound thunder2"}},
                            Row{.9, .9999, .5, {"wait 250000", "sound thunder3"}}}) {
-        SkyRig rig;
-        rig.controls().chkSound_Click(true);
-        rig.passTime();
+        BareSky rig;
+        rig.state.SoundOn = true;
+        RecordingSounds player{rig.log};
+        SwitchedSounds sounds{player, rig.state};
+        LightningStorm storm{rig.sky, sounds, rig.pacer, rig.view};
         const int bolts = 1 + static_cast<int>(4 * row.bolts);
-        std::deque<double> script{0, row.bolts};
+        std::deque<double> script{row.bolts};
         for (int bolt = 1; bolt <= bolts; ++bolt)  // coin, column, tendency, 46 runs
             script.insert(script.end(), (bolt > 1) + 2u + 46 * 2, 0.0);
         script.insert(script.end(), {row.pause, row.thunder});
         rig.random.script(script);
         const int before = rig.random.draws();
-        rig.battle.timerLightning_Timer();
+        storm.rage();
         EXPECT_EQ(rig.random.draws() - before, static_cast<int>(script.size()));
-        Log events = rig.events();
-        events.resize(2);
-        EXPECT_EQ(events, row.events);
+        std::erase(rig.log, "yield");
+        rig.log.resize(2);
+        EXPECT_EQ(rig.log, row.events);
     }
 }
 
 TEST(LightningStorm, LetsTheWindowBeClosedAfterItsThunder) {
     SkyRig rig;  // without sound
     rig.random.script({0, 0});
-    rig.atYield(496 + 5 + 1, [&] { rig.controls().cmdQuit_Click(); });
+    rig.atYield(496 + 5 + 1, [&] { rig.battle.cmdQuit_Click(); });
     rig.battle.timerLightning_Timer();
     EXPECT_EQ(rig.events(), (Log{"wait 75000", "release input", "close"}));
 }
@@ -143,15 +142,15 @@ TEST(LightningStorm, ComesOnceInTenTicksAndStopsOnlyTheTimerWhoseBoxIsTicked) {
     rig.random.script({.1});
     rig.battle.timerLightning_Timer();
     EXPECT_EQ(rig.yields(), 0);
-    rig.controls().chkMeteors_Click(false);  // their timer goes on
+    rig.options().chkMeteors_Click(false);  // their timer goes on
     rig.passTime();
     rig.random.script({0});
     rig.pacer.onWait = [&] { EXPECT_TRUE(rig.panel().timerMeteors); };
     rig.battle.timerLightning_Timer();
     EXPECT_GT(rig.yields(), 400);
     // It starts theirs, if their box is ticked, even if it stood still.
-    rig.controls().chkLightning_Click(false);
-    rig.controls().chkMeteors_Click(true);
+    rig.options().chkLightning_Click(false);
+    rig.options().chkMeteors_Click(true);
     EXPECT_FALSE(rig.panel().timerMeteors);
     rig.pacer.onWait = {};
     rig.passTime();

@@ -89,36 +89,39 @@ TEST(Meteors, ComeOnceInTwentyTicksAtThePaceOfTheGameSpeed) {
 }
 
 TEST(Meteors, FlickerAndPutTheSkyBack) {
-    SkyRig rig;
-    rig.picture().resize(500, 300, 2);  // as on a display of twice the density
-    rig.battle.redrawField();
-    rig.picture().setPersistentDrawing(false);
-    rig.picture().setPoint(450, 950, kCyan);  // of a shell's trail
-    rig.picture().setPoint(449, 951, kRed);
-    rig.picture().setPersistentDrawing(true);
-    const auto before = rig.pixels();
-    const long yellowBefore = rig.yellowPixels();
-    // Chance and path, then two wide points and narrow ones from there on.
-    std::deque<double> script(5 + 486, .5);
-    script.front() = 0;
+    BareSky rig;
+    rig.picture.resize(500, 300, 2);  // as on a display of twice the density
+    drawBattlefield(rig.state.field, rig.picture, 2);
+    rig.picture.setPassingPoint(450, 950, kCyan);  // of a shell's trail
+    rig.picture.setPassingPoint(449, 951, kRed);
+    const auto before = pixelsOf(rig.picture);
+    const long yellowBefore = yellowPixels(rig.picture);
+    basSkylob shared;
+    shared.GameSpeed = 99;
+    Meteors meteors{rig.sky, shared};
+    rig.state.penWidth = 2;
+    // The path, then two wide points and narrow ones from there on.
+    std::deque<double> script(4 + 486, .5);
     script.insert(script.end(), {.45, .5, .4999});
     rig.random.script(script);
     std::vector<long> yellow;
-    rig.view.onShowField = [&] { yellow.push_back(rig.yellowPixels() - yellowBefore); };
-    rig.atYield(50, [&] { rig.controls().setGameSpeed(90); });
-    rig.battle.timerMeteors_Timer();
+    rig.view.onShowField = [&] {
+        yellow.push_back(yellowPixels(rig.picture) - yellowBefore);
+        if (yellow.size() == 50) shared.GameSpeed = 90;
+    };
+    meteors.fly();
     // Dots of 6 and 4 device pixels across; the last picture is without any.
     ASSERT_EQ(yellow.size(), 486u);
     EXPECT_EQ(std::vector(yellow.begin(), yellow.begin() + 4), (std::vector<long>{32, 32, 12, 12}));
-    EXPECT_TRUE(rig.pixels() == before);
-    EXPECT_TRUE(rig.picture().penWidth() == 1 && rig.picture().persistentDrawing());
+    EXPECT_TRUE(pixelsOf(rig.picture) == before);
+    EXPECT_EQ(rig.state.penWidth, 1);
     EXPECT_EQ(rig.pacer.counts.at(49), 15'000);
     EXPECT_EQ(rig.pacer.counts.at(50), 150'000);
 }
 
 TEST(Meteors, ExplodeWhereTheyComeDownWithoutASound) {
     SkyRig rig;
-    rig.controls().chkSound_Click(true);
+    rig.options().chkSound_Click(true);
     rig.passTime();
     // From column 600 at 900 to the left, over the mountain, 2 a step: 120 in column 210, where
     // the ground is 105 high.
@@ -137,7 +140,7 @@ TEST(Meteors, ExplodeWhereTheyComeDownWithoutASound) {
     EXPECT_EQ(rig.events(), Log{});
     rig.passTime();
     rig.random.script(script);
-    rig.atYield(9, [&] { rig.controls().chkMeteors_Click(false); });
+    rig.atYield(9, [&] { rig.options().chkMeteors_Click(false); });
     rig.battle.timerMeteors_Timer();
     EXPECT_EQ(rig.pacer.counts.size(), 9u);  // interrupted, it does not explode
 }
@@ -145,7 +148,7 @@ TEST(Meteors, ExplodeWhereTheyComeDownWithoutASound) {
 TEST(Meteors, HoldTheLightningTimerIfItsBoxIsTicked) {
     for (const bool lightning : {true, false}) {
         SkyRig rig;
-        rig.controls().chkLightning_Click(lightning);
+        rig.options().chkLightning_Click(lightning);
         rig.passTime();
         rig.random.script({0});
         rig.view.onShowField = [&] {

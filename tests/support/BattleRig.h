@@ -11,10 +11,7 @@ struct RecordingView : HeadlessView {
     void showField() override {
         if (onShowField) onShowField();
     }
-    void showPanel(const BattlePanel& shown) override {
-        panel = shown;
-        ++panelsShown;
-    }
+    void showPanel(const BattlePanel&) override { ++panelsShown; }
     int displayWidth() const override { return width; }
     void holdInput() override { inputHeld = true; }
     void releaseInput() override {
@@ -37,15 +34,9 @@ struct RecordingView : HeadlessView {
     }
 
     Log& log;
-    BattlePanel panel;  ///< as it was last shown
-    int panelsShown = 0;
     std::function<void()> onShowField;
     bool inputHeld = false;
-    int width = 801;
-};
-
-struct Aim {
-    int speed, angle;
+    int width = 801, panelsShown = 0;
 };
 
 /// A battle between "Ann" and "Bob" (or the computer) with every port in the test's hands.
@@ -68,13 +59,14 @@ struct BattleRig {
         view.runQueue();
     }
     void fire(const Aim& aim) {
-        battle.controls().setSpeed(state().Shooter, aim.speed);
-        battle.controls().setAngle(state().Shooter, aim.angle);
+        aims().setSpeed(state().Shooter, aim.speed);
+        aims().setAngle(state().Shooter, aim.angle);
         battle.cmdShoot_Click();
     }
 
-    BattleControls& controls() { return battle.controls(); }
-    const BattlePanel& panel() const { return view.panel; }
+    Aims& aims() { return battle.aims(); }
+    BattleOptions& options() { return battle.options(); }
+    const BattlePanel& panel() const { return battle.panel(); }
     const BattleState& state() const { return battle.state(); }
     bool bothTimersRun() const { return panel().timerMeteors && panel().timerLightning; }
 
@@ -87,7 +79,7 @@ struct BattleRig {
     QueuedBoxes boxes{log};
     MemorySettings settings;
     RecordingView view{log};
-    Battle battle{shared, {random, clock, pacer, sounds, boxes, settings, view}};
+    Battle battle{shared, {random, clock, pacer, sounds, boxes, settings}, view};
 };
 
 /// A battle that waits for side 1, with nothing in its log yet.

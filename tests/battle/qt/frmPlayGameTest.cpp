@@ -43,19 +43,16 @@ struct Screen {
         settings.save("GameSpeed", "99");
         settings.save("SoundSetting", "0");
         form = std::make_unique<frmPlayGame>(
-            shared, frmPlayGamePorts{random, clock, pacer, sounds, boxes, settings, shapes,
-                                     [](SummaryKind) {}});
+            shared,
+            frmPlayGamePorts{
+                {random, clock, pacer, sounds, boxes, settings}, shapes, [](SummaryKind) {}});
         form->show();
         form->activateWindow();
         (void)QTest::qWaitForWindowActive(form.get());
     }
 
-    template <typename Widget>
-    Widget* find(const QString& accessibleName) {
-        for (Widget* widget : form->findChildren<Widget*>())
-            if (widget->isEnabled() && widget->accessibleName() == accessibleName) return widget;
-        return nullptr;
-    }
+    QScrollBar* bar(const char* name) { return form->findChild<QScrollBar*>(name); }
+    QCheckBox* box(const char* name) { return form->findChild<QCheckBox*>(name); }
     GlintButton* shoot() { return form->findChild<GlintButton*>("cmdShoot"); }
     picGameField* field() { return form->findChild<picGameField*>(); }
     bool shows(const QString& text) {
@@ -85,14 +82,15 @@ class frmPlayGameTest : public QObject {
   private slots:
     void playsATurnByKeyboardAlone() {
         Screen screen;
-        QScrollBar* const speed = screen.find<QScrollBar>("Speed");
+        QScrollBar* const speed = screen.bar("scrollSpeed(1)");
+        QCOMPARE(speed->accessibleName(), QStringLiteral("Speed"));
         QVERIFY(speed->hasFocus());
         for (const auto key : {Qt::Key_Right, Qt::Key_PageUp}) QTest::keyClick(speed, key);
         QVERIFY(screen.shows("Speed: 311"));
         for (const auto key : {Qt::Key_Down, Qt::Key_Left}) QTest::keyClick(speed, key);
         QVERIFY(screen.shows("Speed: 309"));
         for (const auto key : {Qt::Key_End, Qt::Key_Tab}) QTest::keyClick(speed, key);
-        QScrollBar* const angle = screen.find<QScrollBar>("Angle");
+        QScrollBar* const angle = screen.bar("scrollAngle(1)");
         QVERIFY(angle->hasFocus());
         for (const auto key : {Qt::Key_PageUp, Qt::Key_Tab}) QTest::keyClick(angle, key);
         QVERIFY(screen.shows("Angle:   80"));
@@ -102,7 +100,7 @@ class frmPlayGameTest : public QObject {
         QCOMPARE(screen.form->battle().shots().at(0).angle, 80);
         QVERIFY(screen.shoot()->hasFocus());  // it was there, so it stays
         QTest::keyClick(screen.form.get(), Qt::Key_A, Qt::AltModifier);
-        QVERIFY(screen.find<QScrollBar>("Angle")->hasFocus() && !angle->hasFocus());
+        QVERIFY(screen.bar("scrollAngle(2)")->hasFocus());
         QTest::keyClick(screen.form.get(), Qt::Key_S, Qt::AltModifier);
         QCOMPARE(screen.shots(), 2u);
         QVERIFY(speed->hasFocus());
@@ -120,7 +118,7 @@ class frmPlayGameTest : public QObject {
     void dropsInputMadeWhileAShellFlies() {
         Screen screen;
         GlintButton* const shoot = screen.shoot();
-        QScrollBar* const enemySpeed = screen.form->findChildren<QScrollBar*>().at(2);
+        QScrollBar* const enemySpeed = screen.bar("scrollSpeed(2)");
         int flights = 0;
         screen.pacer.duringFlight = [&] {
             if (++flights != 3) return;
@@ -138,28 +136,41 @@ class frmPlayGameTest : public QObject {
         QTest::mouseClick(shoot, Qt::LeftButton);
         QCoreApplication::processEvents();
         QCOMPARE(screen.shots(), 1u);
-        QVERIFY(flights >= 3 && screen.form->isVisible() && screen.shows("Speed: 300"));
+        QVERIFY(flights >= 3 && screen.form->isVisible());
+        QCOMPARE(enemySpeed->value(), 300);
+        QVERIFY(screen.shows("Speed: 300"));
         QTest::mouseClick(shoot, Qt::LeftButton);
         QCOMPARE(screen.shots(), 2u);
     }
 
     void showsItsLabelsAsTheyMatter() {
         Screen screen;
-        const auto label = [&](const char* begin) -> QLabel* {
-            for (QLabel* one : screen.form->findChildren<QLabel*>())
-                if (one->text().startsWith(QLatin1String{begin})) return one;
-            return nullptr;
-        };
-        QCOMPARE(label("Men Left")->font().weight(), QFont::DemiBold);
-        QCOMPARE(label("Men Left")->font().pixelSize(), 13);
-        QLabel* const gameSpeed = label("Game Speed");
+        const auto* const men = screen.form->findChild<QLabel*>("labelMenLeft(1)");
+        QCOMPARE(men->font().weight(), QFont::DemiBold);
+        QCOMPARE(men->font().pixelSize(), 13);
+        const auto* const gameSpeed = screen.form->findChild<QLabel*>("labelGameSpeed");
         int flights = 0;
         screen.pacer.duringFlight = [&] {
             ++flights;
             QVERIFY(!gameSpeed->isEnabled());
         };
         QTest::mouseClick(screen.shoot(), Qt::LeftButton);
-        QVERIFY(flights > 0 && gameSpeed->isEnabled());
+        QVERIFY(flights > 0);
+        QVERIFY(gameSpeed->isEnabled());
+    }
+
+    void refusesABoxThatClicksTooLate() {
+        Screen screen{2, "Ann", "Computer"};
+        QCheckBox* const sound = screen.box("chkSound");
+        bool hasClicked = false;
+        connect(sound, &QCheckBox::clicked, this, [&] { hasClicked = true; });
+        screen.pacer.atYield = [&] { QTRY_VERIFY(hasClicked); };  // the computer's turn by now
+        sound->animateClick();
+        QTest::mouseClick(screen.shoot(), Qt::LeftButton);
+        QVERIFY(hasClicked && !sound->isChecked() && !screen.form->battle().state().SoundOn);
+        QTRY_VERIFY(sound->isEnabled());
+        sound->click();
+        QVERIFY(sound->isChecked() && screen.form->battle().state().SoundOn);
     }
 
     void showsNamesAsTheyAre() {
@@ -173,7 +184,7 @@ class frmPlayGameTest : public QObject {
         for (const int size : {1, 2, 3}) {
             Screen screen{size, "WWWWWWWWWWWWWWWWWWWW"};
             screen.random.script({0});
-            screen.form->findChildren<QCheckBox*>().last()->click();  // "Wind  <--39"
+            screen.box("chkWind")->click();  // "Wind  <--39"
             QStringList keys;
             for (const QShortcut* shortcut : screen.form->findChildren<QShortcut*>())
                 keys << shortcut->key().toString();
@@ -230,7 +241,7 @@ class frmPlayGameTest : public QObject {
             QVERIFY(!timer->isActive());
             screen.form->show();
             QVERIFY(timer->isActive());
-            QCheckBox* const meteors = screen.form->findChildren<QCheckBox*>().at(2);
+            QCheckBox* const meteors = screen.box("chkMeteors");
             const std::function<void()> deeds[] = {
                 [&] { meteors->click(); },
                 [&] { QTest::mouseClick(screen.shoot(), Qt::LeftButton); },

@@ -1,0 +1,62 @@
+#include "battle/BattlePanel.h"
+
+#include <cstdlib>
+
+namespace skylob {
+
+namespace {
+
+std::string windCaption(int wind) {
+    if (wind == 0) return "Wind";
+    const std::string strength = std::to_string(std::abs(wind));
+    return "Wind  " + (wind < 0 ? "<--" + strength : strength + "-->");
+}
+
+bool isUsable(Deed deed, const BattleState& state) {
+    // What has to wait for an effect's end is usable meanwhile.
+    return verdictOn(deed, state.phase, false) == Verdict::Now;
+}
+
+SidePanel sidePanel(int side, const BattleState& state) {
+    const auto& [speed, angle] = state.aim[side];
+    SidePanel panel;
+    panel.scrollSpeed = speed;
+    panel.scrollAngle = angle;
+    panel.labelSpeed = "Speed: " + std::to_string(speed);
+    panel.labelAngle = "Angle:   " + std::to_string(angle);
+    if (state.turnNotice.side != 0) {
+        panel.menLeft = state.turnNotice.menLeft[side];
+        panel.labelMenLeft = "Men Left: " + std::to_string(panel.menLeft);
+    }
+    panel.enabled = side == state.turnNotice.side && isUsable(Deed::Aim, state);
+    return panel;
+}
+
+}  // namespace
+
+int gameSpeedOnBar(const BattleState& state, const basSkylob& shared) {
+    return state.barShowsGameSpeed ? shared.GameSpeed : kGameSpeedRange.minimum;
+}
+
+BattlePanel panelOf(const BattleState& state, const basSkylob& shared) {
+    BattlePanel panel;
+    for (const int side : kSides) panel.side[side] = sidePanel(side, state);
+    panel.turn = state.turnNotice.side;
+    panel.scrollGameSpeed = gameSpeedOnBar(state, shared);
+    panel.labelGameSpeed = "Game Speed: " + std::to_string(panel.scrollGameSpeed);
+    if (state.RoundNumber != 0)
+        panel.labelRoundNumber = "Round " + std::to_string(state.RoundNumber) + " of " +
+                                 std::to_string(shared.NumRounds);
+    panel.chkSound = state.SoundOn;
+    panel.chkTrajectory = state.ShowTrajectory;
+    panel.chkMeteors = state.chkMeteors;
+    panel.chkLightning = state.chkLightning;
+    panel.chkWind = state.chkWind;
+    panel.chkWindCaption = windCaption(state.Wind);
+    panel.commandsEnabled = isUsable(Deed::ChangeOption, state);
+    panel.timerMeteors = state.timerMeteors;
+    panel.timerLightning = state.timerLightning;
+    return panel;
+}
+
+}  // namespace skylob

@@ -1,0 +1,35 @@
+#include "battle/WhoMayAct.h"
+
+namespace skylob {
+
+namespace {
+
+bool isAllowed(Deed deed, Phase phase) {
+    const bool isPlayersTurn = phase == Phase::Waiting || phase == Phase::Asking;
+    switch (deed) {
+        case Deed::Aim:
+            return phase != Phase::Setup && phase != Phase::Shot;
+        case Deed::ChangeOption:
+        case Deed::ClickEffectBox:
+            return isPlayersTurn;
+        case Deed::Shoot:
+        case Deed::Quit:
+        case Deed::BeginEffect:
+            break;
+    }
+    return phase == Phase::Waiting;
+}
+
+}  // namespace
+
+Verdict verdictOn(Deed deed, Phase phase, bool effectIsUnderWay) {
+    if (!isAllowed(deed, phase)) return Verdict::No;
+    if (!effectIsUnderWay || deed == Deed::Aim || deed == Deed::ChangeOption) return Verdict::Now;
+    return deed == Deed::BeginEffect ? Verdict::No : Verdict::AfterTheEffect;
+}
+
+bool isStillWanted(Deed deed, Phase phase) {
+    return deed == Deed::ClickEffectBox || isAllowed(deed, phase);
+}
+
+}  // namespace skylob
