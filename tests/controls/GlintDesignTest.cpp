@@ -2,36 +2,102 @@
 
 #include <gtest/gtest.h>
 
+#include <sstream>
 #include <type_traits>
 
 #include "tests/support/GlintFakes.h"
 
 namespace skylob::test {
 
-/// What setting a property sets off on a pressed button that is shown.
+/// A form that is one text, "KEY=value;" for each entry. Of fonts it keeps the name alone.
+class TextBag : public PropertyBag {
+  public:
+    explicit TextBag(std::string form = {}) : text{std::move(form)} {}
+
+    std::string readText(std::string_view key, const std::string& fallback) const override {
+        const std::string entry = ";" + std::string{key} + "=";
+        const std::size_t at = (";" + text).find(entry);
+        if (at == std::string::npos) return fallback;
+        const std::size_t start = at + entry.size() - 1;
+        return text.substr(start, text.find(';', start) - start);
+    }
+    std::int32_t readInteger(std::string_view key, std::int32_t fallback) const override {
+        return std::stoi(readText(key, std::to_string(fallback)));
+    }
+    bool readBoolean(std::string_view key, bool fallback) const override {
+        return readInteger(key, fallback) != 0;
+    }
+    GlintFont readFont(std::string_view key, const GlintFont& fallback) const override {
+        return {.name = readText(key, fallback.name)};
+    }
+    void writeText(std::string_view key, const std::string& value) override {
+        text += std::string{key} + "=" + value + ";";
+    }
+    void writeInteger(std::string_view key, std::int32_t value) override {
+        writeText(key, std::to_string(value));
+    }
+    void writeBoolean(std::string_view key, bool value) override { writeInteger(key, value); }
+    void writeFont(std::string_view key, const GlintFont& value) override {
+        writeText(key, value.name);
+    }
+
+    std::string text;
+};
+
+static std::string written(const GlintRig& rig) {
+    TextBag bag;
+    rig.design.writeProperties(bag);
+    return bag.text;
+}
+
+/// What setting a property sets off on a pressed button that is shown, and the entry that it
+/// changes in the form.
 template <typename Value>
 static std::string effects(void (GlintDesign::*set)(Value),
                            const std::type_identity_t<Value>& value) {
     GlintRig rig;
     rig.button.IsShown = true;
     rig.button.currentState = kStatePressed;
+    std::istringstream before{written(rig)};
     (rig.design.*set)(value);
-    return rig.taken();
+    std::istringstream after{written(rig)};
+    std::string all = rig.taken();
+    for (std::string was, is; std::getline(before, was, ';') && std::getline(after, is, ';');)
+        if (is != was) all += " " + is;
+    return all;
 }
 
 TEST(GlintDesign, SetsOffItsEffectsInOrder) {
     using D = GlintDesign;
-    EXPECT_EQ(effects(&D::setButtonType, 3), "layout;region 12;Redraw(2, true);mark BTYPE;");
+    EXPECT_EQ(effects(&D::setBackColor, 1), "palette;Redraw(2, true);mark BCOL; BCOL=1");
+    EXPECT_EQ(effects(&D::setBackOver, 2), "Redraw(2, true);mark BCOLO; BCOLO=2");
+    EXPECT_EQ(effects(&D::setForeColor, 3), "palette;Redraw(2, true);mark FCOL; FCOL=3");
+    EXPECT_EQ(effects(&D::setForeOver, 4), "Redraw(2, true);mark FCOLO; FCOLO=4");
+    EXPECT_EQ(effects(&D::setMaskColor, 5), "Redraw(2, true);mark MCOL; MCOL=5");
+    EXPECT_EQ(effects(&D::setButtonType, 3),
+              "layout;region 12;Redraw(2, true);mark BTYPE; BTYPE=3");
     EXPECT_EQ(effects(&D::setButtonType, 11),
-              "capture background;layout;region 0;Redraw(2, true);mark BTYPE;");
-    EXPECT_EQ(effects(&D::setEnabled, false), "Redraw(0, true);disabled;mark ENAB;");
-    EXPECT_EQ(effects(&D::setColorScheme, 3), "palette;Redraw(0, true);mark COLTYPE;");
-    EXPECT_EQ(effects(&D::setPicturePosition, 1), "mark PICPOS;layout;Redraw(2, true);");
+              "capture background;layout;region 0;Redraw(2, true);mark BTYPE; BTYPE=11");
+    EXPECT_EQ(effects(&D::setCaption, "&Go"), "access key;layout;Redraw(2, true);mark TX; TX=&Go");
+    EXPECT_EQ(effects(&D::setEnabled, true), "Redraw(0, true);enabled;mark ENAB; ENAB=1");
+    EXPECT_EQ(effects(&D::setFont, {.name = "Sans"}),
+              "font;layout;Redraw(2, true);mark FONT; FONT=Sans");
+    EXPECT_EQ(effects(&D::setFontName, "Sans"), "font;layout;Redraw(2, true); FONT=Sans");
+    EXPECT_EQ(effects(&D::setColorScheme, 3), "palette;Redraw(0, true);mark COLTYPE; COLTYPE=3");
+    EXPECT_EQ(effects(&D::setShowFocusRect, true), "mark FOCUSR; FOCUSR=1");
+    EXPECT_EQ(effects(&D::setMousePointer, 2), "pointer;mark MPTR; MPTR=2");
+    EXPECT_EQ(effects(&D::setMouseIcon, "i"), "icon;mark MICON; MICON=i");
+    EXPECT_EQ(effects(&D::setSoftBevel, true), "Redraw(2, true);mark SOFT; SOFT=1");
+    EXPECT_EQ(effects(&D::setPictureNormal, "p"),
+              "measure;layout;Redraw(2, true);mark PICN; PICN=p");
+    EXPECT_EQ(effects(&D::setPicturePosition, 1), "mark PICPOS;layout;Redraw(2, true); PICPOS=1");
+    EXPECT_EQ(effects(&D::setSpecialEffect, 2), "Redraw(2, true);mark FX; FX=2");
+    EXPECT_EQ(effects(&D::setCheckBoxBehaviour, true), "mark CHECK; CHECK=1");
     // These are drawn only where they show.
-    EXPECT_EQ(effects(&D::setUseMaskColor, true), "mark UMCOL;");
-    EXPECT_EQ(effects(&D::setUseGreyscale, true), "mark NGREY;");
-    EXPECT_EQ(effects(&D::setPictureOver, "x"), "mark PICO;");
-    EXPECT_EQ(effects(&D::setValue, true), "mark VALUE;");
+    EXPECT_EQ(effects(&D::setUseMaskColor, true), "mark UMCOL; UMCOL=1");
+    EXPECT_EQ(effects(&D::setUseGreyscale, true), "mark NGREY; NGREY=1");
+    EXPECT_EQ(effects(&D::setPictureOver, "x"), "mark PICO; PICH=x");
+    EXPECT_EQ(effects(&D::setValue, true), "mark VALUE; VALUE=1");
     GlintRig rig;
     rig.button.PictureNormal = "x";
     rig.button.IsOver = rig.button.CheckBoxBehaviour = true;
@@ -43,7 +109,6 @@ TEST(GlintDesign, SetsOffItsEffectsInOrder) {
     EXPECT_EQ(rig.taken(),
               "Redraw(2, true);mark UMCOL;Redraw(2, true);mark NGREY;"
               "Redraw(2, true);mark PICO;Redraw(0, true);mark VALUE;");
-    EXPECT_TRUE(rig.button.Value);
     rig.design.setButtonType(11);  // not shown, it has nothing behind it to capture
     EXPECT_EQ(rig.taken(), "layout;region 0;Redraw(0, true);mark BTYPE;");
     rig.client = {0, 40};
@@ -57,6 +122,25 @@ TEST(GlintDesign, SetsOffItsEffectsInOrder) {
     EXPECT_EQ(rig.surfaceFont, (GlintFont{"Sans", 9, true, true, true}));
 }
 
+TEST(GlintDesign, ComesFromItsFormAndGoesBack) {
+    const std::string form =
+        "BTYPE=3;TX=&Go;ENAB=0;FONT=Sans;COLTYPE=2;FOCUSR=0;BCOL=-2147483635;BCOLO=1;FCOL=2;"
+        "FCOLO=3;MCOL=4;MPTR=5;MICON=i;PICN=n;PICH=h;UMCOL=0;SOFT=1;PICPOS=4;NGREY=1;FX=2;"
+        "CHECK=1;VALUE=1;";
+    GlintRig rig;
+    rig.design.readProperties(TextBag{form});
+    EXPECT_EQ(rig.taken(), "font;pointer;icon;disabled;measure;layout;access key;");
+    EXPECT_EQ(written(rig), form);
+    rig.design.readProperties(TextBag{});
+    EXPECT_EQ(written(rig),
+              "BTYPE=2;TX=;ENAB=1;FONT=Ambient;COLTYPE=1;FOCUSR=1;BCOL=12632256;BCOLO=12632256;"
+              "FCOL=0;FCOLO=0;MCOL=12632256;MPTR=0;MICON=;PICN=;PICH=;UMCOL=1;SOFT=0;PICPOS=0;"
+              "NGREY=0;FX=0;CHECK=0;VALUE=0;");
+    rig.design.readProperties(TextBag{"BCOL=7;FCOL=8;"});  // hovering colours follow
+    EXPECT_EQ(rig.button.BackOver, 7u);
+    EXPECT_EQ(rig.button.ForeOver, 8u);
+}
+
 TEST(GlintDesign, TakesHoverColoursAlongOnlyAtDesignTime) {
     GlintRig rig;
     rig.button.ColorScheme = 2;
@@ -64,18 +148,23 @@ TEST(GlintDesign, TakesHoverColoursAlongOnlyAtDesignTime) {
     rig.design.setForeColor(0x222222);
     EXPECT_EQ(rig.button.BackOver | rig.button.ForeOver, 0u);
     EXPECT_EQ(rig.button.palette.FaceColour, 0x111111u);
+    EXPECT_EQ(rig.button.palette.TextColour, 0x222222u);
     rig.userMode = false;
     rig.design.setBackColor(0x333333);
     rig.design.setForeColor(0x444444);
     EXPECT_EQ(rig.button.BackOver, 0x333333u);
     EXPECT_EQ(rig.button.ForeOver, 0x444444u);
+    EXPECT_EQ(rig.button.palette.TextOverColour, 0x444444u);
     // The palette learns of these only when it is made anew.
     rig.design.setBackOver(0x555555);
+    rig.design.setForeOver(0x777777);
     rig.design.setMaskColor(0x666666);
     EXPECT_EQ(rig.button.palette.FaceOverColour, 0x333333u);
+    EXPECT_EQ(rig.button.palette.TextOverColour, 0x444444u);
     EXPECT_EQ(rig.button.palette.MaskRGB, 0u);
     rig.interaction.ambientChanged();
     EXPECT_EQ(rig.button.palette.FaceOverColour, 0x555555u);
+    EXPECT_EQ(rig.button.palette.TextOverColour, 0x777777u);
     EXPECT_EQ(rig.button.palette.MaskRGB, 0x666666u);
 }
 

@@ -17,6 +17,7 @@ class GlintRig : public GlintSurface, public GlintPointer, public GlintEvents {
     void paint(int state, bool flag) override {
         note("Redraw(" + std::to_string(state) + (flag ? ", true)" : ", false)"));
         drawnOver = button.IsOver;
+        drawnValue = button.Value;
     }
     void propertyChanged(std::string_view key) override { note("mark " + std::string{key}); }
     bool isUserMode() const override { return userMode; }
@@ -89,7 +90,8 @@ class GlintRig : public GlintSurface, public GlintPointer, public GlintEvents {
 
     GlintState button;
     bool userMode = true, inside = true, timerRuns = false;
-    bool drawnOver = false;  ///< whether the last drawing was one under the pointer
+    bool drawnOver = false;   ///< whether the last drawing was one under the pointer
+    bool drawnValue = false;  ///< the field that the last drawing, and what reads it, knew
     GlintSize client{100, 40};
     GlintFont surfaceFont;
     std::int16_t pointerShape = 0;

@@ -240,29 +240,15 @@ class GlintButtonTest : public QObject {
             "underline": true}, "COLTYPE": 4, "FOCUSR": false,
             "BCOL": -2147483635, "BCOLO": 1, "FCOL": 255, "FCOLO": 2, "MCOL": 7, "MPTR": 5,
             "MICON": "hand", "PICN": "ok 16", "PICH": "bin 16", "UMCOL": false, "SOFT": true,
-            "PICPOS": 4, "NGREY": true, "FX": 9, "CHECK": true, "VALUE": true},
-            "some": {"BCOL": -2147483635, "FCOL": 255}})",
+            "PICPOS": 4, "NGREY": true, "FX": 9, "CHECK": true, "VALUE": true}})",
                                "form"};
         const QtShapes shapes{programDrawings()};
-        const auto copied = [&](const char* from) {
-            GlintButton button{"cmdOne", shapes, nullptr};
-            button.design().readProperties(file.bag(from));
-            auto copy = file.bag("copy");
-            button.design().writeProperties(copy);
-            return QJsonDocument::fromJson(file.toJson()).object().value("copy").toObject();
-        };
-        const auto given = QJsonDocument::fromJson(file.toJson()).object();
-        QCOMPARE(copied("full"), given.value("full").toObject());
-        const QJsonObject some = copied("some");  // hovering colours follow the others
-        QCOMPARE(some.value("BCOLO").toInt(), -2147483635);
-        QCOMPARE(some.value("FCOLO").toInt(), 255);
-        QJsonObject defaults = copied("none");
-        defaults.remove("FONT");
-        QCOMPARE(QJsonDocument{defaults}.toJson(QJsonDocument::Compact),
-                 R"({"BCOL":12632256,"BCOLO":12632256,"BTYPE":2,"CHECK":false,"COLTYPE":1,)"
-                 R"("ENAB":true,"FCOL":0,"FCOLO":0,"FOCUSR":true,"FX":0,"MCOL":12632256,)"
-                 R"("MICON":"","MPTR":0,"NGREY":false,"PICH":"","PICN":"","PICPOS":0,)"
-                 R"("SOFT":false,"TX":"","UMCOL":true,"VALUE":false})");
+        GlintButton button{"cmdOne", shapes, nullptr};
+        button.design().readProperties(file.bag("full"));
+        auto copy = file.bag("copy");
+        button.design().writeProperties(copy);
+        const auto written = QJsonDocument::fromJson(file.toJson()).object();
+        QCOMPARE(written.value("copy").toObject(), written.value("full").toObject());
     }
 
     void reportsAWrongTypeOnce() {
