@@ -228,8 +228,8 @@ void GlintButton::setMouseIcon(const PictureReference& picture) {
 }
 
 void GlintButton::updateMousePointer() {
-    if (m_pointerShape == 0) {
-        unsetCursor();  // whatever the form shows
+    if (m_pointerShape == kFormsShape) {
+        unsetCursor();
         return;
     }
     QImage icon = m_pictures.at(m_mouseIcon, devicePixelRatioF());

@@ -13,8 +13,6 @@ namespace skylob {
 
 namespace {
 
-constexpr int kFlat = 3, kGlass = 11, kDropped = 14;
-
 QColor withAlpha(QColor colour, int alpha) {
     colour.setAlpha(alpha);
     return colour;
@@ -67,17 +65,17 @@ class Drawing {
 
   private:
     bool isSunken() const { return m_pressed || m_on; }
-    bool movesContent() const { return m_pressed || (m_on && m_button.ButtonType != kGlass); }
+    bool movesContent() const { return m_pressed || (m_on && m_button.ButtonType != kStyleGlass); }
 
     void drawFace() {
         switch (m_button.ButtonType) {
-            case kFlat:
-                drawFlatFace();
+            case kStyleRounded:
+                drawRoundedFace();
                 break;
-            case kGlass:
+            case kStyleGlass:
                 drawGlassFace();
                 break;
-            case kDropped:
+            case kStyleDropped:
                 drawDroppedFace();
                 break;
             default:
@@ -96,7 +94,7 @@ class Drawing {
             drawBevels(all, {s.highlight, s.darkShadow}, {s.light, s.shadow});
     }
 
-    void drawFlatFace() {
+    void drawRoundedFace() {
         const GlintShades& s = m_shades;
         const int u = m_line, right = m_width - u, bottom = m_height - u;
         fillGradient({u, u, m_width - 2 * u, m_height - 2 * u});
@@ -216,13 +214,13 @@ class Drawing {
         if (m_button.Caption.empty()) return;
         const QPoint place = contentStep(), aside{m_step, m_step};
         switch (m_button.SpecialEffect) {
-            case 1:
+            case kEffectRaised:
                 drawText(place - aside, m_shades.highlight);
                 break;
-            case 2:
+            case kEffectEngraved:
                 drawText(place + aside, m_shades.highlight);
                 break;
-            case 3:
+            case kEffectShadow:
                 drawText(place + aside, m_shades.darkShadow);
                 break;
             default:
@@ -248,9 +246,9 @@ class Drawing {
     }
 
     void drawVeil() {
-        const int u = m_line, drop = m_button.ButtonType == kDropped ? u : 0;
+        const int u = m_line, drop = m_button.ButtonType == kStyleDropped ? u : 0;
         const QRect area{2 * u, 2 * u, m_width - 4 * u - drop, m_height - 4 * u - drop};
-        if (m_button.ButtonType != kGlass) {
+        if (m_button.ButtonType != kStyleGlass) {
             fill(area, withAlpha(m_shades.flat, 120));
         } else if (!m_canvas.backdrop.isNull()) {
             m_painter.setOpacity(0.5);
