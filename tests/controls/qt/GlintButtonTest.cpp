@@ -83,6 +83,7 @@ class GlintButtonTest : public QObject {
     void clicksOnceForEachPressAndRelease() {
         Form form;
         QCOMPARE(form.clicked(Qt::LeftButton), QString{"MouseDown MouseUp Click"});
+        QCOMPARE(form.released(Qt::LeftButton), QString{"MouseUp"});  // the press is used up
         QCOMPARE(form.clicked(Qt::RightButton), QString{"MouseDown MouseUp"});
         // The second press of a double click arrives as such, and its release ends in a click.
         QCOMPARE(form.clicked(Qt::LeftButton), QString{"MouseDown MouseUp Click"});
