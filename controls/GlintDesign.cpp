@@ -26,8 +26,8 @@ void GlintDesign::initialiseProperties() {
     m_button.Enabled = m_button.ShowFocusRect = m_button.UseMaskColor = true;
     m_button.Caption = m_surface.displayName();
     m_surface.setFont(m_surface.ambientFont());
-    m_button.ButtonType = 14;
-    m_button.ColorScheme = 2;
+    m_button.ButtonType = kStyleDropped;
+    m_button.ColorScheme = kSchemeOwn;
     recalcColours();
     m_button.BackColor = m_button.BackOver = m_button.palette.FaceColour;
     m_button.MaskColor = kUsualMask;
@@ -37,11 +37,11 @@ void GlintDesign::initialiseProperties() {
 
 void GlintDesign::readProperties(const PropertyBag& bag) {
     GlintState& b = m_button;
-    b.ButtonType = bag.readInteger("BTYPE", 2);
+    b.ButtonType = bag.readInteger("BTYPE", kStyleCommon);
     b.Caption = bag.readText("TX", "");
     b.Enabled = bag.readBoolean("ENAB", true);
     m_surface.setFont(bag.readFont("FONT", m_surface.ambientFont()));
-    b.ColorScheme = bag.readInteger("COLTYPE", 1);
+    b.ColorScheme = bag.readInteger("COLTYPE", kSchemeSystem);
     b.ShowFocusRect = bag.readBoolean("FOCUSR", true);
     b.BackColor = readColour(bag, "BCOL", systemColour(systemcolour::kButtonFace));
     b.BackOver = readColour(bag, "BCOLO", b.BackColor);
@@ -55,7 +55,7 @@ void GlintDesign::readProperties(const PropertyBag& bag) {
     b.PictureOver = bag.readText("PICH", {});
     b.UseMaskColor = bag.readBoolean("UMCOL", true);
     b.SoftBevel = bag.readBoolean("SOFT", false);
-    b.PicturePosition = bag.readInteger("PICPOS", 0);
+    b.PicturePosition = bag.readInteger("PICPOS", kPictureLeft);
     b.UseGreyscale = bag.readBoolean("NGREY", false);
     b.SpecialEffect = bag.readInteger("FX", 0);
     b.CheckBoxBehaviour = bag.readBoolean("CHECK", false);
@@ -129,7 +129,7 @@ void GlintDesign::setMaskColor(ColourReference value) {
 
 void GlintDesign::setButtonType(std::int32_t value) {
     m_button.ButtonType = value;
-    if (value == 11 && m_button.IsShown) captureBackground(m_button, m_surface);
+    if (value == kStyleGlass && m_button.IsShown) captureBackground(m_button, m_surface);
     resize(m_button, m_surface);
     mark("BTYPE");
 }

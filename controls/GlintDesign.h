@@ -15,11 +15,11 @@ class GlintDesign {
     /// Both must outlive this object.
     GlintDesign(GlintState& button, GlintSurface& surface);
 
-    /// A button newly placed on a form: style 14 with colours of its own, which come out black
+    /// A button newly placed on a form: dropped, with colours of its own, which come out black
     /// on black because the palette is made before there are any.
     void initialiseProperties();
-    /// A form that holds the button is loaded. A bag without entries gives style 2 and the
-    /// system's colours.
+    /// A form that holds the button is loaded. A bag without entries gives the common style and
+    /// the system's colours.
     void readProperties(const PropertyBag& bag);
     /// The form is saved: all 22 entries, in the order in which they are read.
     void writeProperties(PropertyBag& bag) const;

@@ -6,7 +6,6 @@ namespace skylob {
 
 namespace {
 
-constexpr std::int16_t kLeft = 1, kRight = 2;
 constexpr std::int16_t kSpace = 32;
 
 }  // namespace
@@ -19,17 +18,17 @@ GlintInteraction::GlintInteraction(GlintState& button, GlintSurface& surface, Gl
 void GlintInteraction::mouseDown(const GlintMouse& mouse) {
     m_events.raiseMouseDown(mouse);
     m_button.LastButton = static_cast<std::uint8_t>(mouse.button);
-    if (mouse.button != kRight) redraw(kStatePressed, false);
+    if (mouse.button != kMouseRight) redraw(kStatePressed, false);
 }
 
 void GlintInteraction::mouseUp(const GlintMouse& mouse) {
     m_events.raiseMouseUp(mouse);
-    if (mouse.button != kRight) redraw(kStateUp, false);
+    if (mouse.button != kMouseRight) redraw(kStateUp, false);
 }
 
 void GlintInteraction::mouseMove(const GlintMouse& mouse) {
     m_events.raiseMouseMove(mouse);
-    if (mouse.button >= kRight) return;
+    if (mouse.button >= kMouseRight) return;
     if (!m_pointer.IsPointerInside()) {
         redraw(kStateUp, false);
         return;
@@ -41,7 +40,7 @@ void GlintInteraction::mouseMove(const GlintMouse& mouse) {
         m_button.IsOver = true;
         redraw(kStateUp, true);
         m_events.raiseMouseOver();
-    } else if (mouse.button == kLeft) {
+    } else if (mouse.button == kMouseLeft) {
         // Pressed, but in the colours of hovering.
         m_button.IsOver = true;
         redraw(kStatePressed, false);
@@ -58,20 +57,20 @@ void GlintInteraction::overTimerTick() {
 }
 
 void GlintInteraction::click() {
-    if (m_button.LastButton != kLeft || !m_button.Enabled) return;
+    if (m_button.LastButton != kMouseLeft || !m_button.Enabled) return;
     toggle();
     redraw(kStateUp, true);
     m_events.raiseClick();
 }
 
 void GlintInteraction::doubleClick() {
-    if (m_button.LastButton != kLeft) return;
-    mouseDown({kLeft, 0, 0, 0});
+    if (m_button.LastButton != kMouseLeft) return;
+    mouseDown({kMouseLeft, 0, 0, 0});
     m_pointer.captureMouse();
 }
 
 void GlintInteraction::accessKey() {
-    m_button.LastButton = kLeft;
+    m_button.LastButton = kMouseLeft;
     click();
 }
 
@@ -117,7 +116,7 @@ void GlintInteraction::initialise() {
 }
 
 void GlintInteraction::show() {
-    if (m_button.ButtonType == 11) captureBackground(m_button, m_surface);
+    if (m_button.ButtonType == kStyleGlass) captureBackground(m_button, m_surface);
     m_button.IsShown = true;
     m_button.palette = RecalcColours(m_button, m_surface.containerColours());
     redraw(kStateUp, true);

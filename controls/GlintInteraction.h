@@ -7,8 +7,8 @@
 namespace skylob {
 
 /// A mouse event as the host reports it. `button` is the button pressed or released, on a move
-/// the sum of those held: 1 left, 2 right, 4 middle. `shift` is the sum of 1 shift, 2 control,
-/// 4 alt. x and y are pixels from the button's corner.
+/// the sum of those held: kMouseLeft and so on. `shift` is the sum of kHeldShift and so on. x and
+/// y are pixels from the button's corner.
 struct GlintMouse {
     std::int16_t button = 0, shift = 0;
     float x = 0, y = 0;

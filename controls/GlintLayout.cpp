@@ -5,22 +5,21 @@ namespace skylob {
 namespace {
 
 constexpr int kPictureGap = 4;
-enum PicturePlace { Left = 0, Right = 1, Above = 2, Below = 3, Behind = 4 };
 
 }  // namespace
 
 GlintRect captionBounds(int picturePosition, GlintSize client, GlintSize picture) {
     const auto [w, h] = client;
     switch (picturePosition) {
-        case Left:
+        case kPictureLeft:
             return {picture.width + 4, 4, w - 8, h - 8};
-        case Right:
+        case kPictureRight:
             return {4, 4, w - picture.width - 8, h - 8};
-        case Above:
+        case kPictureAbove:
             return {4, picture.height + 4, w - 8, h - 8};
-        case Below:
+        case kPictureBelow:
             return {4, 4, w - 8, h - picture.height - 8};
-        case Behind:
+        case kPictureBehind:
             return {4, 1, w - 8, h - 4};
         default:
             return {};
@@ -33,13 +32,13 @@ GlintSize captionShift(int picturePosition, GlintSize client, GlintSize picture,
     const int dx = (client.width - measured.right) / 2;
     const int dy = (client.height - measured.bottom) / 2;
     switch (picturePosition) {
-        case Left:
-        case Above:
-        case Behind:
+        case kPictureLeft:
+        case kPictureAbove:
+        case kPictureBehind:
             return {dx, dy};
-        case Right:
+        case kPictureRight:
             return {(client.width - picture.width - measured.right - 4) / 2, dy};
-        case Below:
+        case kPictureBelow:
             return {dx, (client.height - picture.height - measured.bottom - 4) / 2};
         default:
             return {};
@@ -53,16 +52,16 @@ GlintRect picturePlace(int picturePosition, GlintSize client, GlintSize picture,
     int y = middle.top + (middle.height() - picture.height) / 2;
     if (hasCaption) {
         switch (picturePosition) {
-            case Left:
+            case kPictureLeft:
                 x = text.left - kPictureGap - picture.width;
                 break;
-            case Right:
+            case kPictureRight:
                 x = text.right + kPictureGap;
                 break;
-            case Above:
+            case kPictureAbove:
                 y = text.top - kPictureGap - picture.height;
                 break;
-            case Below:
+            case kPictureBelow:
                 y = text.bottom + kPictureGap;
                 break;
             default:
@@ -88,11 +87,11 @@ GlintRect contentRectangle(int buttonType, GlintSize client) {
         return GlintRect{by, by, client.width - by, client.height - by};
     };
     switch (buttonType) {
-        case 3:
+        case kStyleRounded:
             return shrunk(4);
-        case 11:
+        case kStyleGlass:
             return shrunk(3);
-        case 14:
+        case kStyleDropped:
             return shrunk(5).moved(1, 1);
         default:
             return shrunk(0);
@@ -102,14 +101,14 @@ GlintRect contentRectangle(int buttonType, GlintSize client) {
 std::vector<GlintPixel> pixelsOutside(int buttonType, GlintSize client) {
     const int right = client.width - 1, bottom = client.height - 1;
     switch (buttonType) {
-        case 3:
+        case kStyleRounded:
             return {{0, 0},          {1, 0},
                     {0, 1},          {right - 1, 0},
                     {right, 0},      {right, 1},
                     {0, bottom},     {1, bottom},
                     {0, bottom - 1}, {right - 1, bottom},
                     {right, bottom}, {right, bottom - 1}};
-        case 14:
+        case kStyleDropped:
             return {{0, bottom}, {right, 0}};
         default:
             return {};

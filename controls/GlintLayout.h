@@ -7,7 +7,7 @@
 namespace skylob {
 
 /// The bounds within which a caption is measured, for a client and a picture of these sizes.
-/// A PicturePosition other than 0 to 4 has none: everything is 0.
+/// A PicturePosition that has no name has none: everything is 0.
 GlintRect captionBounds(int picturePosition, GlintSize client, GlintSize picture);
 
 /// How far the measured caption is moved to stand in the middle.

@@ -87,11 +87,11 @@ GlintPalette systemColours() {
 
 GlintPalette coloursOfScheme(const GlintProperties& properties, const ContainerColours& container) {
     switch (properties.ColorScheme) {
-        case 2:
+        case kSchemeOwn:
             return ownColours(properties);
-        case 3:
+        case kSchemeGrey:
             return greyColours();
-        case 4:
+        case kSchemeContainer:
             return containerColours(properties, container);
         default:
             return systemColours();
@@ -151,7 +151,8 @@ Colour BlendToWhite(Colour colour, int amount) {
 GlintPalette RecalcColours(const GlintProperties& properties, const ContainerColours& container) {
     GlintPalette palette = coloursOfScheme(properties, container);
     palette.MaskRGB = TranslateColour(properties.MaskColor);
-    const BlueShift blue = properties.ButtonType == 3 ? BlueShift::Scaled : BlueShift::Flat;
+    const BlueShift blue =
+        properties.ButtonType == kStyleRounded ? BlueShift::Scaled : BlueShift::Flat;
     palette.FaceLightColour = ShiftColour(palette.FaceColour, 48, blue, bevelOf(properties));
     return palette;
 }

@@ -38,12 +38,25 @@ struct GlintFont {
 /// The name under which the surface finds a picture; empty for none.
 using PictureReference = std::string;
 
+// What the numbers among the properties mean. They stay open: any value is stored.
+
+/// ButtonType: with rounded corners, transparent over what lies behind, or dropped towards the
+/// lower right. Every other value is drawn in the common way.
+constexpr std::int32_t kStyleCommon = 2, kStyleRounded = 3, kStyleGlass = 11, kStyleDropped = 14;
+/// ColorScheme: where the palette comes from. Any other value is the system's scheme, too.
+constexpr std::int32_t kSchemeSystem = 1, kSchemeOwn = 2, kSchemeGrey = 3, kSchemeContainer = 4;
+/// PicturePosition: where the picture stands, seen from the caption.
+constexpr std::int32_t kPictureLeft = 0, kPictureRight = 1, kPictureAbove = 2, kPictureBelow = 3,
+                       kPictureBehind = 4;
+/// SpecialEffect: how the caption is drawn. Any other value is a plain one.
+constexpr std::int32_t kEffectRaised = 1, kEffectEngraved = 2, kEffectShadow = 3;
+
 /// The values that a form is designed with, and that the host may change at any time.
 struct GlintProperties {
-    std::int32_t ButtonType = 0;       ///< drawing style: 3, 11, 14, or anything else
-    std::int32_t ColorScheme = 0;      ///< 2 own colours, 3 grey, 4 container, else system
-    std::int32_t PicturePosition = 0;  ///< 0 left, 1 right, 2 above, 3 below, 4 behind
-    std::int32_t SpecialEffect = 0;    ///< caption: 1 raised, 2 engraved, 3 shadow, else none
+    std::int32_t ButtonType = 0;
+    std::int32_t ColorScheme = 0;
+    std::int32_t PicturePosition = 0;
+    std::int32_t SpecialEffect = 0;
     ColourReference BackColor = 0, BackOver = 0;  ///< face; face under the pointer
     ColourReference ForeColor = 0, ForeOver = 0;  ///< caption; caption under the pointer
     ColourReference MaskColor = 0;                ///< what is transparent in pictures
@@ -74,6 +87,11 @@ struct GlintPalette {
     bool operator==(const GlintPalette&) const = default;
 };
 
+/// The numbers of the mouse buttons; those held together are summed up.
+constexpr std::int16_t kMouseLeft = 1, kMouseRight = 2, kMouseMiddle = 4;
+/// The sum that a mouse or key event says was held.
+constexpr std::int16_t kHeldShift = 1, kHeldControl = 2, kHeldAlt = 4;
+
 /// The states that the painter draws.
 constexpr int kStateUp = 0, kStatePressed = 2;
 
@@ -82,7 +100,7 @@ struct GlintState : GlintProperties {
     int currentState = kStateUp;  ///< the state drawn last
     bool IsOver = false;          ///< the pointer is over the button
 
-    std::uint8_t LastButton = 0;   ///< of the last mouse-down: 1 left, 2 right
+    std::uint8_t LastButton = 0;   ///< of the last mouse-down, such as kMouseLeft
     std::uint8_t LastKeyDown = 0;  ///< low byte of the last key-down
     bool HasFocus = false;
     bool IsShown = false;

@@ -57,7 +57,7 @@ class GlintSurface {
     virtual GlintSize clientSize() const = 0;
     /// The button's window is all of its client rectangle but these pixels.
     virtual void setRegion(const std::vector<GlintPixel>& removed) = 0;
-    /// Copies what the parent shows behind the button, for style 11.
+    /// Copies what the parent shows behind the button, for kStyleGlass.
     virtual void captureBackground() = 0;
 };
 

@@ -18,7 +18,7 @@ struct Row {
     int style;
     Colour face, faceOver, text;
     const char *caption, *picture;
-    int place = 0;
+    int place = kPictureLeft;
 };
 
 struct Column {
@@ -35,16 +35,16 @@ constexpr Column kColumns[] = {{},
                                {.over = true, .on = true}};
 
 constexpr Row kRows[] = {
-    {2, 0x5F4133, 0x7A5240, 0xFBF2EE, "Sa&mple", "list 16"},
-    {3, 0x5F4133, 0x7A5240, 0xFBF2EE, "Sa&mple", "edit 16"},
-    {11, 0x8C6F2F, 0xB08C3C, 0xFFFBF2, "Sa&mple", "go 16", 1},
-    {14, 0x735F16, 0x86701B, 0xFFFFFF, "Sa&mple", "ok 16"},
-    {14, 0x2EB9F2, 0x57CFFF, 0x00141C, "&Shoot", "shell 24"},
-    {3, 0x5C3A2B, 0x7C4E3A, 0xFBF2EE, "&Target\nPractice", "fair 40"},
-    {3, 0x5C3A2B, 0x7C4E3A, 0xFBF2EE, "&Target\nPractice", "fair 40", 1},
-    {3, 0x5C3A2B, 0x7C4E3A, 0xFBF2EE, "&Target", "fair 40", 2},
-    {3, 0x5C3A2B, 0x7C4E3A, 0xFBF2EE, "&Target", "fair 40", 3},
-    {3, 0x5C3A2B, 0x7C4E3A, 0xFBF2EE, "&Target", "fair 40", 4},
+    {kStyleCommon, 0x5F4133, 0x7A5240, 0xFBF2EE, "Sa&mple", "list 16"},
+    {kStyleRounded, 0x5F4133, 0x7A5240, 0xFBF2EE, "Sa&mple", "edit 16"},
+    {kStyleGlass, 0x8C6F2F, 0xB08C3C, 0xFFFBF2, "Sa&mple", "go 16", kPictureRight},
+    {kStyleDropped, 0x735F16, 0x86701B, 0xFFFFFF, "Sa&mple", "ok 16"},
+    {kStyleDropped, 0x2EB9F2, 0x57CFFF, 0x00141C, "&Shoot", "shell 24"},
+    {kStyleRounded, 0x5C3A2B, 0x7C4E3A, 0xFBF2EE, "&Target\nPractice", "fair 40"},
+    {kStyleRounded, 0x5C3A2B, 0x7C4E3A, 0xFBF2EE, "&Target\nPractice", "fair 40", kPictureRight},
+    {kStyleRounded, 0x5C3A2B, 0x7C4E3A, 0xFBF2EE, "&Target", "fair 40", kPictureAbove},
+    {kStyleRounded, 0x5C3A2B, 0x7C4E3A, 0xFBF2EE, "&Target", "fair 40", kPictureBelow},
+    {kStyleRounded, 0x5C3A2B, 0x7C4E3A, 0xFBF2EE, "&Target", "fair 40", kPictureBehind},
 };
 
 constexpr int kGap = 12, kWidth = 132;
@@ -79,7 +79,7 @@ QImage drawn(const Row& row, const Column& column, const QtShapes& shapes, doubl
     design.setPictureNormal(row.picture);
     design.setCheckBoxBehaviour(column.on);
     design.setValue(column.on);
-    design.setColorScheme(2);
+    design.setColorScheme(kSchemeOwn);
     button.setFixedSize(kWidth, heightOf(row));
     button.grab();  // a first drawing lays everything out
     GlintState state = button.state();

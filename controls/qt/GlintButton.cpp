@@ -1,53 +1,28 @@
 #include "controls/qt/GlintButton.h"
 
-#include <QAccessible>
-#include <QApplication>
-#include <QCursor>
-#include <QFontMetrics>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QShortcutEvent>
 #include <algorithm>
 
-#include "base/qt/QtText.h"
 #include "controls/GlintLayout.h"
 #include "controls/qt/GlintButtonInput.h"
-#include "controls/qt/GlintButtonPictures.h"
 #include "controls/qt/GlintPainter.h"
 
 namespace skylob {
 
-namespace {
-
-constexpr int kOverInterval = 3;  // milliseconds
-
-Colour toColour(const QColor& colour) {
-    return static_cast<Colour>(colour.blue()) << 16 | static_cast<Colour>(colour.green()) << 8 |
-           static_cast<Colour>(colour.red());
-}
-
-/// False where the window system keeps the pointer's place on the screen to itself.
-bool isPointerPlaceKnown() {
-    return !QGuiApplication::platformName().startsWith(QLatin1String{"wayland"});
-}
-
-}  // namespace
-
 GlintButton::GlintButton(const QString& name, const QtShapes& shapes, QWidget* parent)
     : QWidget{parent},
       m_pictures{shapes},
-      m_design{m_state, *this},
-      m_interaction{m_state, *this, *this, *this} {
+      m_host{*this, m_state, m_pictures},
+      m_design{m_state, m_host},
+      m_interaction{m_state, m_host, m_host, m_host} {
     setObjectName(name);
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
-    OverTimer.setInterval(kOverInterval);
-    OverTimer.setTimerType(Qt::PreciseTimer);
-    connect(&OverTimer, &QTimer::timeout, this, [this] { m_interaction.overTimerTick(); });
+    connect(&m_host.OverTimer, &QTimer::timeout, this, [this] { m_interaction.overTimerTick(); });
     m_interaction.initialise();
 }
-
-GlintButton::~GlintButton() = default;
 
 QString GlintButton::plainCaption() const {
     const QString marker{QChar{1}};
@@ -57,20 +32,19 @@ QString GlintButton::plainCaption() const {
 }
 
 QSize GlintButton::sizeHint() const {
-    const GlintRect caption = measureCaption(m_state.Caption, {0, 0, 1000, 1000});
+    const GlintRect caption = m_host.measureCaption(m_state.Caption, {0, 0, 1000, 1000});
     return {caption.width() + m_state.picture.width + 24,
             std::max(caption.height(), m_state.picture.height) + 24};
 }
 
 bool GlintButton::event(QEvent* event) {
     if (event->type() == QEvent::Shortcut) {
-        const auto* shortcut = static_cast<QShortcutEvent*>(event);
-        if (shortcut->shortcutId() == m_shortcut && !shortcut->isAmbiguous()) press();
+        if (m_host.isAccessKey(*static_cast<QShortcutEvent*>(event))) press();
         return true;
     }
     if (event->type() == QEvent::WindowBlocked) {
         // The release that ends a press now goes to the window above.
-        m_pressedButton = Qt::NoButton;
+        m_host.forgetPress();
         m_interaction.letGo();
     }
     return QWidget::event(event);
@@ -80,12 +54,12 @@ void GlintButton::paintEvent(QPaintEvent*) {
     QPainter painter{this};
     const QTransform toDevice = painter.deviceTransform();
     const GlintCanvas canvas{.button = m_state,
-                             .state = m_drawnState,
-                             .over = m_drawnOver,
+                             .state = m_host.drawnState(),
+                             .over = m_host.isDrawnOver(),
                              .enabled = m_state.Enabled && isEnabled(),
-                             .font = qFont(),
+                             .font = m_host.captionFont(),
                              .picture = shownPicture(toDevice.m11()),
-                             .backdrop = m_backdrop,
+                             .backdrop = m_host.backdrop(),
                              .ratio = toDevice.m11(),
                              .corner = toDevice.map(QPointF{0, 0})};
     // In device pixels, because the corner may lie between two of them.
@@ -94,7 +68,7 @@ void GlintButton::paintEvent(QPaintEvent*) {
 }
 
 void GlintButton::resizeEvent(QResizeEvent*) {
-    skylob::resize(m_state, *this);
+    skylob::resize(m_state, m_host);
 }
 
 void GlintButton::showEvent(QShowEvent*) {
@@ -102,7 +76,7 @@ void GlintButton::showEvent(QShowEvent*) {
 }
 
 void GlintButton::hideEvent(QHideEvent*) {
-    m_pressedButton = Qt::NoButton;
+    m_host.forgetPress();
     m_interaction.hide();
 }
 
@@ -110,33 +84,33 @@ void GlintButton::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange)
         m_interaction.ambientChanged();
-    if (event->type() == QEvent::EnabledChange) m_pressedButton = Qt::NoButton;
+    if (event->type() == QEvent::EnabledChange) m_host.forgetPress();
 }
 
 void GlintButton::enterEvent(QEnterEvent*) {
-    m_entered = true;
+    m_host.setEntered(true);
 }
 
 void GlintButton::leaveEvent(QEvent*) {
-    m_entered = false;
+    m_host.setEntered(false);
 }
 
 void GlintButton::mousePressEvent(QMouseEvent* event) {
     if (!isGlintButton(event->button())) return;
-    m_pressedButton = event->button();
+    m_host.press(event->button());
     m_interaction.mouseDown(glintMouse(*event, glintButton(event->button())));
 }
 
 void GlintButton::mouseReleaseEvent(QMouseEvent* event) {
     if (!isGlintButton(event->button())) return;
-    const bool clicked = event->button() == m_pressedButton && rect().contains(event->pos());
-    if (event->button() == m_pressedButton) m_pressedButton = Qt::NoButton;
+    const bool clicked = m_host.release(event->button()) && rect().contains(event->pos());
     m_interaction.mouseUp(glintMouse(*event, glintButton(event->button())));
     if (clicked) m_interaction.click();
 }
 
 void GlintButton::mouseMoveEvent(QMouseEvent* event) {
-    m_entered = rect().contains(event->pos());  // no leave event comes while a button is held
+    // No leave event comes while a button is held.
+    m_host.setEntered(rect().contains(event->pos()));
     m_interaction.mouseMove(glintMouse(*event, glintButtons(event->buttons())));
 }
 
@@ -166,133 +140,8 @@ void GlintButton::focusOutEvent(QFocusEvent*) {
     m_interaction.lostFocus();
 }
 
-void GlintButton::paint(int state, bool) {
-    // Taken down now: while it is dragged over, a button is "over" only for the one drawing.
-    m_drawnState = state;
-    m_drawnOver = m_state.IsOver;
-    update();
-    tellScreenReaders();
-}
-
-void GlintButton::tellScreenReaders() {
-    if (m_state.Value == m_toldValue) return;
-    m_toldValue = m_state.Value;
-    QAccessible::State changed;
-    changed.checked = true;
-    QAccessibleStateChangeEvent event{this, changed};
-    QAccessible::updateAccessibility(&event);
-}
-
-void GlintButton::propertyChanged(std::string_view key) {
-    emit PropertyChanged(toQt(key));
-}
-
-GlintFont GlintButton::ambientFont() const {
-    const QFont font = parentWidget() ? parentWidget()->font() : QApplication::font();
-    return {.name = font.family().toStdString(),
-            .size = static_cast<float>(QFontInfo{font}.pixelSize()),
-            .bold = font.bold(),
-            .italic = font.italic(),
-            .underline = font.underline()};
-}
-
-ContainerColours GlintButton::containerColours() const {
-    const QPalette palette = parentWidget() ? parentWidget()->palette() : QApplication::palette();
-    return {toColour(palette.color(QPalette::Window)),
-            toColour(palette.color(QPalette::WindowText))};
-}
-
-void GlintButton::setFont(const GlintFont& font) {
-    m_font = font;
-}
-
-QFont GlintButton::qFont() const {
-    QFont font;
-    font.setFamilies({QString::fromStdString(m_font.name), QStringLiteral("Noto Sans"),
-                      QStringLiteral("Open Sans"), QStringLiteral("DejaVu Sans")});
-    font.setPixelSize(std::max(1, qRound(m_font.size)));
-    font.setWeight(m_font.bold ? QFont::DemiBold : QFont::Normal);
-    font.setItalic(m_font.italic);
-    font.setUnderline(m_font.underline);
-    return font;
-}
-
-void GlintButton::setMousePointer(std::int16_t shape) {
-    m_pointerShape = shape;
-    updateMousePointer();
-}
-
-void GlintButton::setMouseIcon(const PictureReference& picture) {
-    m_mouseIcon = picture;
-    updateMousePointer();
-}
-
-void GlintButton::updateMousePointer() {
-    if (m_pointerShape == 0) {
-        unsetCursor();  // whatever the form shows
-        return;
-    }
-    QImage icon = m_pictures.at(m_mouseIcon, devicePixelRatioF());
-    icon.setDevicePixelRatio(devicePixelRatioF());
-    setCursor(glintCursor(m_pointerShape, icon));
-}
-
-void GlintButton::setAccessKeyFrom(const std::string& caption) {
-    if (m_shortcut != 0) releaseShortcut(m_shortcut);
-    const auto key = QKeySequence::mnemonic(QString::fromStdString(caption));
-    m_shortcut = key.isEmpty() ? 0 : grabShortcut(key);
-    if (m_shortcut != 0) setShortcutAutoRepeat(m_shortcut, false);
-    QAccessibleEvent renamed{this, QAccessible::NameChanged};
-    QAccessible::updateAccessibility(&renamed);
-}
-
-GlintSize GlintButton::measurePicture(const PictureReference& picture) const {
-    const QSize size = m_pictures.size(picture);
-    return {size.width(), size.height()};
-}
-
-GlintRect GlintButton::measureCaption(const std::string& caption, const GlintRect& bounds) const {
-    if (caption.empty()) return {bounds.left, bounds.top, bounds.left, bounds.top};
-    const QRect size = QFontMetrics{qFont()}.boundingRect(
-        QRect{0, 0, std::max(1, bounds.width()), std::max(1, bounds.height())},
-        Qt::TextWordWrap | Qt::TextShowMnemonic, QString::fromStdString(caption));
-    return {bounds.left, bounds.top, bounds.left + size.width(), bounds.top + size.height()};
-}
-
-void GlintButton::setRegion(const std::vector<GlintPixel>& removed) {
-    if (removed.empty()) {
-        clearMask();
-        return;
-    }
-    QRegion region{rect()};
-    for (const GlintPixel& pixel : removed) region -= QRect{pixel.x, pixel.y, 1, 1};
-    setMask(region);
-}
-
-void GlintButton::captureBackground() {
-    if (!parentWidget()) return;
-    const qreal ratio = devicePixelRatioF();
-    m_backdrop = QImage{size() * ratio, QImage::Format_RGB32};
-    m_backdrop.setDevicePixelRatio(ratio);
-    m_backdrop.fill(Qt::black);
-    parentWidget()->render(&m_backdrop, {}, geometry(), DrawWindowBackground);
-    m_backdrop.setDevicePixelRatio(1);
-}
-
-bool GlintButton::IsPointerInside() const {
-    return isPointerPlaceKnown() ? QApplication::widgetAt(QCursor::pos()) == this
-                                 : m_entered && isVisible();
-}
-
-void GlintButton::runOverTimer(bool run) {
-    if (run)
-        OverTimer.start();
-    else
-        OverTimer.stop();
-}
-
-QImage GlintButton::shownPicture(qreal ratio) const {
-    const bool over = m_drawnOver && !m_state.PictureOver.empty();
+QImage GlintButton::shownPicture(qreal ratio) {
+    const bool over = m_host.isDrawnOver() && !m_state.PictureOver.empty();
     return m_pictures.at(over ? m_state.PictureOver : m_state.PictureNormal, ratio);
 }
 

@@ -9,11 +9,11 @@ namespace skylob {
 std::int16_t glintButton(Qt::MouseButton button) {
     switch (button) {
         case Qt::LeftButton:
-            return 1;
+            return kMouseLeft;
         case Qt::RightButton:
-            return 2;
+            return kMouseRight;
         case Qt::MiddleButton:
-            return 4;
+            return kMouseMiddle;
         default:
             return 0;
     }
@@ -28,9 +28,9 @@ std::int16_t glintButtons(Qt::MouseButtons buttons) {
 
 std::int16_t glintShift(Qt::KeyboardModifiers modifiers) {
     int sum = 0;
-    if (modifiers & Qt::ShiftModifier) sum += 1;
-    if (modifiers & Qt::ControlModifier) sum += 2;
-    if (modifiers & Qt::AltModifier) sum += 4;
+    if (modifiers & Qt::ShiftModifier) sum += kHeldShift;
+    if (modifiers & Qt::ControlModifier) sum += kHeldControl;
+    if (modifiers & Qt::AltModifier) sum += kHeldAlt;
     return static_cast<std::int16_t>(sum);
 }
 
@@ -114,7 +114,7 @@ QCursor glintCursor(std::int16_t shape, const QImage& icon) {
             return Qt::BusyCursor;
         case 14:
             return Qt::WhatsThisCursor;
-        case 99:
+        case kOwnShape:
             return icon.isNull() ? QCursor{} : QCursor{QPixmap::fromImage(icon)};
         default:
             return {};

@@ -15,7 +15,7 @@ struct GlintCanvas {
     bool enabled = true;
     QFont font;
     QImage picture;       ///< to be shown now, in device pixels; null for none
-    QImage backdrop;      ///< style 11: what lies behind the button, in device pixels
+    QImage backdrop;      ///< kStyleGlass: what lies behind the button, in device pixels
     qreal ratio = 1;      ///< device pixels per logical one
     QPointF corner = {};  ///< the button's upper left one in device pixels, not always whole
 };

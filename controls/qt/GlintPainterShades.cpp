@@ -19,6 +19,11 @@ QColor mix(const QColor& from, const QColor& to, double part) {
                   channel(from.blue(), to.blue())};
 }
 
+QColor withAlpha(QColor colour, int alpha) {
+    colour.setAlpha(alpha);
+    return colour;
+}
+
 GlintShades::GlintShades(const GlintCanvas& canvas) {
     const GlintPalette& palette = canvas.button.palette;
     const bool hover = canvas.over && canvas.enabled;

@@ -10,16 +10,14 @@
 namespace skylob::test {
 
 /// A form that is one text, "KEY=value;" for each entry. Of fonts it keeps the name alone.
-class TextBag : public PropertyBag {
-  public:
+struct TextBag : PropertyBag {
     explicit TextBag(std::string form = {}) : text{std::move(form)} {}
 
     std::string readText(std::string_view key, const std::string& fallback) const override {
-        const std::string entry = ";" + std::string{key} + "=";
-        const std::size_t at = (";" + text).find(entry);
-        if (at == std::string::npos) return fallback;
-        const std::size_t start = at + entry.size() - 1;
-        return text.substr(start, text.find(';', start) - start);
+        std::istringstream entries{text};
+        for (std::string entry; std::getline(entries, entry, ';');)
+            if (entry.starts_with(std::string{key} + "=")) return entry.substr(key.size() + 1);
+        return fallback;
     }
     std::int32_t readInteger(std::string_view key, std::int32_t fallback) const override {
         return std::stoi(readText(key, std::to_string(fallback)));
@@ -37,8 +35,8 @@ class TextBag : public PropertyBag {
         writeText(key, std::to_string(value));
     }
     void writeBoolean(std::string_view key, bool value) override { writeInteger(key, value); }
-    void writeFont(std::string_view key, const GlintFont& value) override {
-        writeText(key, value.name);
+    void writeFont(std::string_view key, const GlintFont& font) override {
+        writeText(key, font.name);
     }
 
     std::string text;
@@ -57,7 +55,7 @@ static std::string effects(void (GlintDesign::*set)(Value),
                            const std::type_identity_t<Value>& value) {
     GlintRig rig;
     rig.button.IsShown = true;
-    rig.button.currentState = kStatePressed;
+    rig.button.currentState = 2;
     std::istringstream before{written(rig)};
     (rig.design.*set)(value);
     std::istringstream after{written(rig)};
@@ -101,7 +99,7 @@ TEST(GlintDesign, SetsOffItsEffectsInOrder) {
     GlintRig rig;
     rig.button.PictureNormal = "x";
     rig.button.IsOver = rig.button.CheckBoxBehaviour = true;
-    rig.button.currentState = kStatePressed;
+    rig.button.currentState = 2;
     rig.design.setUseMaskColor(true);
     rig.design.setUseGreyscale(true);
     rig.design.setPictureOver("y");
@@ -142,44 +140,42 @@ TEST(GlintDesign, ComesFromItsFormAndGoesBack) {
 }
 
 TEST(GlintDesign, TakesHoverColoursAlongOnlyAtDesignTime) {
+    using Colours = std::vector<Colour>;  // first the faces', then the captions'
     GlintRig rig;
+    const auto over = [&] { return Colours{rig.button.BackOver, rig.button.ForeOver}; };
+    const auto drawn = [&] {
+        const GlintPalette& palette = rig.button.palette;
+        return Colours{palette.FaceOverColour, palette.TextOverColour, palette.MaskRGB};
+    };
     rig.button.ColorScheme = 2;
     rig.design.setBackColor(0x111111);
     rig.design.setForeColor(0x222222);
-    EXPECT_EQ(rig.button.BackOver | rig.button.ForeOver, 0u);
+    EXPECT_EQ(over(), (Colours{0, 0}));
     EXPECT_EQ(rig.button.palette.FaceColour, 0x111111u);
     EXPECT_EQ(rig.button.palette.TextColour, 0x222222u);
     rig.userMode = false;
     rig.design.setBackColor(0x333333);
     rig.design.setForeColor(0x444444);
-    EXPECT_EQ(rig.button.BackOver, 0x333333u);
-    EXPECT_EQ(rig.button.ForeOver, 0x444444u);
-    EXPECT_EQ(rig.button.palette.TextOverColour, 0x444444u);
+    EXPECT_EQ(over(), (Colours{0x333333, 0x444444}));
+    EXPECT_EQ(drawn(), (Colours{0x333333, 0x444444, 0}));
     // The palette learns of these only when it is made anew.
     rig.design.setBackOver(0x555555);
     rig.design.setForeOver(0x777777);
     rig.design.setMaskColor(0x666666);
-    EXPECT_EQ(rig.button.palette.FaceOverColour, 0x333333u);
-    EXPECT_EQ(rig.button.palette.TextOverColour, 0x444444u);
-    EXPECT_EQ(rig.button.palette.MaskRGB, 0u);
+    EXPECT_EQ(drawn(), (Colours{0x333333, 0x444444, 0}));
     rig.interaction.ambientChanged();
-    EXPECT_EQ(rig.button.palette.FaceOverColour, 0x555555u);
-    EXPECT_EQ(rig.button.palette.TextOverColour, 0x777777u);
-    EXPECT_EQ(rig.button.palette.MaskRGB, 0x666666u);
+    EXPECT_EQ(drawn(), (Colours{0x555555, 0x777777, 0x666666}));
 }
 
 TEST(GlintDesign, PlacesANewButtonBlackOnBlack) {
     GlintRig rig;
     rig.design.initialiseProperties();
     EXPECT_EQ(rig.taken(), "font;palette;layout;");
-    const GlintState& b = rig.button;
-    EXPECT_TRUE(b.Enabled && b.ShowFocusRect && b.UseMaskColor);
-    EXPECT_EQ(b.Caption + rig.surfaceFont.name, "cmdNewAmbient");
-    EXPECT_EQ(b.ButtonType, 14);
-    EXPECT_EQ(b.ColorScheme, 2);
-    EXPECT_EQ(b.BackColor | b.BackOver | b.ForeColor | b.ForeOver, 0u);
-    EXPECT_EQ(b.MaskColor, 0xC0C0C0u);
-    EXPECT_EQ(b.palette.MaskRGB, 0u);
+    EXPECT_EQ(written(rig),
+              "BTYPE=14;TX=cmdNew;ENAB=1;FONT=Ambient;COLTYPE=2;FOCUSR=1;BCOL=0;BCOLO=0;FCOL=0;"
+              "FCOLO=0;MCOL=12632256;MPTR=0;MICON=;PICN=;PICH=;UMCOL=1;SOFT=0;PICPOS=0;NGREY=0;"
+              "FX=0;CHECK=0;VALUE=0;");
+    EXPECT_EQ(rig.button.palette.MaskRGB, 0u);
 }
 
 TEST(GlintLayout, PlacesCaptionAndPicture) {

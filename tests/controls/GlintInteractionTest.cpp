@@ -6,145 +6,128 @@
 
 namespace skylob::test {
 
+using I = GlintInteraction;
+
 constexpr GlintMouse kLeft{1, 2, 30, 10}, kRight{2, 0, 30, 10}, kNone{0, 0, 30, 10};
 
 TEST(GlintInteraction, ClicksWithTheLeftButton) {
     GlintRig rig;
     rig.button.Enabled = true;
-    rig.interaction.mouseDown(kLeft);
-    rig.interaction.mouseUp(kLeft);
-    rig.interaction.click();
-    EXPECT_EQ(rig.taken(),
-              "MouseDown 1 2 30 10;Redraw(2, false);MouseUp 1 2 30 10;"
-              "Redraw(0, false);Redraw(0, true);Click;");
+    EXPECT_EQ(rig.after(&I::mouseDown, kLeft), "MouseDown 1 2 30 10;Redraw(2, false);");
+    EXPECT_EQ(rig.after(&I::mouseUp, kLeft), "MouseUp 1 2 30 10;Redraw(0, false);");
+    EXPECT_EQ(rig.after(&I::click), "Redraw(0, true);Click;");
     EXPECT_FALSE(rig.button.Value);  // no check box
     rig.button.Enabled = false;
-    rig.interaction.click();
-    EXPECT_EQ(rig.taken(), "");
-    rig.interaction.doubleClick();
-    EXPECT_EQ(rig.taken(), "MouseDown 1 0 0 0;Redraw(2, false);capture mouse;");
+    EXPECT_EQ(rig.after(&I::click), "");
+    EXPECT_EQ(rig.after(&I::doubleClick), "MouseDown 1 0 0 0;Redraw(2, false);capture mouse;");
 }
 
 TEST(GlintInteraction, ShowsNothingOfTheRightButton) {
     GlintRig rig;
     rig.button.Enabled = true;
-    rig.interaction.mouseDown(kRight);
-    rig.interaction.mouseMove(kRight);
-    rig.interaction.mouseUp(kRight);
-    rig.interaction.click();
-    rig.interaction.doubleClick();
-    rig.interaction.mouseMove({1 + 2, 0, 1, 1});
-    EXPECT_EQ(rig.taken(),
-              "MouseDown 2 0 30 10;MouseMove 2 0 30 10;MouseUp 2 0 30 10;MouseMove 3 0 1 1;");
+    EXPECT_EQ(rig.after(&I::mouseDown, kRight), "MouseDown 2 0 30 10;");
+    EXPECT_EQ(rig.after(&I::mouseMove, kRight), "MouseMove 2 0 30 10;");
+    EXPECT_EQ(rig.after(&I::mouseUp, kRight), "MouseUp 2 0 30 10;");
+    EXPECT_EQ(rig.after(&I::click), "");
+    EXPECT_EQ(rig.after(&I::doubleClick), "");
+    EXPECT_EQ(rig.after(&I::mouseMove, {1 + 2, 0, 1, 1}), "MouseMove 3 0 1 1;");
     // Other buttons press, but do not click.
-    rig.interaction.mouseDown({4, 0, 1, 1});
-    rig.interaction.click();
-    EXPECT_EQ(rig.taken(), "MouseDown 4 0 1 1;Redraw(2, false);");
+    EXPECT_EQ(rig.after(&I::mouseDown, {4, 0, 1, 1}), "MouseDown 4 0 1 1;Redraw(2, false);");
+    EXPECT_EQ(rig.after(&I::click), "");
 }
 
 TEST(GlintInteraction, HoversWhileThePointerIsInside) {
     GlintRig rig;
-    rig.interaction.mouseMove(kNone);
-    EXPECT_EQ(rig.taken(), "MouseMove 0 0 30 10;MouseIn;timer on;Redraw(0, true);MouseOver;");
+    EXPECT_EQ(rig.after(&I::mouseMove, kNone),
+              "MouseMove 0 0 30 10;MouseIn;timer on;Redraw(0, true);MouseOver;");
     EXPECT_TRUE(rig.drawnOver);
-    rig.interaction.mouseMove(kNone);
-    rig.interaction.overTimerTick();
-    EXPECT_EQ(rig.taken(), "MouseMove 0 0 30 10;");
+    EXPECT_EQ(rig.after(&I::mouseMove, kNone), "MouseMove 0 0 30 10;");
+    EXPECT_EQ(rig.after(&I::overTimerTick), "");
     rig.inside = false;
-    rig.interaction.overTimerTick();
-    EXPECT_EQ(rig.taken(), "timer off;Redraw(0, true);MouseOut;");
+    EXPECT_EQ(rig.after(&I::overTimerTick), "timer off;Redraw(0, true);MouseOut;");
     EXPECT_FALSE(rig.drawnOver);
-    rig.interaction.mouseMove(kNone);  // over another window on top of the button
-    EXPECT_EQ(rig.taken(), "MouseMove 0 0 30 10;Redraw(0, false);");
+    // Over another window on top of the button.
+    EXPECT_EQ(rig.after(&I::mouseMove, kNone), "MouseMove 0 0 30 10;Redraw(0, false);");
 }
 
 TEST(GlintInteraction, FollowsADragOffAndBackOn) {
     GlintRig rig;
-    rig.interaction.mouseDown(kLeft);
-    rig.taken();
+    rig.after(&I::mouseDown, kLeft);
     for (int move = 0; move < 2; ++move) {
-        rig.interaction.mouseMove(kLeft);
-        EXPECT_EQ(rig.taken(), "MouseMove 1 2 30 10;MouseIn;Redraw(2, false);");
-        EXPECT_TRUE(rig.drawnOver && !rig.button.IsOver);
+        EXPECT_EQ(rig.after(&I::mouseMove, kLeft), "MouseMove 1 2 30 10;MouseIn;Redraw(2, false);");
+        EXPECT_TRUE(rig.drawnOver);
+        EXPECT_FALSE(rig.button.IsOver);
     }
     rig.inside = false;
-    rig.interaction.mouseMove(kLeft);
-    EXPECT_EQ(rig.taken(), "MouseMove 1 2 30 10;Redraw(0, false);");
+    EXPECT_EQ(rig.after(&I::mouseMove, kLeft), "MouseMove 1 2 30 10;Redraw(0, false);");
 }
 
 TEST(GlintInteraction, ForgetsTheHoverInAClickThatMoves) {
     GlintRig rig;
     rig.button.Enabled = true;
-    rig.interaction.mouseMove(kNone);
-    rig.interaction.mouseDown(kLeft);
-    rig.interaction.mouseMove(kLeft);
-    rig.taken();
-    rig.interaction.mouseUp(kLeft);
-    rig.interaction.click();
-    EXPECT_EQ(rig.taken(), "MouseUp 1 2 30 10;Redraw(0, false);Redraw(0, true);Click;");
+    rig.after(&I::mouseMove, kNone);
+    rig.after(&I::mouseDown, kLeft);
+    rig.after(&I::mouseMove, kLeft);
+    EXPECT_EQ(rig.after(&I::mouseUp, kLeft), "MouseUp 1 2 30 10;Redraw(0, false);");
+    EXPECT_EQ(rig.after(&I::click), "Redraw(0, true);Click;");
     EXPECT_FALSE(rig.drawnOver);
-    rig.interaction.mouseMove(kNone);  // the timer has gone on
-    EXPECT_EQ(rig.taken(), "MouseMove 0 0 30 10;timer on;Redraw(0, true);MouseOver;");
+    EXPECT_EQ(rig.after(&I::mouseMove, kNone),  // the timer has gone on
+              "MouseMove 0 0 30 10;timer on;Redraw(0, true);MouseOver;");
     EXPECT_TRUE(rig.drawnOver);
 }
 
 TEST(GlintInteraction, TogglesTheFieldAlone) {
     GlintRig rig;
     rig.button.Enabled = rig.button.CheckBoxBehaviour = true;
-    rig.interaction.accessKey();
-    EXPECT_EQ(rig.taken(), "Redraw(0, true);Click;");
-    EXPECT_TRUE(rig.button.Value && rig.drawnValue);
-    rig.interaction.keyDown(32, 0);
-    rig.interaction.keyPress(32);
-    rig.interaction.keyUp(32, 0);
-    EXPECT_EQ(rig.taken(),
-              "KeyDown 32 0;Redraw(2, false);KeyPress 32;KeyUp 32 0;Redraw(0, false);Click;");
-    EXPECT_FALSE(rig.button.Value || rig.drawnValue);
+    EXPECT_EQ(rig.after(&I::accessKey), "Redraw(0, true);Click;");
+    EXPECT_TRUE(rig.button.Value);
+    EXPECT_TRUE(rig.drawnValue);
+    EXPECT_EQ(rig.after(&I::keyDown, 32, 0), "KeyDown 32 0;Redraw(2, false);");
+    EXPECT_EQ(rig.after(&I::keyPress, 32), "KeyPress 32;");
+    EXPECT_EQ(rig.after(&I::keyUp, 32, 0), "KeyUp 32 0;Redraw(0, false);Click;");
+    EXPECT_FALSE(rig.button.Value);
+    EXPECT_FALSE(rig.drawnValue);
 }
 
 TEST(GlintInteraction, TakesOnlyAWholeSpace) {
     GlintRig rig;  // not even enabled: the space bar does not ask
-    rig.interaction.keyDown(13, 1);
-    rig.interaction.keyUp(13, 1);
-    rig.interaction.keyUp(32, 0);
-    EXPECT_EQ(rig.taken(), "KeyDown 13 1;KeyUp 13 1;KeyUp 32 0;");
-    rig.interaction.keyDown(32, 0);
-    rig.interaction.keyDown(65, 0);
-    rig.interaction.keyUp(32, 0);
-    EXPECT_EQ(rig.taken(), "KeyDown 32 0;Redraw(2, false);KeyDown 65 0;KeyUp 32 0;");
-    rig.interaction.keyDown(256 + 32, 0);  // its low byte is a space's, it is none itself
-    rig.interaction.keyUp(32, 0);
-    EXPECT_EQ(rig.taken(), "KeyDown 288 0;KeyUp 32 0;Redraw(0, false);Click;");
+    EXPECT_EQ(rig.after(&I::keyDown, 13, 1), "KeyDown 13 1;");
+    EXPECT_EQ(rig.after(&I::keyUp, 13, 1), "KeyUp 13 1;");
+    EXPECT_EQ(rig.after(&I::keyUp, 32, 0), "KeyUp 32 0;");
+    EXPECT_EQ(rig.after(&I::keyDown, 32, 0), "KeyDown 32 0;Redraw(2, false);");
+    EXPECT_EQ(rig.after(&I::keyDown, 65, 0), "KeyDown 65 0;");
+    EXPECT_EQ(rig.after(&I::keyUp, 32, 0), "KeyUp 32 0;");
+    // The low byte of this one is a space's, it is none itself.
+    EXPECT_EQ(rig.after(&I::keyDown, 256 + 32, 0), "KeyDown 288 0;");
+    EXPECT_EQ(rig.after(&I::keyUp, 32, 0), "KeyUp 32 0;Redraw(0, false);Click;");
 }
 
 TEST(GlintInteraction, RedrawsForFocusAndColoursAsItIs) {
     GlintRig rig;
-    rig.interaction.keyDown(32, 0);
-    rig.taken();
+    rig.after(&I::keyDown, 32, 0);
     // The space bar will come up elsewhere: the button stays pressed, with and without the focus.
-    rig.interaction.lostFocus();
+    EXPECT_EQ(rig.after(&I::lostFocus), "Redraw(2, true);");
     EXPECT_FALSE(rig.button.HasFocus);
-    rig.interaction.gotFocus();
+    EXPECT_EQ(rig.after(&I::gotFocus), "Redraw(2, true);");
     EXPECT_TRUE(rig.button.HasFocus);
-    rig.interaction.ambientChanged();
-    EXPECT_EQ(rig.taken(), "Redraw(2, true);Redraw(2, true);palette;Redraw(2, true);");
-    rig.interaction.mouseMove(kNone);
-    EXPECT_EQ(rig.button.currentState, kStateUp);
+    EXPECT_EQ(rig.after(&I::ambientChanged), "palette;Redraw(2, true);");
+    rig.after(&I::mouseMove, kNone);
+    EXPECT_EQ(rig.button.currentState, 0);
 }
 
 TEST(GlintInteraction, ShowsUpWithAPaletteOfItsOwn) {
     GlintRig rig;
     rig.button.ColorScheme = 4;
-    rig.button.currentState = kStatePressed;
-    rig.interaction.show();
-    EXPECT_EQ(rig.taken(), "palette;Redraw(0, true);");
+    rig.button.currentState = 2;
+    EXPECT_EQ(rig.after(&I::show), "palette;Redraw(0, true);");
     EXPECT_EQ(rig.button.palette.FaceColour, 0x302010u);
-    rig.interaction.hide();
+    EXPECT_EQ(rig.after(&I::hide), "");
     EXPECT_FALSE(rig.button.IsShown);
     rig.button.ButtonType = 11;
-    rig.interaction.show();  // the resize that the capture causes has no effect
-    EXPECT_EQ(rig.taken(), "capture background;palette;Redraw(0, true);");
-    EXPECT_TRUE(rig.button.IsShown && !rig.button.CaptureBusy);
+    EXPECT_EQ(rig.after(&I::show),  // the resize that the capture causes has no effect
+              "capture background;palette;Redraw(0, true);");
+    EXPECT_TRUE(rig.button.IsShown);
+    EXPECT_FALSE(rig.button.CaptureBusy);
 }
 
 }  // namespace skylob::test

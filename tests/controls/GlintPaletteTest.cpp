@@ -105,21 +105,25 @@ TEST(TransferPicture, LeavesTheFaceWhereThePictureIsTransparent) {
 }
 
 TEST(TransferPicture, HasItsEffects) {
-    const auto ofBlack = [](const Bytes& picture, const TransferEffects& effects) {
-        return transferred(picture, {0, 0, 0}, effects);
+    struct Row {
+        Bytes picture;
+        TransferEffects effects;
+        Bytes onBlack;
     };
-    EXPECT_EQ(ofBlack({128, 128, 128}, {.darkOnly = true}), (Bytes{128, 128, 128}));
-    EXPECT_EQ(ofBlack({129, 128, 128}, {.darkOnly = true}), (Bytes{0, 0, 0}));
-    EXPECT_EQ(ofBlack({30, 20, 10}, {.ghost = true, .greyscale = true}), (Bytes{18, 18, 18}));
-    // Red 15 * 0.3 = 4.5 goes to 4. Red 5 * 0.3 = 1.5 goes to 2 by itself, 2 + 0.59 = 2.59 to 3,
-    // where one sum of 2.09 would give 2.
-    EXPECT_EQ(ofBlack({0, 0, 15}, {.ghost = true, .greyscale = true}), (Bytes{4, 4, 4}));
-    EXPECT_EQ(ofBlack({0, 1, 5}, {.ghost = true, .greyscale = true}), (Bytes{3, 3, 3}));
-    // Greyscale goes before blend; neither acts without ghost; ghost alone copies.
-    EXPECT_EQ(ofBlack({30, 20, 10}, {.ghost = true, .greyscale = true, .blend = true}),
-              (Bytes{18, 18, 18}));
-    EXPECT_EQ(ofBlack({30, 20, 10}, {.greyscale = true, .blend = true}), (Bytes{30, 20, 10}));
-    EXPECT_EQ(ofBlack({250, 250, 250}, {.ghost = true, .darkOnly = true}), (Bytes{250, 250, 250}));
+    for (const Row& row : {
+             Row{{128, 128, 128}, {.darkOnly = true}, {128, 128, 128}},
+             Row{{129, 128, 128}, {.darkOnly = true}, {0, 0, 0}},
+             Row{{30, 20, 10}, {.ghost = true, .greyscale = true}, {18, 18, 18}},
+             // Red 15 * 0.3 = 4.5 goes to 4. Red 5 * 0.3 = 1.5 goes to 2 by itself, 2 + 0.59 =
+             // 2.59 to 3, where one sum of 2.09 would give 2.
+             Row{{0, 0, 15}, {.ghost = true, .greyscale = true}, {4, 4, 4}},
+             Row{{0, 1, 5}, {.ghost = true, .greyscale = true}, {3, 3, 3}},
+             // Greyscale goes before blend; neither acts without ghost; ghost alone copies.
+             Row{{30, 20, 10}, {.ghost = true, .greyscale = true, .blend = true}, {18, 18, 18}},
+             Row{{30, 20, 10}, {.greyscale = true, .blend = true}, {30, 20, 10}},
+             Row{{250, 250, 250}, {.ghost = true, .darkOnly = true}, {250, 250, 250}},
+         })
+        EXPECT_EQ(transferred(row.picture, {0, 0, 0}, row.effects), row.onBlack);
 }
 
 TEST(TransferPicture, KeepsToItsRows) {

@@ -2,6 +2,8 @@
 
 #include <sstream>
 #include <string>
+#include <type_traits>
+#include <utility>
 #include <vector>
 
 #include "controls/GlintDesign.h"
@@ -10,16 +12,20 @@
 
 namespace skylob::test {
 
+inline std::ostream& operator<<(std::ostream& out, const GlintMouse& mouse) {
+    return out << mouse.button << ' ' << mouse.shift << ' ' << mouse.x << ' ' << mouse.y;
+}
+
 /// A button of 100 x 40 pixels whose surface, pointer and form write all that happens into one
 /// log. A caption takes 7 pixels for each of its bytes in one line of 10.
 class GlintRig : public GlintSurface, public GlintPointer, public GlintEvents {
   public:
     void paint(int state, bool flag) override {
-        note("Redraw(" + std::to_string(state) + (flag ? ", true)" : ", false)"));
+        note("Redraw(", state, flag ? ", true)" : ", false)");
         drawnOver = button.IsOver;
         drawnValue = button.Value;
     }
-    void propertyChanged(std::string_view key) override { note("mark " + std::string{key}); }
+    void propertyChanged(std::string_view key) override { note("mark ", key); }
     bool isUserMode() const override { return userMode; }
     std::string displayName() const override { return "cmdNew"; }
     GlintFont ambientFont() const override { return {.name = "Ambient", .size = 13}; }
@@ -28,21 +34,12 @@ class GlintRig : public GlintSurface, public GlintPointer, public GlintEvents {
         return {0x302010, 0xFFFFFF};
     }
     GlintFont font() const override { return surfaceFont; }
-    void setFont(const GlintFont& font) override {
-        note("font");
-        surfaceFont = font;
-    }
+    void setFont(const GlintFont& font) override { keep("font", surfaceFont, font); }
     void setEnabled(bool enabled) override { note(enabled ? "enabled" : "disabled"); }
     std::int16_t mousePointer() const override { return pointerShape; }
-    void setMousePointer(std::int16_t shape) override {
-        note("pointer");
-        pointerShape = shape;
-    }
+    void setMousePointer(std::int16_t shape) override { keep("pointer", pointerShape, shape); }
     PictureReference mouseIcon() const override { return icon; }
-    void setMouseIcon(const PictureReference& picture) override {
-        note("icon");
-        icon = picture;
-    }
+    void setMouseIcon(const PictureReference& picture) override { keep("icon", icon, picture); }
     void setAccessKeyFrom(const std::string&) override { note("access key"); }
     GlintSize measurePicture(const PictureReference& picture) const override {
         note("measure");
@@ -54,9 +51,7 @@ class GlintRig : public GlintSurface, public GlintPointer, public GlintEvents {
         return {bounds.left, bounds.top, bounds.left + width, bounds.top + 10};
     }
     GlintSize clientSize() const override { return client; }
-    void setRegion(const std::vector<GlintPixel>& removed) override {
-        note("region " + std::to_string(removed.size()));
-    }
+    void setRegion(const std::vector<GlintPixel>& cut) override { note("region ", cut.size()); }
     void captureBackground() override {
         note("capture background");
         resize(button, *this);
@@ -64,29 +59,32 @@ class GlintRig : public GlintSurface, public GlintPointer, public GlintEvents {
 
     bool IsPointerInside() const override { return inside; }
     bool isOverTimerRunning() const override { return timerRuns; }
-    void runOverTimer(bool run) override {
-        note(run ? "timer on" : "timer off");
-        timerRuns = run;
-    }
+    void runOverTimer(bool run) override { keep(run ? "timer on" : "timer off", timerRuns, run); }
     void captureMouse() override { note("capture mouse"); }
 
     void raiseClick() override { note("Click"); }
-    void raiseMouseDown(const GlintMouse& mouse) override { note("MouseDown", mouse); }
-    void raiseMouseMove(const GlintMouse& mouse) override { note("MouseMove", mouse); }
-    void raiseMouseUp(const GlintMouse& mouse) override { note("MouseUp", mouse); }
-    void raiseKeyPress(std::int16_t key) override { note("KeyPress " + std::to_string(key)); }
-    void raiseKeyDown(std::int16_t key, std::int16_t shift) override {
-        note("KeyDown " + std::to_string(key) + " " + std::to_string(shift));
+    void raiseMouseDown(const GlintMouse& mouse) override { note("MouseDown ", mouse); }
+    void raiseMouseMove(const GlintMouse& mouse) override { note("MouseMove ", mouse); }
+    void raiseMouseUp(const GlintMouse& mouse) override { note("MouseUp ", mouse); }
+    void raiseKeyPress(std::int16_t key) override { note("KeyPress ", key); }
+    void raiseKeyDown(std::int16_t key, std::int16_t on) override {
+        note("KeyDown ", key, ' ', on);
     }
-    void raiseKeyUp(std::int16_t key, std::int16_t shift) override {
-        note("KeyUp " + std::to_string(key) + " " + std::to_string(shift));
-    }
+    void raiseKeyUp(std::int16_t key, std::int16_t on) override { note("KeyUp ", key, ' ', on); }
     void raiseMouseOver() override { note("MouseOver"); }
     void raiseMouseIn() override { note("MouseIn"); }
     void raiseMouseOut() override { note("MouseOut"); }
 
     /// What has happened since the last call, each followed by a semicolon.
     std::string taken() { return std::exchange(log, {}); }
+
+    /// The same once something more is reported to the button.
+    template <typename... Values>
+    std::string after(void (GlintInteraction::*report)(Values...),
+                      const std::type_identity_t<Values>&... values) {
+        (interaction.*report)(values...);
+        return taken();
+    }
 
     GlintState button;
     bool userMode = true, inside = true, timerRuns = false;
@@ -100,12 +98,17 @@ class GlintRig : public GlintSurface, public GlintPointer, public GlintEvents {
     GlintInteraction interaction{button, *this, *this, *this};
 
   private:
-    void note(const std::string& what) const { log += what + ";"; }
-    void note(const char* event, const GlintMouse& mouse) const {
+    template <typename... Words>
+    void note(const Words&... words) const {
         std::ostringstream text;
-        text << event << ' ' << mouse.button << ' ' << mouse.shift << ' ' << mouse.x << ' '
-             << mouse.y;
-        note(text.str());
+        (text << ... << words) << ';';
+        log += text.str();
+    }
+
+    template <typename Value>
+    void keep(const char* what, Value& place, const Value& value) {
+        note(what);
+        place = value;
     }
 
     mutable std::string log;

@@ -1,17 +1,15 @@
 #include "controls/qt/GlintButton.h"
 
-#include <unistd.h>
-
 #include <QAccessible>
 #include <QDialog>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QTemporaryFile>
 #include <QTest>
 
 #include "controls/qt/GlintButtonAccessible.h"
 #include "controls/qt/QtPropertyBagFile.h"
 #include "look/qt/QtShapes.h"
+#include "tests/support/CapturedErrors.h"
 
 using namespace skylob;
 
@@ -26,10 +24,9 @@ struct Form {
             button->design().initialiseProperties();
             button->design().setBackColor(0x735F16);
             button->design().setForeColor(0xFFFFFF);
+            button->setGeometry(20, button == &first ? 20 : 100, 100, 40);
         }
-        first.setGeometry(20, 20, 100, 40);
         first.design().setCaption("&First");
-        second.setGeometry(20, 100, 100, 40);
         second.design().setCaption("Second");
         note(&GlintButton::Click, "Click");
         note(&GlintButton::MouseDown, "MouseDown");
@@ -56,6 +53,19 @@ struct Form {
         QApplication::sendEvent(&first, &move);
     }
     QString taken() { return std::exchange(events, {}).join(' '); }
+    QString pressed(Qt::MouseButton button) {
+        QTest::mousePress(&first, button);
+        return taken();
+    }
+    QString released(Qt::MouseButton button, QPoint place = {}) {
+        QTest::mouseRelease(&first, button, {}, place);
+        return taken();
+    }
+    QString clicked(Qt::MouseButton button) {
+        QTest::mouseClick(&first, button);
+        return taken();
+    }
+    int drawn() const { return first.state().currentState; }
     QRgb faceColour() { return first.grab().toImage().pixel(50, 35); }
 
     const QtShapes shapes{programDrawings()};
@@ -72,58 +82,52 @@ class GlintButtonTest : public QObject {
   private slots:
     void clicksOnceForEachPressAndRelease() {
         Form form;
-        QTest::mouseClick(&form.first, Qt::LeftButton);
-        QCOMPARE(form.taken(), QString{"MouseDown MouseUp Click"});
-        QTest::mouseClick(&form.first, Qt::RightButton);
-        QCOMPARE(form.taken(), QString{"MouseDown MouseUp"});
+        QCOMPARE(form.clicked(Qt::LeftButton), QString{"MouseDown MouseUp Click"});
+        QCOMPARE(form.released(Qt::LeftButton), QString{"MouseUp"});  // the press is used up
+        QCOMPARE(form.clicked(Qt::RightButton), QString{"MouseDown MouseUp"});
         // The second press of a double click arrives as such, and its release ends in a click.
-        QTest::mouseClick(&form.first, Qt::LeftButton);
+        QCOMPARE(form.clicked(Qt::LeftButton), QString{"MouseDown MouseUp Click"});
         QTest::mouseDClick(&form.first, Qt::LeftButton);
-        QTest::mouseRelease(&form.first, Qt::LeftButton);
-        QCOMPARE(form.taken(), QString{"MouseDown MouseUp Click MouseDown MouseUp Click"});
-        QTest::mousePress(&form.first, Qt::LeftButton);
+        QCOMPARE(form.released(Qt::LeftButton), QString{"MouseDown MouseUp Click"});
+        QCOMPARE(form.pressed(Qt::LeftButton), QString{"MouseDown"});
         form.moveTo(form.second, {50, 20}, Qt::LeftButton);
-        QCOMPARE(form.first.state().currentState, kStateUp);
-        QTest::mouseRelease(&form.first, Qt::LeftButton, {}, {50, 100});
-        QCOMPARE(form.taken(), QString{"MouseDown MouseUp"});  // dragged off
+        QCOMPARE(form.drawn(), kStateUp);
+        QCOMPARE(form.released(Qt::LeftButton, {50, 100}), QString{"MouseUp"});  // dragged off
         form.first.design().setEnabled(false);
-        QTest::mouseClick(&form.first, Qt::LeftButton);
+        QCOMPARE(form.clicked(Qt::LeftButton), QString{});
         form.first.press();
         QCOMPARE(form.taken(), QString{});
     }
 
     void isLetGoWithoutAWordWhenAWindowBlocksItsOwn() {
         Form form;
-        QTest::mousePress(&form.first, Qt::LeftButton);
-        QCOMPARE(form.first.state().currentState, kStatePressed);
+        QCOMPARE(form.pressed(Qt::LeftButton), QString{"MouseDown"});
+        QCOMPARE(form.drawn(), kStatePressed);
         QDialog box;
         box.setModal(true);
         box.show();
-        QTRY_COMPARE(form.first.state().currentState, kStateUp);
+        QTRY_COMPARE(form.drawn(), kStateUp);
         box.close();
-        QCOMPARE(form.taken(), QString{"MouseDown"});
-        QTest::mouseRelease(&form.first, Qt::LeftButton);  // of another press, as far as it knows
-        QCOMPARE(form.taken(), QString{"MouseUp"});
+        QCOMPARE(form.taken(), QString{});
+        // Of another press, as far as it knows.
+        QCOMPARE(form.released(Qt::LeftButton), QString{"MouseUp"});
     }
 
     void leavesBackAndForwardAlone() {
         Form form;
-        QTest::mouseClick(&form.first, Qt::LeftButton);
-        form.taken();
-        QTest::mousePress(&form.first, Qt::LeftButton);
+        form.clicked(Qt::LeftButton);
+        QCOMPARE(form.pressed(Qt::LeftButton), QString{"MouseDown"});
         for (const auto button : {Qt::BackButton, Qt::ForwardButton}) {
             QTest::mouseClick(&form.first, button);
             QTest::mouseDClick(&form.first, button);
         }
-        QCOMPARE(form.first.state().currentState, kStatePressed);
-        QTest::mouseRelease(&form.first, Qt::LeftButton);
-        QCOMPARE(form.taken(), QString{"MouseDown MouseUp Click"});
-        QTest::mousePress(&form.first, Qt::BackButton);
-        QCOMPARE(form.first.state().currentState, kStateUp);
-        QTest::mousePress(&form.first, Qt::MiddleButton);
-        QCOMPARE(form.first.state().currentState, kStatePressed);
-        QTest::mouseRelease(&form.first, Qt::MiddleButton);
-        QCOMPARE(form.taken(), QString{"MouseDown MouseUp"});
+        QCOMPARE(form.drawn(), kStatePressed);
+        QCOMPARE(form.released(Qt::LeftButton), QString{"MouseUp Click"});
+        QCOMPARE(form.pressed(Qt::BackButton), QString{});
+        QCOMPARE(form.drawn(), kStateUp);
+        QCOMPARE(form.pressed(Qt::MiddleButton), QString{"MouseDown"});
+        QCOMPARE(form.drawn(), kStatePressed);
+        QCOMPARE(form.released(Qt::MiddleButton), QString{"MouseUp"});
     }
 
     void hoversUntilThePointerLeaves() {
@@ -158,7 +162,7 @@ class GlintButtonTest : public QObject {
         QTest::keyClick(&form.first, Qt::Key_Return);
         QCOMPARE(form.taken(), QString{"KeyPress"});
         QTest::keyPress(&form.first, Qt::Key_Space);
-        QCOMPARE(form.first.state().currentState, kStatePressed);
+        QCOMPARE(form.drawn(), kStatePressed);
         QTest::keyRelease(&form.first, Qt::Key_Space);
         QCOMPARE(form.taken(), QString{"KeyPress Click"});
         form.second.setFocus();
@@ -183,7 +187,8 @@ class GlintButtonTest : public QObject {
         form.first.setFocus();
         QCOMPARE(dots(), 45);  // every other one of the 90 along the top
         const QRegion shape = form.first.mask();
-        QVERIFY(shape.contains(QPoint{0, 0}) && !shape.contains(QPoint{99, 0}));
+        QVERIFY(shape.contains(QPoint{0, 0}));
+        QVERIFY(!shape.contains(QPoint{99, 0}));
         form.first.design().setButtonType(2);
         QVERIFY(form.first.mask().isEmpty());
     }
@@ -212,7 +217,8 @@ class GlintButtonTest : public QObject {
         // The dull face is #0A2B34; two thirds of the picture over it give 158, 183, 187, and the
         // dull face with an opacity of 120 / 255 over that 88, 117, 123.
         const QColor blended = middle();
-        QVERIFY(std::abs(blended.red() - 88) <= 1 && std::abs(blended.green() - 117) <= 1);
+        QVERIFY(std::abs(blended.red() - 88) <= 1);
+        QVERIFY(std::abs(blended.green() - 117) <= 1);
     }
 
     void tellsScreenReaders() {
@@ -226,22 +232,28 @@ class GlintButtonTest : public QObject {
         QCOMPARE(reader->role(), QAccessible::Button);
         QCOMPARE(reader->text(QAccessible::Name), QString{"Rock & Roll Now"});
         QCOMPARE(reader->text(QAccessible::Description), QString{"Go"});
-        QVERIFY(reader->state().checkable && !reader->state().checked);
+        QVERIFY(reader->state().checkable);
+        QVERIFY(!reader->state().checked);
         reader->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
         QCOMPARE(form.taken(), QString{"Click"});
         QVERIFY(reader->state().checked);
+        form.first.setEnabled(false);  // the widget's own, which leaves the property alone
+        QVERIFY(reader->state().disabled);
+        QVERIFY(form.first.state().Enabled);
+        form.first.design().setEnabled(true);
+        QVERIFY(!reader->state().disabled);
         form.first.design().setEnabled(false);
         QVERIFY(reader->state().disabled);
     }
 
     void keepsItsPropertiesInABag() {
-        QtPropertyBagFile file{R"({"full": {"BTYPE": 3, "TX": "&Größe\n2", "ENAB": false,
-            "FONT": {"name": "Sans", "size": 16, "bold": true, "italic": false,
-            "underline": true}, "COLTYPE": 4, "FOCUSR": false,
-            "BCOL": -2147483635, "BCOLO": 1, "FCOL": 255, "FCOLO": 2, "MCOL": 7, "MPTR": 5,
-            "MICON": "hand", "PICN": "ok 16", "PICH": "bin 16", "UMCOL": false, "SOFT": true,
-            "PICPOS": 4, "NGREY": true, "FX": 9, "CHECK": true, "VALUE": true}})",
-                               "form"};
+        QtPropertyBagFile file{
+            R"({"full": {"BTYPE": 3, "TX": "&Größe\n2", "ENAB": false, "FONT": {"name": "Sans",
+            "size": 16, "bold": true, "italic": false, "underline": true}, "COLTYPE": 4,
+            "FOCUSR": false, "BCOL": -2147483635, "BCOLO": 1, "FCOL": 255, "FCOLO": 2, "MCOL": 7,
+            "MPTR": 5, "MICON": "hand", "PICN": "ok 16", "PICH": "bin 16", "UMCOL": false,
+            "SOFT": true, "PICPOS": 4, "NGREY": true, "FX": 9, "CHECK": true, "VALUE": true}})",
+            "form"};
         const QtShapes shapes{programDrawings()};
         GlintButton button{"cmdOne", shapes, nullptr};
         button.design().readProperties(file.bag("full"));
@@ -252,24 +264,19 @@ class GlintButtonTest : public QObject {
     }
 
     void reportsAWrongTypeOnce() {
-        QTemporaryFile errors;
-        QVERIFY(errors.open());
-        const int saved = dup(STDERR_FILENO);
-        dup2(errors.handle(), STDERR_FILENO);
+        const test::CapturedErrors errors;
         QtPropertyBagFile file{R"({"b": {"BTYPE": 2.5, "TX": 7, "ENAB": 1, "FONT": "x"}})", "bad"};
-        const auto bag = file.bag("b");
-        for (int times = 0; times < 2; ++times) {
-            QCOMPARE(bag.readInteger("BTYPE", 14), 14);
-            QCOMPARE(bag.readText("TX", "none"), std::string{"none"});
-            QCOMPARE(bag.readBoolean("ENAB", true), true);
-            QCOMPARE(bag.readFont("FONT", {.name = "Sans"}).name, std::string{"Sans"});
+        const QStringList wrong{"BTYPE", "TX", "ENAB", "FONT"}, missing{"A", "B", "C", "D"};
+        for (const QStringList& keys : {wrong, wrong, missing}) {
+            const auto key = [&](int number) { return keys[number].toStdString(); };
+            const auto bag = file.bag("b");
+            QCOMPARE(bag.readInteger(key(0), 14), 14);
+            QCOMPARE(bag.readText(key(1), "none"), std::string{"none"});
+            QCOMPARE(bag.readBoolean(key(2), true), true);
+            QCOMPARE(bag.readFont(key(3), {.name = "Sans"}).name, std::string{"Sans"});
         }
         const QtPropertyBagFile none{"[", "none"};
-        dup2(saved, STDERR_FILENO);
-        close(saved);
-        QFile read{errors.fileName()};
-        QVERIFY(read.open(QIODevice::ReadOnly));
-        QCOMPARE(read.readAll().count('\n'), 5);
+        QCOMPARE(errors.text().count('\n'), 5);
     }
 };
 
