@@ -5,6 +5,10 @@
 
 namespace skylob {
 
+/// The two sides, as they are numbered everywhere.
+inline constexpr int kLeft = 1, kRight = 2;
+inline constexpr std::array kSides{kLeft, kRight};
+
 /// The opponent of side 1 is side 2 and the other way round.
 constexpr int opponentOf(int side) {
     return 3 - side;
@@ -16,10 +20,10 @@ template <typename Value>
 class PerSide {
   public:
     PerSide() = default;
-    PerSide(Value left, Value right) : m_values{left, right} {}
+    constexpr PerSide(Value left, Value right) : m_values{left, right} {}
 
     Value& operator[](int side) { return m_values.at(static_cast<std::size_t>(side - 1)); }
-    const Value& operator[](int side) const {
+    constexpr const Value& operator[](int side) const {
         return m_values.at(static_cast<std::size_t>(side - 1));
     }
 

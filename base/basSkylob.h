@@ -13,14 +13,20 @@ inline constexpr std::string_view kProgramTitle = "Skylob";
 /// The name that makes a side the computer's.
 inline constexpr std::string_view kComputerName = "Computer";
 
+/// The computer's levels of skill: basSkylob::SkillLevel.
+inline constexpr int kGoodSkill = 4, kFairSkill = 5, kPoorSkill = 6;
+
+/// The sizes of the battle screen: basSkylob::ScreenSize.
+inline constexpr int kSmallScreen = 1, kNormalScreen = 2, kLargeScreen = 3;
+
 /// What several screens share in one run. The program owns one of it and hands it on by
 /// reference; sides are 1 (left) and 2 (right).
 struct basSkylob {
     PerSide<std::string> PlayerName;  ///< UTF-8; only side 2 is ever played by the computer
-    int SkillLevel = 5;               ///< the computer's aim: 4 "Good", 5 "Fair", 6 "Poor"
+    int SkillLevel = kFairSkill;      ///< the computer's aim: kGoodSkill, kFairSkill or kPoorSkill
     int NumRounds = 10;               ///< rounds in a set: 5, 10 or 20
     int GameSpeed = 50;               ///< animation speed, 1 (slow) to 99
-    int ScreenSize = 2;               ///< battle screen: 1 small, 2 normal, 3 large
+    int ScreenSize = kNormalScreen;   ///< of the battle: kSmallScreen to kLargeScreen
     bool FadeStatus = false;          ///< the user wants screens to fade
     bool FadeActive = false;          ///< the screen that came or went last could fade
 
@@ -38,7 +44,7 @@ struct basSkylob {
     bool NearMiss = false;   ///< the last shell came down beside the enemy
     bool SetOver = false;    ///< the last round of the set has been played
 
-    bool isComputer(int side) const { return side == 2 && PlayerName[2] == kComputerName; }
+    bool isComputer(int side) const { return side == kRight && PlayerName[side] == kComputerName; }
 };
 
 }  // namespace skylob
