@@ -253,6 +253,13 @@ TEST_F(LobbyTest, TouchesNobodyButThePlayerItHasShown) {
         EXPECT_EQ(events(), (Log{"box Confirm", "box Changed Player List", grid, "highlight 1"}));
         EXPECT_EQ(bytes(), changed);
     }
+    // Shown is the list as it is when the message has gone.
+    boxes.onShow = [this] { put(bytes() == ann ? cyd : ann); };
+    put(ann + bob);
+    boxes.entries = {"Bea"};
+    boxes.answers = {BoxAnswer::Ok};
+    lobby.cmdModify_Click(row(2, "Bob"));
+    EXPECT_EQ(events().at(2), "grid Cyd");
 }
 
 TEST_F(LobbyTest, RefusesOnePlayerTooMany) {
