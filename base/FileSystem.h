@@ -24,6 +24,9 @@ class RandomAccessFile {
     /// In bytes.
     virtual std::int64_t length() const = 0;
 
+    /// False for a file of which openForReading() could open nothing but its content.
+    virtual bool isWritable() const = 0;
+
     /// The `count` bytes from `offset` on, or as many of them as there are.
     virtual std::string read(std::int64_t offset, std::size_t count) const = 0;
 

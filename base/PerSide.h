@@ -20,10 +20,10 @@ template <typename Value>
 class PerSide {
   public:
     PerSide() = default;
-    PerSide(Value left, Value right) : m_values{left, right} {}
+    constexpr PerSide(Value left, Value right) : m_values{left, right} {}
 
     Value& operator[](int side) { return m_values.at(static_cast<std::size_t>(side - 1)); }
-    const Value& operator[](int side) const {
+    constexpr const Value& operator[](int side) const {
         return m_values.at(static_cast<std::size_t>(side - 1));
     }
 

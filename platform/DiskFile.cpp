@@ -54,6 +54,10 @@ std::int64_t DiskFile::length() const {
     return statusOf(m_descriptor, m_name).st_size;
 }
 
+bool DiskFile::isWritable() const {
+    return (::fcntl(m_descriptor, F_GETFL) & O_ACCMODE) == O_RDWR;
+}
+
 bool DiskFile::isPlain() const {
     return S_ISREG(statusOf(m_descriptor, m_name).st_mode);
 }

@@ -19,6 +19,7 @@ class DiskFile final : public RandomAccessFile {
     ~DiskFile() override;
 
     std::int64_t length() const override;
+    bool isWritable() const override;
     std::string read(std::int64_t offset, std::size_t count) const override;
     void write(std::int64_t offset, std::string_view bytes) override;
     void sync() override;

@@ -6,30 +6,33 @@ namespace skylob {
 /// these ask for must not run in the middle of that command.
 class CommandGate {
   public:
-    /// A command's leave to run, from here to the end of its block however that comes. False while
-    /// another command has it, and when the gate is shut.
-    class Pass {
-      public:
-        explicit Pass(CommandGate& gate) : m_gate{gate.m_state == State::Free ? &gate : nullptr} {
-            if (m_gate) m_gate->m_state = State::Taken;
-        }
-        ~Pass() {
-            if (m_gate && m_gate->m_state == State::Taken) m_gate->m_state = State::Free;
-        }
-        Pass(const Pass&) = delete;
-        Pass& operator=(const Pass&) = delete;
-
-        explicit operator bool() const { return m_gate != nullptr; }
-
-      private:
-        CommandGate* m_gate;
-    };
+    /// Runs a command, which may fail. False, without running it, while another one runs and when
+    /// the gate is shut.
+    template <typename Command>
+    bool run(const Command& command) {
+        if (m_state != State::Free) return false;
+        const Turn turn{m_state};
+        command();
+        return true;
+    }
 
     /// For good: the screen goes, and no further command runs.
     void shut() { m_state = State::Shut; }
 
   private:
     enum class State { Free, Taken, Shut };
+
+    /// A command's turn, until the end of the block however that comes.
+    struct Turn {
+        explicit Turn(State& ofGate) : state{ofGate} { state = State::Taken; }
+        ~Turn() {
+            if (state == State::Taken) state = State::Free;
+        }
+        Turn(const Turn&) = delete;
+        Turn& operator=(const Turn&) = delete;
+
+        State& state;
+    };
 
     State m_state = State::Free;
 };

@@ -1,5 +1,7 @@
 #include "players/Lobby.h"
 
+#include <utility>
+
 #include "base/OpenLink.h"
 #include "base/Release.h"
 #include "base/Settings.h"
@@ -25,9 +27,12 @@ Lobby::Lobby(basSkylob& shared, const LobbyPorts& ports) : m_shared{shared}, m_p
 }
 
 void Lobby::Form_Activate() {
-    const CommandGate::Pass pass{m_gate};
-    if (!pass || m_activated) return;
-    m_activated = true;
+    m_gate.run([this] {
+        if (!std::exchange(m_activated, true)) activate();
+    });
+}
+
+void Lobby::activate() {
     m_shared.ScreenSize = settings::readScreenSize(m_ports.settings);
     m_shared.NumRounds = settings::roundsForChoice(settings::readRoundsChoice(m_ports.settings));
     m_shared.FadeStatus = settings::readFadeStatus(m_ports.settings);
@@ -37,7 +42,10 @@ void Lobby::Form_Activate() {
 }
 
 void Lobby::UpdateGrid() {
-    auto records = m_ports.file.readAll();
+    fillGrid(m_ports.file.readAll());
+}
+
+void Lobby::fillGrid(std::vector<PlayerRecord> records) {
     const bool empty = records.empty();
     m_ports.view.fillGrid(std::move(records));
     if (!empty) return;
@@ -52,34 +60,51 @@ void Lobby::showPairing() {
 }
 
 void Lobby::grid_DblClick(const ListedPlayer& player) {
-    const CommandGate::Pass pass{m_gate};
-    if (!pass) return;
-    m_pairing.choose(player.name());
-    StartBattle();
+    m_gate.run([&] {
+        m_pairing.choose(player.name());
+        StartBattle();
+    });
 }
 
 void Lobby::labelPlayerName_DblClick() {
-    const CommandGate::Pass pass{m_gate};
-    if (!pass) return;
-    m_pairing.labelPlayerName_DblClick();
-    showPairing();
+    m_gate.run([this] {
+        m_pairing.labelPlayerName_DblClick();
+        showPairing();
+    });
 }
 
 void Lobby::chkComputer_Click(bool ticked) {
-    const CommandGate::Pass pass{m_gate};
-    if (!pass) return showPairing();
-    m_pairing.chkComputer_Click(ticked);
-    StartBattle();
+    const bool done = m_gate.run([&] {
+        m_pairing.chkComputer_Click(ticked);
+        StartBattle();
+    });
+    if (!done) showPairing();
 }
 
 void Lobby::StartBattle() {
     showPairing();
     if (!m_pairing.isComplete()) return;
-    for (const int side : {1, 2}) m_shared.PlayerName[side] = m_pairing.labelPlayerName(side);
+    for (const int side : kSides) m_shared.PlayerName[side] = m_pairing.labelPlayerName(side);
     if (m_pairing.chkComputer()) m_ports.view.chooseSkillLevel();
     m_ports.settings.save("ScreenSize", std::to_string(m_shared.ScreenSize));
     m_gate.shut();
     m_ports.view.leaveForBattle();
+}
+
+void Lobby::cmdAdd_Click() {
+    m_gate.run([this] { addPlayer(); });
+}
+
+void Lobby::cmdModify_Click(const std::optional<ListedPlayer>& highlighted) {
+    m_gate.run([&] {
+        if (highlighted) renamePlayer(*highlighted);
+    });
+}
+
+void Lobby::cmdDelete_Click(const std::optional<ListedPlayer>& highlighted) {
+    m_gate.run([&] {
+        if (highlighted) deletePlayer(*highlighted);
+    });
 }
 
 std::optional<std::string> Lobby::askForName(std::string prompt, std::string_view toolTip,
@@ -90,58 +115,56 @@ std::optional<std::string> Lobby::askForName(std::string prompt, std::string_vie
     if (!answer) return std::nullopt;
     std::string entry = nameOnFile(*answer);
     if (entry.empty()) return std::nullopt;
-    if (m_ports.file.NameAlreadyExists(entry)) {
-        m_ports.boxes.show({"Error", "That name is already in the Player List!"});
-        return std::nullopt;
-    }
     return entry;
 }
 
-void Lobby::cmdAdd_Click() {
-    const CommandGate::Pass pass{m_gate};
-    if (!pass) return;
+void Lobby::addPlayer() {
     const auto name = askForName("Enter a Player's Name", kAddToolTip, {});
     if (!name) return;
-    if (!m_ports.file.addPlayer(*name)) {
-        m_ports.boxes.show(
-            {"Full Player List", "There are " + std::to_string(PlayerFile::kMostPlayers) +
-                                     " players in the Player List.\r\nNo more can be added."});
-        return;
-    }
-    UpdateGrid();
+    const ListChange change = m_ports.file.addPlayer(*name);
+    if (change != ListChange::Done) return refuse(change);
+    fillGrid(m_ports.file.records());
 }
 
-void Lobby::cmdModify_Click(const std::optional<ListedPlayer>& highlighted) {
-    const CommandGate::Pass pass{m_gate};
-    if (!pass || !highlighted) return;
-    const std::string before = highlighted->name();
+void Lobby::renamePlayer(const ListedPlayer& player) {
+    const std::string before = player.name();
     const auto name =
         askForName("Change name from " + before + "\r\nto...", kModifyToolTip, before);
     if (!name) return;
-    if (!m_ports.file.renamePlayer(*highlighted, *name)) return refuseOutdated(*highlighted);
+    const ListChange change = m_ports.file.renamePlayer(player, *name);
+    if (change == ListChange::Outdated) return refuseOutdated(player);
+    if (change != ListChange::Done) return refuse(change);
     m_pairing.rename(before, *name);
     showPairing();
-    updateGridAt(*highlighted);
+    fillGrid(m_ports.file.records());
+    m_ports.view.highlightRow(player.recordNumber - 1);
 }
 
-void Lobby::cmdDelete_Click(const std::optional<ListedPlayer>& highlighted) {
-    const CommandGate::Pass pass{m_gate};
-    if (!pass || !highlighted) return;
-    const std::string name = highlighted->name();
+void Lobby::deletePlayer(const ListedPlayer& player) {
+    const std::string name = player.name();
     const MessageBox question{"Confirm",
                               "Are you sure you wish to remove " + name + " from the list?",
                               BoxIcon::Question, BoxButtons::YesNo, BoxAnswer::No};
     if (m_ports.boxes.show(question) != BoxAnswer::Yes) return;
-    if (!m_ports.file.deletePlayer(*highlighted)) return refuseOutdated(*highlighted);
+    const ListChange change = m_ports.file.deletePlayer(player);
+    if (change == ListChange::Outdated) return refuseOutdated(player);
     m_pairing.remove(name);
     showPairing();
-    updateGridAt(*highlighted);
+    if (m_ports.file.PlayerCount == 0)
+        UpdateGrid();  // makes the file anew that went with the last player
+    else
+        fillGrid(m_ports.file.records());
+    m_ports.view.highlightRow(player.recordNumber - 1);
 }
 
-/// Fills the grid and leaves the highlight in the row where that player was.
-void Lobby::updateGridAt(const ListedPlayer& player) {
-    UpdateGrid();
-    m_ports.view.highlightRow(player.recordNumber - 1);
+void Lobby::refuse(ListChange why) {
+    if (why == ListChange::NameTaken) {
+        m_ports.boxes.show({"Error", "That name is already in the Player List!"});
+        return;
+    }
+    m_ports.boxes.show(
+        {"Full Player List", "There are " + std::to_string(PlayerFile::kMostPlayers) +
+                                 " players in the Player List.\r\nNo more can be added."});
 }
 
 /// Somebody else has changed the file, and the player is not where the list shows it.
@@ -150,27 +173,28 @@ void Lobby::refuseOutdated(const ListedPlayer& player) {
                         "Somebody else has changed the Player List, and " + player.name() +
                             "\r\nis not in the old place any more. Nothing has been done.\r\n\r\n"
                             "You will see the list as it is now."});
-    updateGridAt(player);
+    UpdateGrid();
+    m_ports.view.highlightRow(player.recordNumber - 1);
 }
 
 void Lobby::optScreenSize_Click(int index) {
-    const CommandGate::Pass pass{m_gate};
-    if (!pass) return m_ports.view.showOptions();
-    m_shared.ScreenSize = index;  // stored when a battle starts
+    // Stored when a battle starts.
+    if (!m_gate.run([&] { m_shared.ScreenSize = index; })) m_ports.view.showOptions();
 }
 
 void Lobby::optRounds_Click(int index) {
-    const CommandGate::Pass pass{m_gate};
-    if (!pass) return m_ports.view.showOptions();
-    m_shared.NumRounds = settings::roundsForChoice(index);
-    m_ports.settings.save("NumRounds", std::to_string(index));
+    const bool done = m_gate.run([&] {
+        m_shared.NumRounds = settings::roundsForChoice(index);
+        m_ports.settings.save("NumRounds", std::to_string(index));
+    });
+    if (!done) m_ports.view.showOptions();
 }
 
 void Lobby::optFormFade_Click(int index) {
-    const CommandGate::Pass pass{m_gate};
-    if (!pass) return m_ports.view.showOptions();
-    constexpr int kEnabled = 1;
-    const bool wanted = index == kEnabled;
+    if (!m_gate.run([&] { chooseFade(index == kFadeEnabled); })) m_ports.view.showOptions();
+}
+
+void Lobby::chooseFade(bool wanted) {
     m_shared.FadeStatus = wanted && m_ports.view.canFade();
     m_ports.settings.save("FadeStatus", m_shared.FadeStatus ? "True" : "False");
     if (m_shared.FadeStatus == wanted) return;
@@ -180,17 +204,19 @@ void Lobby::optFormFade_Click(int index) {
 }
 
 void Lobby::cmdEmailFriend_Click() {
-    const CommandGate::Pass pass{m_gate};
-    if (!pass) return;
-    std::string message{kRecommendation};
-    message += kWebPage;
-    message += kInvitation;
-    OpenLink(LinkKind::Mail, message, m_ports.links, m_ports.boxes);
+    m_gate.run([this] {
+        std::string message{kRecommendation};
+        message += kWebPage;
+        message += kInvitation;
+        OpenLink(LinkKind::Mail, message, m_ports.links, m_ports.boxes);
+    });
 }
 
 void Lobby::cmdQuit_Click() {
-    const CommandGate::Pass pass{m_gate};
-    if (!pass) return;
+    m_gate.run([this] { quit(); });
+}
+
+void Lobby::quit() {
     const MessageBox question{"Confirm", "Are you sure you wish to quit?", BoxIcon::Question,
                               BoxButtons::YesNo};
     if (m_ports.boxes.show(question) != BoxAnswer::Yes) return;

@@ -80,8 +80,11 @@ class Lobby {
     void cmdModify_Click(const std::optional<ListedPlayer>& highlighted);
     void cmdDelete_Click(const std::optional<ListedPlayer>& highlighted);
 
-    /// The index of the button, from 1. Playing field sizes are small, normal and large, sets have
-    /// 5, 10 or 20 rounds, fading is enabled or disabled.
+    /// The indices of the buttons for fading.
+    static constexpr int kFadeEnabled = 1, kFadeDisabled = 2;
+
+    /// The index of the button, from 1: a size (kSmallScreen to kLargeScreen); 5, 10 or 20 rounds;
+    /// kFadeEnabled or kFadeDisabled.
     void optScreenSize_Click(int index);
     void optRounds_Click(int index);
     void optFormFade_Click(int index);
@@ -92,13 +95,21 @@ class Lobby {
     const Pairing& pairing() const { return m_pairing; }
 
   private:
+    void activate();
     void UpdateGrid();
-    void updateGridAt(const ListedPlayer& player);
-    void refuseOutdated(const ListedPlayer& player);
-    void StartBattle();
+    void fillGrid(std::vector<PlayerRecord> records);
     void showPairing();
+    void StartBattle();
+
+    void addPlayer();
+    void renamePlayer(const ListedPlayer& player);
+    void deletePlayer(const ListedPlayer& player);
     std::optional<std::string> askForName(std::string prompt, std::string_view toolTip,
                                           std::string name);
+    void refuse(ListChange why);
+    void refuseOutdated(const ListedPlayer& player);
+    void chooseFade(bool wanted);
+    void quit();
 
     basSkylob& m_shared;
     LobbyPorts m_ports;

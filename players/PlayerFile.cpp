@@ -38,16 +38,35 @@ int PlayerFile::countIn(std::int64_t length, const char* holds) const {
     return static_cast<int>(count);
 }
 
+PlayerFile::Session::Session(PlayerFile& file, Access access) : m_file{file} {
+    if (access == Access::Full)
+        file.OpenPlayerFile();
+    else
+        file.openForReading();
+}
+
+PlayerFile::Session::~Session() {
+    try {
+        close();
+    } catch (const FileError&) {
+        // Nothing has been changed, or another error is on its way already.
+    }
+}
+
 void PlayerFile::OpenPlayerFile() {
     ClosePlayerFile();
     take(m_files.open(PlayerFileName));
 }
 
+/// As OpenPlayerFile(), but a list that may only be read is opened as well.
+void PlayerFile::openForReading() {
+    ClosePlayerFile();
+    take(m_files.openForReading(PlayerFileName));
+}
+
 void PlayerFile::take(std::unique_ptr<RandomAccessFile> file) {
     PlayerCount = countIn(file->length(), "holds");
-    const auto length = static_cast<std::size_t>(offsetOf(PlayerCount + 1));
-    m_bytes = file->read(0, length);
-    m_bytes.resize(length);
+    hold(file->read(0, static_cast<std::size_t>(offsetOf(PlayerCount + 1))), PlayerCount);
     m_kept.clear();
     m_written = false;
     PlayerFileHandle = std::move(file);
@@ -61,12 +80,10 @@ void PlayerFile::ClosePlayerFile() {
     if (m_written) file->sync();
 }
 
-void PlayerFile::abandon() noexcept {
-    try {
-        ClosePlayerFile();
-    } catch (const FileError&) {
-        // Another error is on its way already.
-    }
+/// Keeps a list for reading, as so many whole records.
+void PlayerFile::hold(std::string list, int count) {
+    m_bytes = std::move(list);
+    m_bytes.resize(static_cast<std::size_t>(offsetOf(count + 1)));
 }
 
 /// The number of records in m_bytes.
@@ -107,23 +124,21 @@ void PlayerFile::writeRecord(int number) {
     writeKept(*PlayerFileHandle);
 }
 
-std::vector<PlayerRecord> PlayerFile::readAll() {
-    ClosePlayerFile();
-    take(m_files.openForReading(PlayerFileName));
-    std::vector<PlayerRecord> records;
-    for (int number = 1; number <= PlayerCount; ++number) {
+std::vector<PlayerRecord> PlayerFile::records() {
+    std::vector<PlayerRecord> all;
+    for (int number = 1; number <= held(); ++number) {
         readRecord(number);
-        records.push_back(CurrentRecord);
+        all.push_back(CurrentRecord);
     }
-    ClosePlayerFile();
-    return records;
+    return all;
 }
 
 bool PlayerFile::NameAlreadyExists(std::string_view name) {
-    const auto records = readAll();
-    return std::any_of(records.begin(), records.end(), [name](const PlayerRecord& record) {
-        return nameOf(record) == trimBlanks(name);
-    });
+    for (int number = 1; number <= PlayerCount; ++number) {
+        readRecord(number);
+        if (nameOf(CurrentRecord) == trimBlanks(name)) return true;
+    }
+    return false;
 }
 
 std::string PlayerFile::ranked(std::span<const int> recordNumbers) {
@@ -141,31 +156,44 @@ std::string PlayerFile::ranked(std::span<const int> recordNumbers) {
 
 /// Adds what an older temporary file has beyond this list.
 void PlayerFile::addLeftover(std::string& list) {
-    const auto older = m_files.openLeftover(m_tempFileName);
-    if (!older) return;
-    const auto length = static_cast<std::size_t>(older->length());
+    const auto TempFileHandle = m_files.openLeftover(m_tempFileName);
+    if (!TempFileHandle) return;
+    const auto length = static_cast<std::size_t>(TempFileHandle->length());
     if (length <= list.size()) return;
-    countIn(older->length(), "would hold");
-    list += older->read(static_cast<std::int64_t>(list.size()), length - list.size());
+    countIn(TempFileHandle->length(), "would hold");
+    list += TempFileHandle->read(static_cast<std::int64_t>(list.size()), length - list.size());
 }
 
 void PlayerFile::rewrite(std::span<const int> recordNumbers) {
     std::string list = ranked(recordNumbers);
     addLeftover(list);
     m_files.replaceContent(PlayerFileName, list, m_tempFileName);
+    hold(list, countIn(static_cast<std::int64_t>(list.size()), "holds"));
     m_kept.clear();  // they are in it
-    ClosePlayerFile();
 }
 
-bool PlayerFile::addPlayer(std::string_view name) {
-    OpenPlayerFile();
-    const ClosedAtEnd closed{*this};
-    if (PlayerCount == kMostPlayers) return false;
+std::vector<PlayerRecord> PlayerFile::readAll() {
+    Session session{*this, Session::Access::ReadingWillDo};
+    session.close();
+    return records();
+}
+
+/// For a session that reading would do for until now. Where the file could be opened for nothing
+/// else, this fails like any opening for changes.
+void PlayerFile::wantChanges() {
+    if (!PlayerFileHandle->isWritable()) OpenPlayerFile();
+}
+
+ListChange PlayerFile::addPlayer(std::string_view name) {
+    Session session{*this, Session::Access::ReadingWillDo};
+    if (NameAlreadyExists(name)) return ListChange::NameTaken;
+    wantChanges();
+    if (PlayerCount == kMostPlayers) return ListChange::ListFull;
     CurrentRecord = {};
     setName(CurrentRecord, name);
     writeRecord(PlayerCount + 1);
-    ClosePlayerFile();
-    return true;
+    session.close();
+    return ListChange::Done;
 }
 
 /// For an open file.
@@ -175,31 +203,35 @@ bool PlayerFile::stillHolds(const ListedPlayer& player) {
     return CurrentRecord.Name == player.record.Name;
 }
 
-bool PlayerFile::renamePlayer(const ListedPlayer& player, std::string_view name) {
-    OpenPlayerFile();
-    const ClosedAtEnd closed{*this};
-    if (!stillHolds(player)) return false;
+ListChange PlayerFile::renamePlayer(const ListedPlayer& player, std::string_view name) {
+    Session session{*this, Session::Access::ReadingWillDo};
+    if (NameAlreadyExists(name)) return ListChange::NameTaken;
+    wantChanges();
+    if (!stillHolds(player)) return ListChange::Outdated;
     setName(CurrentRecord, name);
     writeRecord(player.recordNumber);
-    ClosePlayerFile();
-    return true;
+    session.close();
+    return ListChange::Done;
 }
 
-bool PlayerFile::deletePlayer(const ListedPlayer& player) {
-    OpenPlayerFile();
-    const ClosedAtEnd closed{*this};
-    if (!stillHolds(player)) return false;
+ListChange PlayerFile::deletePlayer(const ListedPlayer& player) {
+    Session session{*this};
+    if (!stillHolds(player)) return ListChange::Outdated;
     std::vector<int> others;
     for (int other = 1; other <= PlayerCount; ++other)
         if (other != player.recordNumber) others.push_back(other);
-    if (!others.empty()) {
-        rewrite(others);
-        return true;
-    }
-    ClosePlayerFile();
+    if (!others.empty()) rewrite(others);
+    session.close();
+    if (others.empty()) removeFiles();
+    PlayerCount = held();  // in the new file; what was closed is the old one
+    return ListChange::Done;
+}
+
+/// Nobody is left.
+void PlayerFile::removeFiles() {
     m_files.remove(m_tempFileName);
     m_files.remove(PlayerFileName);
-    return true;
+    m_bytes.clear();
 }
 
 }  // namespace skylob

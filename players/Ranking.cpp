@@ -23,7 +23,7 @@ void countSetOf(PlayerFile& file, const basSkylob& shared) {
     for (int number = 1; number <= file.PlayerCount; ++number) {
         file.readRecord(number);
         const std::string name = nameOf(file.CurrentRecord);
-        for (const int side : {1, 2}) {
+        for (const int side : kSides) {
             if (name != trimBlanks(shared.PlayerName[side])) continue;
             countSet(file.CurrentRecord, SetScore(shared, side), side == shared.Winner);
             file.keepRecord(number);
@@ -72,13 +72,10 @@ std::string formatKey(float key) {
 }
 
 void RecordSetResults(PlayerFile& file, const basSkylob& shared) {
-    file.OpenPlayerFile();
-    const PlayerFile::ClosedAtEnd closed{file};
+    PlayerFile::Session session{file};
     countSetOf(file, shared);
-    if (file.PlayerCount == 1)
-        file.ClosePlayerFile();
-    else
-        file.rewrite(rankingOrder(file));
+    if (file.PlayerCount != 1) file.rewrite(rankingOrder(file));
+    session.close();
 }
 
 }  // namespace skylob

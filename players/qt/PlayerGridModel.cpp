@@ -14,10 +14,11 @@ QString unlessZero(int number) {
     return number == 0 ? QString{} : QString::number(number);
 }
 
-QString text(const PlayerRecord& record, int column, int row) {
+QString text(const ListedPlayer& player, int column) {
+    const PlayerRecord& record = player.record;
     switch (column) {
         case PlayerGridModel::Name:
-            return QString::fromStdString(nameOf(record));
+            return QString::fromStdString(player.name());
         case PlayerGridModel::Sets:
             return QStringLiteral("%1/%2").arg(record.SetsPlayed).arg(record.SetsWon);
         case PlayerGridModel::Average:
@@ -25,7 +26,7 @@ QString text(const PlayerRecord& record, int column, int row) {
         case PlayerGridModel::Ranking:
             return unlessZero(record.Ranking);
         default:
-            return QString::number(row + 1);
+            return QString::number(player.recordNumber);
     }
 }
 
@@ -48,7 +49,7 @@ int PlayerGridModel::columnCount(const QModelIndex& parent) const {
 QVariant PlayerGridModel::data(const QModelIndex& index, int role) const {
     if (role == Qt::TextAlignmentRole) return alignment(index.column());
     if (role != Qt::DisplayRole) return {};
-    return text(record(index.row()), index.column(), index.row());
+    return text(player(index.row()), index.column());
 }
 
 QVariant PlayerGridModel::headerData(int section, Qt::Orientation orientation, int role) const {

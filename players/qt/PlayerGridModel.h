@@ -3,12 +3,11 @@
 #include <QAbstractTableModel>
 #include <vector>
 
-#include "players/PlayerRecord.h"
+#include "players/PlayerFile.h"
 
 namespace skylob {
 
-/// The player list as a table: name, sets, average, ranking, and the record's number in the file,
-/// by which a row's record is found again.
+/// The player list as a table: name, sets, average, ranking, and the record's number in the file.
 class PlayerGridModel : public QAbstractTableModel {
     Q_OBJECT
 
@@ -20,8 +19,10 @@ class PlayerGridModel : public QAbstractTableModel {
     /// Takes the records of a file, in its order.
     void fill(std::vector<PlayerRecord> records);
 
-    /// Rows are counted from 0.
-    const PlayerRecord& record(int row) const { return m_records[static_cast<std::size_t>(row)]; }
+    /// Who stands in that row, from 0.
+    ListedPlayer player(int row) const {
+        return {row + 1, m_records[static_cast<std::size_t>(row)]};
+    }
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;

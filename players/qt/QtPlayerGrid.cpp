@@ -37,6 +37,7 @@ class WholeTextToolTips : public QStyledItemDelegate {
 
 QtPlayerGrid::QtPlayerGrid(QWidget* parent)
     : QTableView{parent}, m_model{new PlayerGridModel{this}} {
+    setObjectName(QStringLiteral("grid"));
     setModel(m_model);
     setItemDelegate(new WholeTextToolTips{this});
     setAccessibleName(tr("Player list"));
@@ -52,7 +53,7 @@ QtPlayerGrid::QtPlayerGrid(QWidget* parent)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     layOutColumns();
     connect(this, &QTableView::doubleClicked, this,
-            [this](const QModelIndex& index) { choose(index.row()); });
+            [this](const QModelIndex& index) { emit chosen(m_model->player(index.row())); });
     for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
         connect(new QShortcut{key, this, nullptr, nullptr, Qt::WidgetShortcut},
                 &QShortcut::activated, this, [this] {
@@ -87,19 +88,10 @@ void QtPlayerGrid::highlight(int row) {
     setCurrentIndex(m_model->index(std::min(row, last), PlayerGridModel::Name));
 }
 
-ListedPlayer QtPlayerGrid::playerIn(int row) const {
-    const QModelIndex number = m_model->index(row, PlayerGridModel::RecordNumber);
-    return {number.data().toInt(), m_model->record(row)};
-}
-
 std::optional<ListedPlayer> QtPlayerGrid::highlighted() const {
     const QModelIndexList rows = selectionModel()->selectedRows();
     if (rows.isEmpty()) return std::nullopt;
-    return playerIn(rows.front().row());
-}
-
-void QtPlayerGrid::choose(int row) {
-    emit chosen(playerIn(row));
+    return m_model->player(rows.front().row());
 }
 
 }  // namespace skylob

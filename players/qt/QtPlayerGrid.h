@@ -29,9 +29,7 @@ class QtPlayerGrid : public QTableView {
     void chosen(const skylob::ListedPlayer& player);
 
   private:
-    ListedPlayer playerIn(int row) const;
     void layOutColumns();
-    void choose(int row);
 
     PlayerGridModel* m_model;
 };

@@ -27,7 +27,7 @@ namespace {
 
 constexpr QSize kScreen{784, 504};
 constexpr QRect kGrid{16, 16, 580, 256};
-constexpr QRect kChosen[] = {{16, 284, 284, 84}, {312, 284, 284, 84}};
+constexpr PerSide<QRect> kChosen{{16, 284, 284, 84}, {312, 284, 284, 84}};
 constexpr QRect kComputerPanel{608, 284, 160, 84}, kComputerBox{16, 18, 132, 48};
 constexpr QSize kOptionFrame{184, 108}, kOption{156, 24};
 constexpr int kOptionTop = 380;
@@ -56,7 +56,7 @@ frmGetPlayers::frmGetPlayers(basSkylob& shared, const frmGetPlayersPorts& ports)
     makeButtons();
     for (const int side : {1, 2}) {
         frame[side] = new QtChosenPlayer{side, this};
-        frame[side]->setGeometry(kChosen[side - 1]);
+        frame[side]->setGeometry(kChosen[side]);
     }
     makeComputerBox();
     makeOptions();
@@ -86,27 +86,31 @@ void frmGetPlayers::makeComputerBox() {
     panel->setObjectName(QStringLiteral("strip"));
     panel->setGeometry(kComputerPanel);
     chkComputer = new QCheckBox{tr("Play the\nComputer!"), panel};
+    chkComputer->setObjectName(QStringLiteral("chkComputer"));
     chkComputer->setGeometry(kComputerBox);
 }
 
 void frmGetPlayers::makeOptions() {
-    optScreenSize =
-        makeOptionGroup(tr("Playing field size"), {tr("Small"), tr("Normal"), tr("Large")}, 16);
+    optScreenSize = makeOptionGroup(QStringLiteral("optScreenSize"), tr("Playing field size"),
+                                    {tr("Small"), tr("Normal"), tr("Large")}, 16);
     optRounds =
-        makeOptionGroup(tr("Rounds per Set"),
+        makeOptionGroup(QStringLiteral("optRounds"), tr("Rounds per Set"),
                         {QStringLiteral("5"), QStringLiteral("10"), QStringLiteral("20")}, 214);
-    optFormFade = makeOptionGroup(tr("Form Fade effects"), {tr("Enabled"), tr("Disabled")}, 412);
+    optFormFade = makeOptionGroup(QStringLiteral("optFormFade"), tr("Form Fade effects"),
+                                  {tr("Enabled"), tr("Disabled")}, 412);
 }
 
-QButtonGroup* frmGetPlayers::makeOptionGroup(const QString& title, const QStringList& captions,
-                                             int left) {
+QButtonGroup* frmGetPlayers::makeOptionGroup(const QString& name, const QString& title,
+                                             const QStringList& captions, int left) {
     auto* box = new QGroupBox{title, this};
     box->setGeometry({{left, kOptionTop}, kOptionFrame});
     auto* group = new QButtonGroup{box};
     for (int i = 0; i < captions.size(); ++i) {
+        const int index = i + 1;
         auto* button = new QRadioButton{captions[i], box};
+        button->setObjectName(QStringLiteral("%1(%2)").arg(name).arg(index));
         button->setGeometry({kFirstOption + QPoint{0, i * kOption.height()}, kOption});
-        group->addButton(button, i + 1);
+        group->addButton(button, index);
     }
     return group;
 }
@@ -153,23 +157,17 @@ void frmGetPlayers::addShortcuts() {
 }
 
 void frmGetPlayers::setTabOrder() {
-    const QList<QWidget*> order{grid,
-                                cmdAdd,
-                                cmdModify,
-                                cmdDelete,
-                                cmdEmailFriend,
-                                cmdHelp,
-                                frame[1]->labelPlayerName(),
-                                chkComputer,
-                                optScreenSize->button(1),
-                                optScreenSize->button(2),
-                                optScreenSize->button(3),
-                                optRounds->button(1),
-                                optRounds->button(2),
-                                optRounds->button(3),
-                                optFormFade->button(1),
-                                optFormFade->button(2),
-                                cmdQuit};
+    QList<QWidget*> order{grid,
+                          cmdAdd,
+                          cmdModify,
+                          cmdDelete,
+                          cmdEmailFriend,
+                          cmdHelp,
+                          frame[1]->labelPlayerName(),
+                          chkComputer};
+    for (const QButtonGroup* group : {optScreenSize, optRounds, optFormFade})
+        for (QAbstractButton* option : group->buttons()) order.append(option);
+    order.append(cmdQuit);
     for (qsizetype i = 1; i < order.size(); ++i) QWidget::setTabOrder(order[i - 1], order[i]);
     grid->setFocus();
 }
@@ -203,7 +201,7 @@ void frmGetPlayers::highlightRow(int row) {
 }
 
 void frmGetPlayers::showPairing(const Pairing& pairing) {
-    for (const int side : {1, 2}) {
+    for (const int side : kSides) {
         frame[side]->setCaption(toQt(pairing.frameCaption(side)));
         frame[side]->setName(QString::fromStdString(pairing.labelPlayerName(side)));
     }
@@ -214,7 +212,7 @@ void frmGetPlayers::showPairing(const Pairing& pairing) {
 void frmGetPlayers::showOptions() {
     check(*optScreenSize, m_shared.ScreenSize);
     check(*optRounds, settings::readRoundsChoice(m_ports.settings));
-    check(*optFormFade, m_shared.FadeStatus ? 1 : 2);
+    check(*optFormFade, m_shared.FadeStatus ? Lobby::kFadeEnabled : Lobby::kFadeDisabled);
 }
 
 bool frmGetPlayers::canFade() {

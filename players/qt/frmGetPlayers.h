@@ -63,7 +63,8 @@ class frmGetPlayers : public QWidget, private LobbyView {
     void makeButtons();
     void makeComputerBox();
     void makeOptions();
-    QButtonGroup* makeOptionGroup(const QString& title, const QStringList& captions, int left);
+    QButtonGroup* makeOptionGroup(const QString& name, const QString& title,
+                                  const QStringList& captions, int left);
     void connectControls();
     void addShortcuts();
     void setTabOrder();

@@ -18,9 +18,9 @@ struct Level {
     const char* hint;
 };
 
-constexpr Level kLevels[] = {
-    {6, 16, "Wide of the mark"}, {5, 170, "A fair match"}, {4, 324, "Deadly"}};
-constexpr int kFair = 5;
+constexpr Level kLevels[] = {{kPoorSkill, 16, "Wide of the mark"},
+                             {kFairSkill, 170, "A fair match"},
+                             {kGoodSkill, 324, "Deadly"}};
 
 QLabel* centredLabel(const QString& text, const char* role, const QRect& place, QWidget* parent) {
     auto* label = new QLabel{text, parent};
@@ -45,7 +45,7 @@ frmGetSkillLevel::frmGetSkillLevel(basSkylob& shared, const SettingsStore& setti
                                     {level.left, 52, 140, 124});
         connect(button, &GlintButton::Click, this,
                 [this, index = level.index] { cmdSkillLevel_Click(index); });
-        if (level.index == kFair) button->setFocus();
+        if (level.index == kFairSkill) button->setFocus();
         centredLabel(tr(level.hint), "note", {level.left, 180, 140, 20}, this);
     }
     m_fade->load();

@@ -17,7 +17,7 @@ namespace skylob {
 namespace {
 
 constexpr int kMinute = 60'000;
-constexpr QRect kFrames[] = {{16, 88, 276, 140}, {308, 88, 276, 140}};
+constexpr PerSide<QRect> kFrames{{16, 88, 276, 140}, {308, 88, 276, 140}};
 constexpr QRect kFace{16, 256, 54, 54}, kBubble{88, 244, 496, 112};
 constexpr QPoint kBubbleTip{76, 283};
 constexpr int kBubbleTipHalf = 8;
@@ -73,10 +73,10 @@ frmSummary::frmSummary(basSkylob& shared, SummaryKind kind, const SummaryPorts& 
 }
 
 void frmSummary::makeFrames() {
-    for (const int side : {1, 2}) {
+    for (const int side : kSides) {
         frame[side] = new QtSideFrame{side, this};
         QtSideFrame& box = *frame[side];
-        box.setGeometry(kFrames[side - 1]);
+        box.setGeometry(kFrames[side]);
         box.setCaption(QString::fromStdString(m_shared.PlayerName[side]));
         box.setBadge(QtSideFrame::Badge::Filled);
         labelRoundsWon[side] =

@@ -26,8 +26,6 @@ namespace {
 
 using Time = std::chrono::steady_clock;
 
-using namespace std::string_literals;
-
 constexpr int kPlayers = 300;
 constexpr int kKills = 300, kSets = 30;  // at least
 
@@ -49,7 +47,7 @@ struct KilledRecording : testing::Test, PlayersRig {
         shared.Winner = 1;
         std::string list;
         for (int number = 1; number <= kPlayers; ++number)
-            list += record("Player " + std::to_string(number), kNew);
+            list += record("Player " + std::to_string(number));
         put(list);
     }
 
@@ -67,7 +65,8 @@ struct KilledRecording : testing::Test, PlayersRig {
         kill(child, SIGKILL);
         int status = 0;
         waitpid(child, &status, 0);
-        ASSERT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL) << status;
+        ASSERT_TRUE(WIFSIGNALED(status)) << status;
+        ASSERT_EQ(WTERMSIG(status), SIGKILL);
         close(ready[0]);
         close(ready[1]);
     }
@@ -81,22 +80,22 @@ struct KilledRecording : testing::Test, PlayersRig {
         for (PlayerRecord found : file.readAll()) {
             const std::string name = nameOf(found);
             EXPECT_TRUE(names.insert(name).second) << name;
-            found.Name = PlayerRecord::blankName();
-            found.Ranking = 0;
-            const int side = name == shared.PlayerName[1]   ? 1
-                             : name == shared.PlayerName[2] ? 2
-                                                            : 0;
-            if (side != 0) sets[side] = found.SetsPlayed;
-            const auto& known = side == 1 ? winner : loser;
-            EXPECT_EQ(found, known.at(static_cast<std::size_t>(side == 0 ? 0 : sets[side])))
-                << name;
+            PlayerRecord expected;
+            for (const int side : kSides) {
+                if (name != shared.PlayerName[side]) continue;
+                sets[side] = found.SetsPlayed;
+                expected = careers[side].at(static_cast<std::size_t>(found.SetsPlayed));
+            }
+            found.Name = expected.Name;
+            found.Ranking = expected.Ranking;
+            EXPECT_EQ(found, expected) << name;
         }
         EXPECT_EQ(sets[1], sets[2]);
         return sets;
     }
 
-    const std::vector<PlayerRecord> winner = career(128, true);  // 100 + 28
-    const std::vector<PlayerRecord> loser = career(37, false);   // 30 + 7
+    const PerSide<std::vector<PlayerRecord>> careers{career(128, true),   // 100 + 28
+                                                     career(37, false)};  // 30 + 7
 };
 
 TEST_F(KilledRecording, LeavesEveryPlayerOnceAndEveryRecordWhole) {
@@ -113,6 +112,10 @@ TEST_F(KilledRecording, LeavesEveryPlayerOnceAndEveryRecordWhole) {
 
 /// What a file system offers: files without a name, or only such as have one.
 enum class NewFiles { Unnamed, Named };
+
+void PrintTo(NewFiles files, std::ostream* out) {
+    *out << (files == NewFiles::Unnamed ? "UnnamedFiles" : "NamedFiles");
+}
 
 /// From now on this process cannot open files without a name.
 void forbidUnnamedFiles() {
@@ -156,7 +159,8 @@ struct KilledAtEveryStep : testing::TestWithParam<NewFiles>, PlayersRig {
             waitpid(child, &status, 0);
         }
         if (!WIFSTOPPED(status)) {
-            EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << status;
+            EXPECT_TRUE(WIFEXITED(status)) << status;
+            EXPECT_EQ(WEXITSTATUS(status), 0);
             return false;
         }
         kill(child, SIGKILL);
@@ -174,39 +178,34 @@ struct KilledAtEveryStep : testing::TestWithParam<NewFiles>, PlayersRig {
             put(before);
             killed = killedAt(step, work);
             const std::string found = bytes();
-            EXPECT_TRUE(found == after || (killed && found == before)) << step << ": " << found;
+            if (!killed || found != before) {
+                EXPECT_EQ(found, after) << step;
+            }
             if (std::filesystem::exists(tempPath)) {
                 if (GetParam() == NewFiles::Named) continue;
                 EXPECT_EQ(bytesOf(tempPath), after) << step;
                 ++wholeTemporaries;
             } else if (!found.empty()) {
-                EXPECT_TRUE(remove(1));
+                EXPECT_EQ(remove(1), ListChange::Done) << step;
                 EXPECT_EQ(bytes().size(), found.size() - kRecordLength) << step;
             }
         }
         EXPECT_GT(step, 20);
         EXPECT_LE(wholeTemporaries, 2);  // named and not yet renamed
     }
-
-    std::string tempPath = folder / "TempFile.$$$";
 };
 
 TEST_P(KilledAtEveryStep, LeavesAllOfTheOldListOrAllOfTheNewOne) {
-    const std::string ann = record("Ann", kNew), bob = record("Bob", kNew);
-    const std::string carl = record("Carl", kNew), dora = record("Dora", kNew);
     // Dora: (1 + 28) / 1, won: 0973.08; Bob: (1 + 7) / 1, lost: 1001.00, below those without a set
-    killEverywhere(ann + bob + carl + dora,
-                   record("Dora", "\1\0\1\0\x1D\0\1\0\0"s) + ann + carl +
-                       record("Bob", "\1\0\0\0\x08\0\4\0\0"s),
+    killEverywhere(ann + bob + cyd + record("Dora"),
+                   record("Dora", 1, 1, 29, 1) + ann + cyd + record("Bob", 1, 0, 8, 4),
                    [this] { RecordSetResults(file, shared); });
-    killEverywhere(ann + bob + carl, ann + carl, [this] { remove(2); });
+    killEverywhere(ann + bob + cyd, ann + cyd, [this] { remove(2); });
     killEverywhere(ann, "", [this] { remove(1); });
 }
 
 INSTANTIATE_TEST_SUITE_P(, KilledAtEveryStep, testing::Values(NewFiles::Unnamed, NewFiles::Named),
-                         [](const auto& ways) {
-                             return ways.param == NewFiles::Unnamed ? "UnnamedFiles" : "NamedFiles";
-                         });
+                         testing::PrintToStringParamName());
 
 }  // namespace
 

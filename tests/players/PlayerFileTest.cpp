@@ -15,9 +15,7 @@ namespace skylob::test {
 
 using namespace std::string_literals;
 
-struct PlayerFileTest : testing::Test, PlayersRig {
-    std::string tempPath = folder / "TempFile.$$$";
-};
+struct PlayerFileTest : testing::Test, PlayersRig {};
 
 static std::string errorOf(const std::function<void()>& work) {
     try {
@@ -32,8 +30,7 @@ TEST_F(PlayerFileTest, AddsAndRenamesInPlace) {
     add("Ann");
     add("Twenty characters and more");
     add("Zo\xC3\xAB \xE2\x82\xAC \xC5\x81 \xF0\x9F\x98\x80 \xFF");  // Zoë € Ł, a smile, a lone byte
-    EXPECT_EQ(bytes(), record("Ann", kNew) + record("Twenty characters an", kNew) +
-                           record("Zo\xEB \x80 ? ? ?", kNew));
+    EXPECT_EQ(bytes(), ann + record("Twenty characters an") + record("Zo\xEB \x80 ? ? ?"));
     EXPECT_EQ(file.PlayerCount, 3);
     file.readRecord(3);
     EXPECT_EQ(nameOf(file.CurrentRecord), "Zo\xC3\xAB \xE2\x82\xAC ? ? ?");
@@ -41,9 +38,9 @@ TEST_F(PlayerFileTest, AddsAndRenamesInPlace) {
     for (int i = 0; i < 21; ++i) tooLong += "\xC3\xAB";
     EXPECT_EQ(nameOnFile("  " + tooLong), tooLong.substr(0, 40));
     EXPECT_EQ(nameOnFile(" \t "), "");
-    put(record("Twenty characters...", "\4\0\3\0\x2C\1\1\0\x7F"s) + record("Bob", kNew));
+    put(record("Twenty characters...", "\4\0\3\0\x2C\1\1\0\x7F"s) + bob);
     rename(1, "Al");
-    EXPECT_EQ(bytes(), record("Al", "\4\0\3\0\x2C\1\1\0\x7F"s) + record("Bob", kNew));
+    EXPECT_EQ(bytes(), record("Al", "\4\0\3\0\x2C\1\1\0\x7F"s) + bob);
     EXPECT_EQ(folder.content(), "Skylob.Data ");
 }
 
@@ -62,7 +59,7 @@ TEST(Windows1252, HasSpecialCharactersOfItsOwn) {
 
 TEST_F(PlayerFileTest, CountsAndShowsWhateverItHolds) {
     const std::string odd = record("\tA\0B\x7F\x81"s, "\xFF\xFF\0\x80\xFF\x7F\1\2\xFE"s);
-    put(odd + record("  Bob", kNew));
+    put(odd + record("  Bob"));
     for (const auto& [length, count] : {std::pair{58, 2}, {44, 2}, {43, 1}, {15, 1}, {14, 0}}) {
         std::filesystem::resize_file(path, static_cast<std::uintmax_t>(length));
         file.OpenPlayerFile();
@@ -77,47 +74,51 @@ TEST_F(PlayerFileTest, CountsAndShowsWhateverItHolds) {
     EXPECT_EQ(file.CurrentRecord.Ranking, 513);
     // Five bytes are no record, so the new one goes over them.
     add("Cyd");
-    EXPECT_EQ(bytes(), odd + record("Cyd", kNew));
+    EXPECT_EQ(bytes(), odd + cyd);
     // The missing bytes of a last record are zeros, and control characters.
     put(odd + record("Bob", ""));
     remove(1);
-    EXPECT_EQ(bytes(), record("Bob", kNew));
+    EXPECT_EQ(bytes(), bob);
 }
 
 TEST_F(PlayerFileTest, DeletesAndRanksByPlace) {
-    const std::string before = record("Ann", "\4\0\3\0\x29\0\1\0\5"s) +
-                               record("Bob", "\1\0\1\0\x1E\0\2\0\6"s) + record("Cyd", kNew) +
-                               record("Dan", "\1\0\0\0\x1E\0\4\0\0"s);
+    const std::string before = record("Ann", 4, 3, 41, 1, 5) + record("Bob", 1, 1, 30, 2, 6) + cyd +
+                               record("Dan", 1, 0, 30, 4);
     put(before);
     std::filesystem::create_hard_link(path, folder / "old");
     remove(1);
-    EXPECT_EQ(bytes(), record("Bob", "\1\0\1\0\x1E\0\1\0\6"s) + record("Cyd", kNew) +
-                           record("Dan", "\1\0\0\0\x1E\0\3\0\0"s));
+    EXPECT_EQ(bytes(), record("Bob", 1, 1, 30, 1, 6) + cyd + record("Dan", 1, 0, 30, 3));
     EXPECT_EQ(folder.content(), "Skylob.Data old ");
     EXPECT_EQ(bytesOf(folder / "old"), before);  // replaced at one stroke, not overwritten
 }
 
 TEST_F(PlayerFileTest, KeepsWhatAnOlderTemporaryFileHasBeyondTheList) {
-    put(record("Ann", kNew) + record("Bob", kNew));
-    putBytes(tempPath, record("Old", kNew) + record("Older", "\1\0\1\0\1\0\1\0\0"s));
+    const std::string older = record("Older", 1, 1, 1, 1);
+    put(ann + bob);
+    putBytes(tempPath, record("Old") + older + "half of a record...");
     remove(1);
-    EXPECT_EQ(bytes(), record("Bob", kNew) + record("Older", "\1\0\1\0\1\0\1\0\0"s));
-    putBytes(tempPath, record("Old", kNew));
+    EXPECT_EQ(bytes(), bob + older + "half of a record...");
+    EXPECT_EQ(file.PlayerCount, 3);
+    EXPECT_EQ(file.records(), PlayerFile(files, path).readAll());
+    put(bob + older);
+    putBytes(tempPath, record("Old"));
     for (int left = 2; left > 0; --left) remove(1);
     EXPECT_EQ(folder.content(), "");
+    EXPECT_EQ(file.PlayerCount, 0);
+    EXPECT_EQ(file.records().size(), 0U);
 }
 
 TEST_F(PlayerFileTest, RefusesTooManyPlayers) {
     std::string most;
-    for (int i = 0; i < 32767; ++i) most += record("Ann", kNew);
+    for (int i = 0; i < 32767; ++i) most += ann;
     put(most);
-    EXPECT_FALSE(file.addPlayer("Bob"));
+    EXPECT_EQ(add("Bob"), ListChange::ListFull);
     EXPECT_EQ(bytes(), most);
     rename(32767, "Bob");
-    EXPECT_EQ(bytes().substr(29 * 32766), record("Bob", kNew));
+    EXPECT_EQ(bytes().substr(29 * 32766), bob);
 
-    putBytes(tempPath, most + record("One more", kNew));
-    put(record("Ann", kNew) + record("Bob", kNew));
+    putBytes(tempPath, most + record("One more"));
+    put(ann + bob);
     EXPECT_THROW(remove(1), FileError);
     EXPECT_EQ(bytes().size(), 58U);
 
@@ -128,7 +129,7 @@ TEST_F(PlayerFileTest, RefusesTooManyPlayers) {
 }
 
 TEST_F(PlayerFileTest, TellsWhatFailedAndChangesNothing) {
-    const std::string before = record("Ann", "\1\0\1\0\x1E\0\1\0\0"s) + record("Bob", kNew);
+    const std::string before = record("Ann", 1, 1, 30, 1) + bob;
     for (const char* failing :
          {"open Skylob.Data", "read Skylob.Data", "open TempFile.$$$", "replace Skylob.Data"}) {
         put(before);
@@ -138,22 +139,25 @@ TEST_F(PlayerFileTest, TellsWhatFailedAndChangesNothing) {
         files.failing.clear();
         EXPECT_EQ(file.readAll().size(), 2U) << failing;  // nothing of the failure is left behind
     }
-    put(record("Ann", kNew));
+    put(ann);
     files.failing = "remove Skylob.Data";
     EXPECT_THROW(remove(1), FileError);
     for (const char* failing : {"write Skylob.Data", "sync Skylob.Data"}) {
         files.failing = failing;
         EXPECT_THROW(add("Bob"), FileError) << failing;
-        EXPECT_EQ(bytes().substr(0, 29), record("Ann", kNew)) << failing;
+        EXPECT_EQ(bytes().substr(0, 29), ann) << failing;
     }
     files.failing.clear();
     std::filesystem::remove(path);
     std::filesystem::create_directory(path);
-    EXPECT_EQ(errorOf([this] { add("Bob"); }), "Could not open " + path + ":\nIs a directory");
+    const auto couldNotOpen = [this](const char* why) { return "Could not open " + path + why; };
+    EXPECT_EQ(errorOf([this] { add("Bob"); }), couldNotOpen(":\nIt is no plain file"));
+    EXPECT_EQ(errorOf([this] { RecordSetResults(file, shared); }),
+              couldNotOpen(":\nIs a directory"));
 }
 
 TEST_F(PlayerFileTest, KnowsOnlyTheRecordsThatThereAre) {
-    const std::string before = record("Ann", kNew) + record(" Bob", kNew);
+    const std::string before = ann + record(" Bob");
     put(before);
     file.OpenPlayerFile();
     for (const int number : {-1, 0, 3}) EXPECT_THROW(file.readRecord(number), FileError) << number;
@@ -164,18 +168,17 @@ TEST_F(PlayerFileTest, KnowsOnlyTheRecordsThatThereAre) {
     file.ClosePlayerFile();
     put(before);
     // Another one in that place, nobody, and one who only looks the same.
-    ListedPlayer bob = listed(2);
-    for (const ListedPlayer& gone : {ListedPlayer{1, bob.record},
-                                     {3, bob.record},
-                                     {0, bob.record},
-                                     {2, unpackRecord("Bob ")}}) {
-        EXPECT_FALSE(file.renamePlayer(gone, "Bea"));
-        EXPECT_FALSE(file.deletePlayer(gone));
+    const PlayerRecord second = listed(2).record;
+    for (const ListedPlayer& gone :
+         {ListedPlayer{1, second}, {3, second}, {0, second}, {2, unpackRecord("Bob ")}}) {
+        EXPECT_EQ(file.renamePlayer(gone, "Bea"), ListChange::Outdated);
+        EXPECT_EQ(file.deletePlayer(gone), ListChange::Outdated);
     }
     EXPECT_EQ(bytes(), before);
-    bob.record.SetsPlayed = 7;  // a set that another copy has recorded in between
-    EXPECT_TRUE(file.renamePlayer(bob, "Bea"));
-    EXPECT_EQ(bytes(), record("Ann", kNew) + record("Bea", kNew));
+    ListedPlayer known{2, second};
+    known.record.SetsPlayed = 7;  // a set that another copy has recorded in between
+    EXPECT_EQ(file.renamePlayer(known, "Bea"), ListChange::Done);
+    EXPECT_EQ(bytes(), ann + record("Bea"));
 }
 
 TEST_F(PlayerFileTest, WritesThroughNoLinkInThePlaceOfItsTemporaryFile) {
@@ -186,11 +189,11 @@ TEST_F(PlayerFileTest, WritesThroughNoLinkInThePlaceOfItsTemporaryFile) {
         [&] { std::filesystem::create_symlink(folder / "nothing", tempPath); },
         [&] { std::filesystem::create_hard_link(other, tempPath); }};
     for (const auto& link : links) {
-        put(record("Ann", kNew) + record("Bob", kNew));
+        put(ann + bob);
         for (const char* left : {"Bob", ""}) {
             link();
-            EXPECT_TRUE(remove(1));
-            EXPECT_EQ(bytes(), *left ? record(left, kNew) : "");
+            EXPECT_EQ(remove(1), ListChange::Done);
+            EXPECT_EQ(bytes(), *left ? record(left) : "");
             EXPECT_EQ(bytesOf(other), text);
             EXPECT_EQ(folder.content(), *left ? "Skylob.Data other " : "other ");
         }
@@ -215,7 +218,6 @@ class AnyUser {
 
 TEST_F(PlayerFileTest, ReadsAListThatMayOnlyBeRead) {
     using std::filesystem::perms;
-    const std::string ann = record("Ann", kNew), bob = record("Bob", kNew);
     const std::string place = std::filesystem::path{path}.parent_path();
     shared.PlayerName = {"Ann", "Bob"};
     put(ann + bob);
@@ -224,6 +226,8 @@ TEST_F(PlayerFileTest, ReadsAListThatMayOnlyBeRead) {
     {
         const AnyUser user;
         EXPECT_EQ(file.readAll().size(), 2U);
+        EXPECT_EQ(add("Ann"), ListChange::NameTaken);
+        EXPECT_EQ(rename(1, "Bob"), ListChange::NameTaken);
         EXPECT_EQ(errorOf([this] { add("Cyd"); }),
                   "Could not open " + path + ":\nPermission denied");
         EXPECT_THROW(rename(1, "Cyd"), FileError);
@@ -254,7 +258,7 @@ static void limitFileSize(rlim_t most) {
 }
 
 TEST_F(PlayerFileTest, WritesAllOfARecordOrNothing) {
-    const std::string before = record("Ann", kNew) + record("Bob", kNew);
+    const std::string before = ann + bob;
     put(before);
     limitFileSize(80);  // in the middle of a third record
     EXPECT_THROW(add("Cyd"), FileError);
@@ -267,7 +271,7 @@ TEST_F(PlayerFileTest, WritesAllOfARecordOrNothing) {
     limitFileSize(RLIM_INFINITY);
     EXPECT_EQ(bytes(), before);
     remove(1);
-    EXPECT_EQ(bytes(), record("Bob", kNew));
+    EXPECT_EQ(bytes(), bob);
 }
 
 }  // namespace skylob::test

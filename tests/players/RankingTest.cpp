@@ -7,8 +7,6 @@
 
 namespace skylob::test {
 
-using namespace std::string_literals;
-
 static PlayerRecord played(int sets, int won, int average) {
     PlayerRecord record;
     record.SetsPlayed = static_cast<std::int16_t>(sets);
@@ -22,18 +20,13 @@ TEST(Windows1252, GoesOnAfterACharacterCutShort) {
 }
 
 TEST(RankingKey, IsTheTabledOne) {
-    const auto keyText = [](int sets, int won, int average) {
-        return formatKey(rankingKey(played(sets, won, average)));
-    };
+    const std::pair<PlayerRecord, const char*> keys[] = {
+        {played(0, 5, 77), "0999.99"},    {played(-3, 5, 77), "0999.99"},
+        {played(1, 0, 30), "1000.78"},    {played(4, 3, 20), "0992.06"},
+        {played(10, 9, 40), "0983.07"},   {played(2, 1, 0), "1003.08"},
+        {played(1, 1, 1100), "-0097.93"}, {played(20000, 20000, 2), "40998.07"}};
+    for (const auto& [record, text] : keys) EXPECT_EQ(formatKey(rankingKey(record)), text);
     EXPECT_EQ(rankingKey(played(1, 1, 30)), 972.075F);
-    EXPECT_EQ(keyText(0, 5, 77), "0999.99");
-    EXPECT_EQ(keyText(-3, 5, 77), "0999.99");
-    EXPECT_EQ(keyText(1, 0, 30), "1000.78");
-    EXPECT_EQ(keyText(4, 3, 20), "0992.06");
-    EXPECT_EQ(keyText(10, 9, 40), "0983.07");
-    EXPECT_EQ(keyText(2, 1, 0), "1003.08");
-    EXPECT_EQ(keyText(20000, 20000, 2), "40998.07");
-    EXPECT_EQ(keyText(1, 1, 1100), "-0097.93");
     EXPECT_EQ(formatKey(1000.125F), "1000.13");
     EXPECT_EQ(formatKey(999.996F), "1000.00");
     EXPECT_EQ(formatKey(-0.004F), "0000.00");
@@ -89,47 +82,41 @@ TEST_F(RecordSetResultsTest, UpdatesBothPlayersAndRanksAll) {
     // Bob: (120 + 57) / 5 = 35, two of five: 1000 - (2.01 / 5.01) x 35 + 7.075 = 0993.03
     // Cyd: one of two, 10: 1000 - (1.01 / 2.01) x 10 + 3.075 = 0998.05
     // Dan: none of one, 30: 1000.78, below Eve, who has never played
-    EXPECT_EQ(
-        recordIn(record("Cyd", "\2\0\1\0\x0A\0\1\0\7"s) + record("Dan", "\1\0\0\0\x1E\0\2\0\0"s) +
-                 record("Bob", "\4\0\2\0\x1E\0\3\0\x09"s) + record("Eve", kNew) +
-                 record("Ann", kNew)),
-        record("Ann", "\1\0\1\0\x68\0\1\0\0"s) + record("Bob", "\5\0\2\0\x23\0\2\0\x09"s) +
-            record("Cyd", "\2\0\1\0\x0A\0\3\0\7"s) + record("Eve", kNew) +
-            record("Dan", "\1\0\0\0\x1E\0\5\0\0"s));
+    EXPECT_EQ(recordIn(record("Cyd", 2, 1, 10, 1, 7) + record("Dan", 1, 0, 30, 2) +
+                       record("Bob", 4, 2, 30, 3, 9) + record("Eve") + ann),
+              record("Ann", 1, 1, 104, 1) + record("Bob", 5, 2, 35, 2, 9) +
+                  record("Cyd", 2, 1, 10, 3, 7) + record("Eve") + record("Dan", 1, 0, 30, 5));
     EXPECT_EQ(file.PlayerCount, 5);
 }
 
 TEST_F(RecordSetResultsTest, KeepsTheOrderOfEqualTextsAndOfAllWhoseNamesDiffer) {
     // Played alike, first Fay, then Gil. The names are exact; blanks at their ends do not count.
-    const std::string alike = "\2\0\1\0\x0A\0\0\0\0"s;
     shared.PlayerName = {"  ANN ", "Al Fox"};
-    EXPECT_EQ(recordIn(record("Ann", kNew) + record("Fay", alike) + record("Gil", alike) +
-                       record(" Al Fox", kNew) + record("Zoe", kNew)),
-              record("Fay", "\2\0\1\0\x0A\0\1\0\0"s) + record("Gil", "\2\0\1\0\x0A\0\2\0\0"s) +
-                  record("Ann", kNew) + record("Zoe", kNew) +
+    EXPECT_EQ(recordIn(ann + record("Fay", 2, 1, 10, 0) + record("Gil", 2, 1, 10, 0) +
+                       record(" Al Fox") + record("Zoe")),
+              record("Fay", 2, 1, 10, 1) + record("Gil", 2, 1, 10, 2) + ann + record("Zoe") +
                   // (1 + 57) / 1 = 58, lost: 1000 - (0.01 / 1.01) x 58 + 1.075 = 1000.50
-                  record(" Al Fox", "\1\0\0\0\x3A\0\5\0\0"s));
+                  record(" Al Fox", 1, 0, 58, 5));
 }
 
 TEST_F(RecordSetResultsTest, LeavesASinglePlayerUnranked) {
-    EXPECT_EQ(recordIn(record("Ann", kNew)), record("Ann", "\1\0\1\0\x68\0\0\0\0"s));
+    EXPECT_EQ(recordIn(ann), record("Ann", 1, 1, 104, 0));
     EXPECT_EQ(recordIn(""), "");
     // It needs no temporary file.
-    putBytes(folder / "TempFile.$$$", "old");
-    put(record("Bob", kNew));
+    putBytes(tempPath, "old");
+    put(bob);
     RecordSetResults(file, shared);
-    EXPECT_EQ(bytes(), record("Bob", "\1\0\0\0\x3A\0\0\0\0"s));
-    EXPECT_EQ(bytesOf(folder / "TempFile.$$$"), "old");
+    EXPECT_EQ(bytes(), record("Bob", 1, 0, 58, 0));
+    EXPECT_EQ(bytesOf(tempPath), "old");
     files.failing = "sync Skylob.Data";
-    EXPECT_THROW(recordIn(record("Ann", kNew)), FileError);
+    EXPECT_THROW(recordIn(ann), FileError);
 }
 
 TEST_F(RecordSetResultsTest, LosesNoResultWhenTheNewOrderCannotBeStored) {
-    std::filesystem::create_directory(folder / "TempFile.$$$");
-    put(record("Bob", kNew) + record("Cyd", kNew) + record("Ann", kNew));
+    std::filesystem::create_directory(tempPath);
+    put(bob + cyd + ann);
     EXPECT_THROW(RecordSetResults(file, shared), FileError);
-    EXPECT_EQ(bytes(), record("Bob", "\1\0\0\0\x3A\0\0\0\0"s) + record("Cyd", kNew) +
-                           record("Ann", "\1\0\1\0\x68\0\0\0\0"s));
+    EXPECT_EQ(bytes(), record("Bob", 1, 0, 58, 0) + cyd + record("Ann", 1, 1, 104, 0));
 }
 
 }  // namespace skylob::test

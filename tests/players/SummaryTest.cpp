@@ -9,7 +9,6 @@
 namespace skylob::test {
 
 using namespace std::chrono;
-using namespace std::string_literals;
 
 TEST(DateTimeText, IsTheSameEverywhere) {
     const auto at = [](sys_days day, milliseconds time) {
@@ -61,15 +60,14 @@ struct SummaryTest : testing::Test, PlayersRig {
 };
 
 TEST_F(SummaryTest, OfARoundRecordsNothing) {
-    const std::string list = record("Ann", kNew) + record("Bob", kNew);
-    put(list);
+    put(ann + bob);
     Summary summary{shared, SummaryKind::Round, ports};
     summary.Form_Activate();
     EXPECT_EQ(summary.heading(), "Ann wins this Round!");
     EXPECT_EQ(summary.labelComputerSays(), "one");
     EXPECT_EQ(summary.labelDateTime(), "01/01/70 - 12:00am");
     summary.cmdOkay_Click();
-    EXPECT_EQ(bytes(), list);
+    EXPECT_EQ(bytes(), ann + bob);
     EXPECT_TRUE(log.empty());
     shared.PlayerName[2] = "Computer";
     summary.Form_Activate();
@@ -77,7 +75,7 @@ TEST_F(SummaryTest, OfARoundRecordsNothing) {
 }
 
 TEST_F(SummaryTest, OfASetDecidesAndRecordsIt) {
-    put(record("Ann", kNew) + record("Bob", kNew));
+    put(ann + bob);
     shared.SetOver = true;
     shared.SelfHit = true;
     boxes.answers = {BoxAnswer::Ok};
@@ -86,13 +84,12 @@ TEST_F(SummaryTest, OfASetDecidesAndRecordsIt) {
     EXPECT_EQ(summary.heading(), "Bob wins this Set!");
     EXPECT_EQ(summary.labelComputerSays(), "set");
     summary.cmdOkay_Click();
-    EXPECT_EQ(bytes(),
-              record("Bob", "\1\0\1\0\x37\0\1\0\0"s) + record("Ann", "\1\0\0\0\x37\0\2\0\0"s));
+    EXPECT_EQ(bytes(), record("Bob", 1, 1, 55, 1) + record("Ann", 1, 0, 55, 2));
     EXPECT_EQ(log, (Log{"sound set", "box Players Update"}));
     EXPECT_EQ(boxes.shown[0].find("Players Update: Ann & Bob--\r\nYour overall rating"), 0U);
-    put(record("Bob", kNew));
+    put(bob);
     summary.cmdOkay_Click();  // no box about a list of one
-    EXPECT_EQ(bytes(), record("Bob", "\1\0\1\0\x37\0\0\0\0"s));
+    EXPECT_EQ(bytes(), record("Bob", 1, 1, 55, 0));
 }
 
 TEST(Commentary, FitsTheWinnerAndTheShots) {

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <map>
 #include <set>
 #include <string>
 
@@ -47,21 +48,24 @@ inline void putBytes(const std::string& path, const std::string& bytes) {
     std::ofstream{path, std::ios::binary | std::ios::trunc} << bytes;
 }
 
-/// The disk, on which one operation goes wrong: the one whose name and file's name end in
-/// `failing`, such as "write TempFile.$$$".
+/// The disk, which counts what is done on it, and on which one operation goes wrong. Operations are
+/// named like "write Skylob.Data".
 class FailingFiles : public FileSystem {
   public:
-    std::string failing;
+    using File = std::unique_ptr<RandomAccessFile>;
 
-    std::unique_ptr<RandomAccessFile> open(const std::string& name) override {
+    std::string failing;
+    mutable std::map<std::string, int> done;
+
+    File open(const std::string& name) override {
         check("open", name);
-        return std::make_unique<File>(*this, name, m_disk.open(name));
+        return watched(name, m_disk.open(name));
     }
-    std::unique_ptr<RandomAccessFile> openForReading(const std::string& name) override {
+    File openForReading(const std::string& name) override {
         check("open", name);
-        return std::make_unique<File>(*this, name, m_disk.openForReading(name));
+        return watched(name, m_disk.openForReading(name));
     }
-    std::unique_ptr<RandomAccessFile> openLeftover(const std::string& name) override {
+    File openLeftover(const std::string& name) override {
         check("open", name);
         return m_disk.openLeftover(name);
     }
@@ -81,42 +85,39 @@ class FailingFiles : public FileSystem {
     }
 
   private:
-    class File : public RandomAccessFile {
-      public:
-        File(FailingFiles& files, std::string name, std::unique_ptr<RandomAccessFile> file)
-            : m_files{files}, m_name{std::move(name)}, m_file{std::move(file)} {}
-        std::int64_t length() const override { return m_file->length(); }
+    struct Watched : RandomAccessFile {
+        Watched(FailingFiles& of, std::string itsName, File real)
+            : files{of}, name{std::move(itsName)}, file{std::move(real)} {}
+        std::int64_t length() const override { return file->length(); }
+        bool isWritable() const override { return file->isWritable(); }
         std::string read(std::int64_t offset, std::size_t count) const override {
-            m_files.check("read", m_name);
-            return m_file->read(offset, count);
+            files.check("read", name);
+            return file->read(offset, count);
         }
         void write(std::int64_t offset, std::string_view bytes) override {
-            m_files.check("write", m_name);
-            m_file->write(offset, bytes);
+            files.check("write", name);
+            file->write(offset, bytes);
         }
         void sync() override {
-            m_files.check("sync", m_name);
-            m_file->sync();
+            files.check("sync", name);
+            file->sync();
         }
 
-      private:
-        FailingFiles& m_files;
-        std::string m_name;
-        std::unique_ptr<RandomAccessFile> m_file;
+        FailingFiles& files;
+        std::string name;
+        File file;
     };
 
+    File watched(const std::string& name, File file) {
+        return std::make_unique<Watched>(*this, name, std::move(file));
+    }
     void check(const std::string& operation, const std::string& name) const {
-        if (operation + ' ' + std::filesystem::path{name}.filename().string() == failing)
-            throw FileError{"failed on demand"};
+        const auto what = operation + ' ' + std::filesystem::path{name}.filename().string();
+        ++done[what];
+        if (what == failing) throw FileError{"failed on demand"};
     }
 
     DiskFiles m_disk;
 };
-
-/// The 29 bytes of a record, from the name and the nine bytes behind it.
-inline std::string record(std::string name, const std::string& figures) {
-    name.resize(20, ' ');
-    return name + figures;
-}
 
 }  // namespace skylob::test

@@ -1,13 +1,39 @@
 #pragma once
 
+#include <ostream>
+
 #include "base/basSkylob.h"
 #include "players/PlayerFile.h"
 #include "tests/support/FileFakes.h"
+
+namespace skylob {
+
+inline void PrintTo(ListChange change, std::ostream* out) {
+    constexpr const char* kNames[] = {"Done", "NameTaken", "ListFull", "Outdated"};
+    *out << kNames[static_cast<int>(change)];
+}
+
+}  // namespace skylob
 
 namespace skylob::test {
 
 /// The figures of somebody who has never played.
 inline const std::string kNew(9, '\0');
+
+/// The 29 bytes of a record, from the name and the nine bytes behind it.
+inline std::string record(std::string name, const std::string& figures = kNew) {
+    name.resize(20, ' ');
+    return name + figures;
+}
+
+/// The same from small numbers: sets played, won, average, ranking.
+inline std::string record(const std::string& name, int sets, int won, int average, int ranking,
+                          int spare = 0) {
+    std::string figures;
+    for (const int number : {sets, won, average, ranking})
+        figures.append(1, static_cast<char>(number)).append(1, '\0');
+    return record(name, figures.append(1, static_cast<char>(spare)));
+}
 
 /// A player list in a folder of its own.
 struct PlayersRig {
@@ -19,14 +45,15 @@ struct PlayersRig {
         const auto offset = static_cast<std::size_t>(number - 1) * kRecordLength;
         return {number, unpackRecord(bytes().substr(offset, kRecordLength))};
     }
-    bool add(std::string_view name) { return file.addPlayer(name); }
-    bool rename(int number, std::string_view name) {
+    ListChange add(std::string_view name) { return file.addPlayer(name); }
+    ListChange rename(int number, std::string_view name) {
         return file.renamePlayer(listed(number), name);
     }
-    bool remove(int number) { return file.deletePlayer(listed(number)); }
+    ListChange remove(int number) { return file.deletePlayer(listed(number)); }
 
+    const std::string ann = record("Ann"), bob = record("Bob"), cyd = record("Cyd");
     TempFolder folder;
-    std::string path = folder / "Skylob.Data";
+    std::string path = folder / "Skylob.Data", tempPath = folder / "TempFile.$$$";
     FailingFiles files;
     PlayerFile file{files, path};
     basSkylob shared;

@@ -2,7 +2,6 @@
 
 #include <QAbstractItemModel>
 #include <QAbstractItemView>
-#include <QCheckBox>
 #include <QCompleter>
 #include <QDialog>
 #include <QHeaderView>
@@ -46,21 +45,31 @@ struct LobbyScreen : World {
                                        [this] { ++skillQuestions; }});
         form->show();
         (void)QTest::qWaitForWindowActive(form.get());
-        grid = form->findChild<QTableView*>();
+        grid = child<QTableView>("grid");
+        rows = grid->viewport();
     }
 
-    QString cell(int row, int column) const {
-        return grid->model()->index(row, column).data().toString();
+    template <typename Widget>
+    Widget* child(const char* name) const {
+        return form->findChild<Widget*>(name);
     }
-    bool shows(const QString& text) const {
-        for (const QLabel* label : form->findChildren<QLabel*>())
-            if (label->text() == text && label->isVisible()) return true;
-        return false;
+    /// The names of the chosen players that can be seen.
+    QString chosen() const {
+        QString names;
+        for (const char* name : {"labelPlayerName(1)", "labelPlayerName(2)"})
+            if (child<QLabel>(name)->isVisible()) names += child<QLabel>(name)->text();
+        return names;
+    }
+    bool isChecked(const char* option) const { return child<QRadioButton>(option)->isChecked(); }
+    void clickFirstRowTwice() const {
+        QTest::mouseClick(rows, Qt::LeftButton, {}, {40, 10});
+        QTest::mouseDClick(rows, Qt::LeftButton, {}, {40, 10});
     }
 
     int skillQuestions = 0;
     std::unique_ptr<frmGetPlayers> form;
     QTableView* grid = nullptr;
+    QWidget* rows = nullptr;
 };
 
 using namespace std::string_literals;
@@ -70,43 +79,41 @@ class frmGetPlayersTest : public QObject {
 
   private slots:
     void showsTheListAsItIs() {
-        LobbyScreen screen{record("\xC5sa & <b>Bo</b>", "\x0E\0\x0B\0\x2E\0\1\0\0"s) +
+        LobbyScreen screen{record("\xC5sa & <b>Bo</b>", 14, 11, 46, 1) +
                            record("", "\xFF\xFF\0\0\xFF\xFF\xFE\xFF\0"s) +
-                           record("WWWWWWWWWWWWWWWWWWWW", kNew)};
-        QCOMPARE(screen.grid->model()->rowCount(), 3);
-        const char* const cells[3][5] = {{"\xC3\x85sa & <b>Bo</b>", "14/11", "46", "1", "1"},
-                                         {"", "-1/0", "-1", "-2", "2"},
-                                         {"WWWWWWWWWWWWWWWWWWWW", "0/0", "", "", "3"}};
-        for (int row = 0; row < 3; ++row)
+                           record("WWWWWWWWWWWWWWWWWWWW")};
+        const QAbstractItemModel& table = *screen.grid->model();
+        QString cells;
+        for (int row = 0; row < table.rowCount(); ++row)
             for (int column = 0; column < 5; ++column)
-                QCOMPARE(screen.cell(row, column), QString::fromUtf8(cells[row][column]));
+                cells += table.index(row, column).data().toString() + (column < 4 ? "|" : "\n");
+        QCOMPARE(cells, QStringLiteral(u"\u00C5sa & <b>Bo</b>|14/11|46|1|1\n"
+                                       "|-1/0|-1|-2|2\n"
+                                       "WWWWWWWWWWWWWWWWWWWW|0/0|||3\n"));
         QVERIFY(screen.grid->isColumnHidden(4));
-        QCOMPARE(screen.grid->model()->headerData(0, Qt::Horizontal).toString(),
+        QCOMPARE(table.headerData(0, Qt::Horizontal).toString(),
                  QStringLiteral("Double-Click to Select Player"));
         QVERIFY(screen.grid->hasFocus());
         QCOMPARE(screen.grid->currentIndex().row(), 0);
     }
 
     void pairsByMouseAndByKeyboard() {
-        LobbyScreen screen{record("Ann", kNew) + record("Bob", kNew)};
+        LobbyScreen screen{record("Ann") + record("Bob")};
         QSignalSpy battle{screen.form.get(), &frmGetPlayers::battleChosen};
-        QWidget* const rows = screen.grid->viewport();
-        const QPoint first{40, 10};
-        QTest::mouseDClick(screen.grid->horizontalHeader()->viewport(), Qt::LeftButton, {}, first);
-        QVERIFY(!screen.shows("Ann"));
-        QTest::mouseClick(rows, Qt::LeftButton, {}, first);
-        QTest::mouseDClick(rows, Qt::LeftButton, {}, first);
-        QVERIFY(screen.shows("Ann"));
-        QLabel* chosen = nullptr;
-        for (QLabel* label : screen.form->findChildren<QLabel*>())
-            if (label->text() == "Ann") chosen = label;
-        chosen->setFocus();
-        QTest::keyClick(chosen, Qt::Key_Return);
-        QVERIFY(!screen.shows("Ann"));
+        QWidget* const header = screen.grid->horizontalHeader()->viewport();
+        QTest::mouseDClick(header, Qt::LeftButton, {}, {40, 10});
+        QCOMPARE(screen.chosen(), QString{});
+        screen.clickFirstRowTwice();
+        QCOMPARE(screen.chosen(), QStringLiteral("Ann"));
+        auto* const first = screen.child<QLabel>("labelPlayerName(1)");
+        first->setFocus();
+        QTest::keyClick(first, Qt::Key_Return);
+        QCOMPARE(screen.chosen(), QString{});
         screen.grid->setFocus();
         QTest::keyClick(screen.grid, Qt::Key_Return);
-        QTest::mouseDClick(chosen, Qt::LeftButton);
-        QVERIFY(!screen.shows("Ann"));
+        QCOMPARE(screen.chosen(), QStringLiteral("Ann"));
+        QTest::mouseDClick(first, Qt::LeftButton);
+        QCOMPARE(screen.chosen(), QString{});
         QTest::keyClick(screen.form.get(), Qt::Key_C, Qt::AltModifier);
         QCOMPARE(battle.count(), 0);
         screen.grid->setFocus();
@@ -119,21 +126,18 @@ class frmGetPlayersTest : public QObject {
     }
 
     void storesOptionsAndRefusesToFade() {
-        LobbyScreen screen{record("Ann", kNew)};
-        const auto option = [&screen](const QString& caption) {
-            for (auto* button : screen.form->findChildren<QRadioButton*>())
-                if (button->text() == caption) return button;
-            return static_cast<QRadioButton*>(nullptr);
-        };
-        QVERIFY(option("Normal")->isChecked() && option("10")->isChecked());
-        option("10")->setFocus();
-        QTest::keyClick(option("10"), Qt::Key_Down);
-        QVERIFY(option("20")->isChecked());
+        LobbyScreen screen{record("Ann")};
+        QVERIFY(screen.isChecked("optScreenSize(2)"));
+        QVERIFY(screen.isChecked("optRounds(2)"));
+        auto* const tenRounds = screen.child<QRadioButton>("optRounds(2)");
+        tenRounds->setFocus();
+        QTest::keyClick(tenRounds, Qt::Key_Down);
+        QVERIFY(screen.isChecked("optRounds(3)"));
         QCOMPARE(screen.settings.get("NumRounds", ""), "3"s);
         QCOMPARE(screen.shared.NumRounds, 20);
         screen.boxes.answers = {BoxAnswer::Ok};
-        option("Enabled")->click();
-        QVERIFY(option("Disabled")->isChecked());
+        screen.child<QRadioButton>("optFormFade(1)")->click();
+        QVERIFY(screen.isChecked("optFormFade(2)"));
         QCOMPARE(screen.settings.get("FadeStatus", ""), "False"s);
     }
 
@@ -158,7 +162,7 @@ class frmGetPlayersTest : public QObject {
     }
 
     void leavesOnlyWhenConfirmed() {
-        LobbyScreen screen{record("Ann", kNew)};
+        LobbyScreen screen{record("Ann")};
         QSignalSpy left{screen.form.get(), &frmGetPlayers::programLeft};
         screen.boxes.answers = {BoxAnswer::No, BoxAnswer::Yes};
         screen.form->close();
@@ -170,10 +174,9 @@ class frmGetPlayersTest : public QObject {
 
     void actsOnNothingBehindAModalWindow() {
         const QtModalGuard guard;
-        LobbyScreen screen{record("Ann", kNew) + record("Bob", kNew)};
+        LobbyScreen screen{record("Ann") + record("Bob")};
         QSignalSpy help{screen.form.get(), &frmGetPlayers::helpWanted};
-        auto* const cmdHelp = screen.form->findChild<GlintButton*>("cmdHelp");
-        QWidget* const rows = screen.grid->viewport();
+        auto* const cmdHelp = screen.child<GlintButton>("cmdHelp");
         const auto useScreen = [&] {
             QTest::keyClick(screen.grid, Qt::Key_Down);
             // As the toolkit sends them while it takes the screen for the active window.
@@ -181,8 +184,7 @@ class frmGetPlayersTest : public QObject {
                 QT_IGNORE_DEPRECATIONS(QShortcutEvent event(shortcut->key(), shortcut->id());)
                 QCoreApplication::sendEvent(shortcut, &event);
             }
-            QTest::mouseClick(rows, Qt::LeftButton, {}, {40, 10});
-            QTest::mouseDClick(rows, Qt::LeftButton, {}, {40, 10});
+            screen.clickFirstRowTwice();
             QTest::mouseClick(cmdHelp, Qt::LeftButton);
         };
         QDialog modal;
@@ -201,7 +203,8 @@ class frmGetPlayersTest : public QObject {
         QVERIFY(modal.isActiveWindow());
         QCOMPARE(screen.log, Log{});
         QCOMPARE(help.count(), 0);
-        QVERIFY(!screen.shows("Ann") && screen.grid->currentIndex().row() == 0);
+        QCOMPARE(screen.chosen(), QString{});
+        QCOMPARE(screen.grid->currentIndex().row(), 0);
 
         QTest::keyClick(&entry, Qt::Key_O);
         for (const auto key : {Qt::Key_Down, Qt::Key_Return})
@@ -209,9 +212,9 @@ class frmGetPlayersTest : public QObject {
         QCOMPARE(entry.text(), QStringLiteral("one"));
         modal.close();
         QTest::mouseClick(cmdHelp, Qt::LeftButton);
-        QTest::mouseClick(rows, Qt::LeftButton, {}, {40, 10});
-        QTest::mouseDClick(rows, Qt::LeftButton, {}, {40, 10});
-        QVERIFY(help.count() == 1 && screen.shows("Ann"));
+        screen.clickFirstRowTwice();
+        QCOMPARE(help.count(), 1);
+        QCOMPARE(screen.chosen(), QStringLiteral("Ann"));
     }
 
     void takesTheSkillLevel() {
