@@ -53,6 +53,7 @@ QtSidePanel::QtSidePanel(int side, const QString& caption, const SidePanelLayout
     m_menGauge->setGeometry(layout.menGauge);
     m_scrollSpeed->setAccessibleName(tr("Speed"));
     m_scrollAngle->setAccessibleName(tr("Angle"));
+    m_scrollAngle->setObjectName(QStringLiteral("scrollAngle(%1)").arg(side));
     connect(m_scrollSpeed, &QScrollBar::valueChanged, this,
             [this](int value) { emit speedMoved(this->side(), value); });
     connect(m_scrollAngle, &QScrollBar::valueChanged, this,

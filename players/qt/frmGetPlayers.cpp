@@ -2,23 +2,21 @@
 
 #include <QButtonGroup>
 #include <QCheckBox>
-#include <QCloseEvent>
 #include <QFrame>
 #include <QGroupBox>
 #include <QRadioButton>
 #include <QShortcut>
 #include <QSignalBlocker>
+#include <functional>
 #include <utility>
 
 #include "base/Settings.h"
 #include "base/qt/QtText.h"
 #include "controls/qt/GlintButton.h"
 #include "controls/qt/QtFormButtons.h"
-#include "look/qt/QtLook.h"
 #include "players/qt/QtChosenPlayer.h"
 #include "players/qt/QtPlayerGrid.h"
 #include "screen/Fade.h"
-#include "screen/qt/QtScreenFade.h"
 #include "screen/qt/modFadeInOut.h"
 
 namespace skylob {
@@ -41,21 +39,20 @@ void check(QButtonGroup& group, int id) {
 
 }  // namespace
 
-frmGetPlayers::frmGetPlayers(basSkylob& shared, const frmGetPlayersPorts& ports)
-    : m_shared{shared},
-      m_ports{ports},
-      m_lobby{
-          shared,
-          {ports.file, ports.clock, ports.boxes, ports.settings, ports.sounds, ports.links, *this}},
-      m_fade{new QtScreenFade{this, shared, ports.settings}},
+frmGetPlayers::frmGetPlayers(const QtScreenPorts& screen, const frmGetPlayersPorts& ports)
+    : QtScreen{{.name = QStringLiteral("frmGetPlayers"),
+                .caption = QStringLiteral(" Skylob - Player List"),
+                .size = kScreen},
+               screen},
+      m_lobby{m_shared,
+              {ports.file, ports.clock, ports.boxes, m_settings, ports.sounds, ports.links, *this}},
       grid{new QtPlayerGrid{this}} {
-    setWindowTitle(QStringLiteral(" Skylob - Player List"));
-    applyLook(*this);
-    setFixedSize(kScreen);
+    grid->setObjectName(QStringLiteral("grid"));
     grid->setGeometry(kGrid);
     makeButtons();
     for (const int side : {1, 2}) {
         frame[side] = new QtChosenPlayer{side, this};
+        frame[side]->setObjectName(QStringLiteral("frame(%1)").arg(side));
         frame[side]->setGeometry(kChosen[side - 1]);
     }
     makeComputerBox();
@@ -64,11 +61,10 @@ frmGetPlayers::frmGetPlayers(basSkylob& shared, const frmGetPlayersPorts& ports)
     addShortcuts();
     setTabOrder();
     showPairing(m_lobby.pairing());
-    m_fade->load();
 }
 
 void frmGetPlayers::makeButtons() {
-    QtFormButtons buttons{QStringLiteral("frmGetPlayers"), m_ports.shapes, *this};
+    QtFormButtons buttons{objectName(), m_shapes, *this};
     cmdAdd = buttons.make(QStringLiteral("cmdAdd"), {608, 16, 160, 40}, toQt(Lobby::kAddToolTip));
     cmdModify =
         buttons.make(QStringLiteral("cmdModify"), {608, 64, 160, 40}, toQt(Lobby::kModifyToolTip));
@@ -86,25 +82,28 @@ void frmGetPlayers::makeComputerBox() {
     panel->setObjectName(QStringLiteral("strip"));
     panel->setGeometry(kComputerPanel);
     chkComputer = new QCheckBox{tr("Play the\nComputer!"), panel};
+    chkComputer->setObjectName(QStringLiteral("chkComputer"));
     chkComputer->setGeometry(kComputerBox);
 }
 
 void frmGetPlayers::makeOptions() {
-    optScreenSize =
-        makeOptionGroup(tr("Playing field size"), {tr("Small"), tr("Normal"), tr("Large")}, 16);
+    optScreenSize = makeOptionGroup("optScreenSize", tr("Playing field size"),
+                                    {tr("Small"), tr("Normal"), tr("Large")}, 16);
     optRounds =
-        makeOptionGroup(tr("Rounds per Set"),
+        makeOptionGroup("optRounds", tr("Rounds per Set"),
                         {QStringLiteral("5"), QStringLiteral("10"), QStringLiteral("20")}, 214);
-    optFormFade = makeOptionGroup(tr("Form Fade effects"), {tr("Enabled"), tr("Disabled")}, 412);
+    optFormFade = makeOptionGroup("optFormFade", tr("Form Fade effects"),
+                                  {tr("Enabled"), tr("Disabled")}, 412);
 }
 
-QButtonGroup* frmGetPlayers::makeOptionGroup(const QString& title, const QStringList& captions,
-                                             int left) {
+QButtonGroup* frmGetPlayers::makeOptionGroup(const char* name, const QString& title,
+                                             const QStringList& captions, int left) {
     auto* box = new QGroupBox{title, this};
     box->setGeometry({{left, kOptionTop}, kOptionFrame});
     auto* group = new QButtonGroup{box};
     for (int i = 0; i < captions.size(); ++i) {
         auto* button = new QRadioButton{captions[i], box};
+        button->setObjectName(QStringLiteral("%1(%2)").arg(QLatin1String{name}).arg(i + 1));
         button->setGeometry({kFirstOption + QPoint{0, i * kOption.height()}, kOption});
         group->addButton(button, i + 1);
     }
@@ -178,20 +177,14 @@ void frmGetPlayers::Form_KeyDown() {
     emit helpWanted();
 }
 
+/// Afterwards: an empty list brings up a box, which is to stand over the screen.
 void frmGetPlayers::Form_Activate() {
-    m_fade->activate();
-    m_lobby.Form_Activate();
-}
-
-void frmGetPlayers::showEvent(QShowEvent* event) {
-    QWidget::showEvent(event);
     QMetaObject::invokeMethod(
-        this, [this] { Form_Activate(); }, Qt::QueuedConnection);
+        this, [this] { m_lobby.Form_Activate(); }, Qt::QueuedConnection);
 }
 
-void frmGetPlayers::closeEvent(QCloseEvent* event) {
-    event->ignore();
-    if (m_fade->takesClosing()) m_lobby.cmdQuit_Click();
+void frmGetPlayers::askedToClose() {
+    m_lobby.cmdQuit_Click();
 }
 
 void frmGetPlayers::fillGrid(std::vector<PlayerRecord> records) {
@@ -213,30 +206,24 @@ void frmGetPlayers::showPairing(const Pairing& pairing) {
 
 void frmGetPlayers::showOptions() {
     check(*optScreenSize, m_shared.ScreenSize);
-    check(*optRounds, settings::readRoundsChoice(m_ports.settings));
+    check(*optRounds, settings::readRoundsChoice(m_settings));
     check(*optFormFade, m_shared.FadeStatus ? 1 : 2);
 }
 
 bool frmGetPlayers::canFade() {
-    return SetFormAlpha(*this, kOpaque, FadeDemand::Always, m_ports.settings);
+    return SetFormAlpha(*this, kOpaque, FadeDemand::Always, m_settings);
 }
 
 void frmGetPlayers::chooseSkillLevel() {
-    m_ports.chooseSkillLevel();
+    emit computerChallenged();
 }
 
 void frmGetPlayers::leaveForBattle() {
-    m_fade->leave([this] {
-        hide();
-        emit battleChosen();
-    });
+    leave([this] { emit battleChosen(); });
 }
 
 void frmGetPlayers::leaveProgram() {
-    m_fade->leave([this] {
-        hide();
-        emit programLeft();
-    });
+    leave([this] { emit programLeft(); });
 }
 
 }  // namespace skylob

@@ -18,6 +18,7 @@
 #include <QtTest>
 
 #include "controls/qt/GlintButton.h"
+#include "look/qt/QtShapes.h"
 #include "players/qt/frmGetSkillLevel.h"
 #include "players/qt/frmSummary.h"
 #include "screen/Fade.h"
@@ -36,14 +37,16 @@ struct World : PlayersRig {
     RecordingSounds sounds{log};
     RecordingLinks links;
     const QtShapes shapes{programDrawings()};
+    const QtScreenPorts screenPorts{shared, settings, shapes};
 };
 
 struct LobbyScreen : World {
     explicit LobbyScreen(const std::string& list) {
         put(list);
         form = std::make_unique<frmGetPlayers>(
-            shared, frmGetPlayersPorts{file, clock, boxes, settings, sounds, links, shapes,
-                                       [this] { ++skillQuestions; }});
+            screenPorts, frmGetPlayersPorts{file, clock, boxes, sounds, links});
+        QObject::connect(form.get(), &frmGetPlayers::computerChallenged,
+                         [this] { ++skillQuestions; });
         form->show();
         (void)QTest::qWaitForWindowActive(form.get());
         grid = form->findChild<QTableView*>();
@@ -125,7 +128,8 @@ class frmGetPlayersTest : public QObject {
                 if (button->text() == caption) return button;
             return static_cast<QRadioButton*>(nullptr);
         };
-        QVERIFY(option("Normal")->isChecked() && option("10")->isChecked());
+        QVERIFY(option("Normal")->isChecked());
+        QVERIFY(option("10")->isChecked());
         option("10")->setFocus();
         QTest::keyClick(option("10"), Qt::Key_Down);
         QVERIFY(option("20")->isChecked());
@@ -145,11 +149,10 @@ class frmGetPlayersTest : public QObject {
         world.shared.TotalKills = {-32768, 122};
         ScriptedRandom random{{}, 0};
         const StringTable strings;
-        const frmSummary form{world.shared,
-                              SummaryKind::Round,
-                              {world.clock, random, world.sounds, world.boxes, strings, world.file},
-                              world.settings,
-                              world.shapes};
+        const frmSummary form{
+            world.screenPorts,
+            SummaryKind::Round,
+            {world.clock, random, world.sounds, world.boxes, strings, world.file}};
         QString figures;
         for (const char* name : {"labelRoundsWon(%1)", "labelKills(%1)", "labelTotalKills(%1)"})
             for (const int side : {1, 2})
@@ -217,12 +220,12 @@ class frmGetPlayersTest : public QObject {
     void takesTheSkillLevel() {
         World world;
         const auto answer = [&world](int key, Qt::KeyboardModifiers modifiers = {}) {
-            frmGetSkillLevel form{world.shared, world.settings, world.shapes};
+            frmGetSkillLevel form{world.screenPorts};
             QTimer::singleShot(0, &form, [&] {
                 (void)QTest::qWaitForWindowActive(&form);
                 QTest::keyClick(form.focusWidget(), Qt::Key(key), modifiers);
             });
-            form.exec();
+            form.showModal(nullptr);
             return world.shared.SkillLevel;
         };
         QCOMPARE(answer(Qt::Key_P, Qt::AltModifier), 6);
