@@ -3,6 +3,7 @@
 
 #include "screen/qt/QtScreen.h"
 
+#include <QAccessible>
 #include <QKeyEvent>
 #include <QTest>
 #include <QTimer>
@@ -68,7 +69,9 @@ class QtScreenTest : public QObject {
     }
 
     void isRunUntilEscapeWhereItIsModal() {
+        QtScreen::installAccessible();
         Screen screen{{"name", "caption", {200, 100}, Qt::Dialog}, ports};
+        QCOMPARE(QAccessible::queryAccessibleInterface(&screen)->role(), QAccessible::Dialog);
         QTimer::singleShot(0, &screen, [&screen] {
             QCOMPARE(QApplication::activeModalWidget(), &screen);
             QTRY_VERIFY(screen.mayClose());
