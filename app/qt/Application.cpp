@@ -1,15 +1,12 @@
 #include "app/qt/Application.h"
 
-#include <QDeadlineTimer>
-#include <QFile>
-#include <QTimer>
-#include <chrono>
 #include <cstdlib>
 #include <exception>
 
 #include "app/Main.h"
+#include "app/qt/QtProgramEnd.h"
+#include "app/qt/QtProgramTexts.h"
 #include "base/NullPorts.h"
-#include "battle/HeadlessBattle.h"
 #include "battle/qt/frmPlayGame.h"
 #include "controls/qt/GlintButtonAccessible.h"
 #include "manual/qt/frmManual.h"
@@ -38,54 +35,46 @@ enum class Application::Event {
     PlayerListLeft
 };
 
-struct Application::Step {
-    Event event;
-    void (Application::*next)();
-};
-
 /// The order of screens, all of it: the screens themselves know nothing of each other.
-const Application::Step Application::kOrderOfScreens[] = {
-    {Event::ProgramStarted, &Application::showTitlePage},
-    {Event::NewUserCame, &Application::showNewUser},  // above the title page
-    {Event::TitlePageContinued, &Application::showPlayerList},
-    {Event::TitlePageClosed, &Application::quitWhenSilent},
-    {Event::HelpWanted, &Application::showManual},              // beside the player list
-    {Event::ComputerChallenged, &Application::showSkillLevel},  // above the player list
-    {Event::PlayersChosen, &Application::showBattle},
-    {Event::RoundDecided, &Application::showRoundSummary},  // above the battle
-    {Event::SetDecided, &Application::showSetSummary},      // above the battle
-    {Event::BattleLeft, &Application::showPlayerList},
-    {Event::PlayerListLeft, &Application::quitWhenSilent},
-};
-
-namespace {
-
-constexpr int kOverviewText = 1000;  ///< the manual's first topic
-
-// How long the program's end waits for sounds: a sound system that hangs would never end.
-constexpr std::chrono::milliseconds kPatienceWithSounds{3000}, kPatienceWithClosing{1000};
-
-std::string resourceText(const QString& name) {
-    QFile file{name};
-    if (!file.open(QIODevice::ReadOnly)) qFatal("a text of the program is missing");
-    return file.readAll().toStdString();
+void Application::after(Event event) {
+    switch (event) {
+        case Event::ProgramStarted:
+            return showTitlePage();
+        case Event::NewUserCame:
+            return showNewUser();  // over the title page
+        case Event::TitlePageContinued:
+            return showPlayerList();
+        case Event::TitlePageClosed:
+            return endProgram();
+        case Event::HelpWanted:
+            return showManual();  // beside the player list
+        case Event::ComputerChallenged:
+            return showSkillLevel();  // over the player list
+        case Event::PlayersChosen:
+            return showBattle();
+        case Event::RoundDecided:
+            return showSummary(SummaryKind::Round);  // over the battle
+        case Event::SetDecided:
+            return showSummary(SummaryKind::Set);  // over the battle
+        case Event::BattleLeft:
+            return showPlayerList();
+        case Event::PlayerListLeft:
+            return endProgram();
+    }
 }
-
-}  // namespace
 
 Application::Application(int& argc, char** argv, const CommandLine& commandLine)
     : QApplication{argc, argv},
       m_random{commandLine.seed},
       m_shapes{programDrawings()},
+      m_texts{programTexts()},
       m_playerFile{m_files, m_shared.PlayerFileName} {
     GlintButtonAccessible::install();
     QtLinkLabel::installAccessible();
+    QtScreen::installAccessible();
     setApplicationName(QStringLiteral("Skylob"));
     // One screen may close before the next is shown.
     setQuitOnLastWindowClosed(false);
-    m_strings.addLines(resourceText(QStringLiteral(":/strings/commentary.txt")));
-    for (const int topic : {kOverviewText, 1100, 1200, 1300})
-        m_strings.add(topic, resourceText(QStringLiteral(":/strings/manual/%1.txt").arg(topic)));
 }
 
 Application::~Application() {
@@ -97,62 +86,70 @@ int Application::run() {
         if (!Main(m_shared, m_singleCopy.copies(), m_files, m_boxes)) return EXIT_FAILURE;
         after(Event::ProgramStarted);
     } catch (const std::exception& error) {
-        fail(error.what());
+        endWithError(m_boxes, error.what());
     }
     const int status = exec();
-    if (!m_sounds.close(kPatienceWithClosing)) std::_Exit(status);
+    closeSounds(m_sounds, status);
     return status;
 }
 
-void Application::after(Event event) {
-    for (const Step& step : kOrderOfScreens) {
-        if (step.event == event) return (this->*step.next)();
+bool Application::notify(QObject* receiver, QEvent* event) {
+    // An exception must not travel through the toolkit's event loop.
+    try {
+        return QApplication::notify(receiver, event);
+    } catch (const std::exception& error) {
+        endWithError(m_boxes, error.what());
     }
 }
 
-template <typename Form>
-void Application::follow(Form* form, void (Form::*signal)(), Event event) {
-    connect(form, signal, this, [this, form, event] {
-        form->deleteLater();  // it is still at work on the present event
-        after(event);
-    });
+template <typename Screen>
+void Application::on(Screen* screen, void (Screen::*signal)(), Event event) {
+    connect(screen, signal, this, [this, event] { after(event); });
 }
 
-void Application::show(QWidget* screen) {
+template <typename Screen>
+void Application::onLeaving(Screen* screen, void (Screen::*signal)(), Event event) {
+    connect(screen, signal, screen, &QObject::deleteLater);  // it is still at work on this event
+    on(screen, signal, event);
+}
+
+void Application::show(QtScreen* screen) {
     centreOver(*screen, m_screen);
     m_screen = screen;
     screen->show();
 }
 
+void Application::showOver(QtScreen& screen) {
+    centreOver(screen, m_screen);
+    screen.showModal(m_screen);
+}
+
 void Application::showTitlePage() {
-    auto* page = new frmTitlePage{m_shared,
-                                  {m_clock, m_sounds, m_settings, m_links, m_boxes, m_shapes,
-                                   [this] { after(Event::NewUserCame); }}};
-    follow(page, &frmTitlePage::continued, Event::TitlePageContinued);
-    follow(page, &frmTitlePage::closed, Event::TitlePageClosed);
+    auto* page = new frmTitlePage{m_screenPorts, m_clock, m_sounds, m_links, m_boxes};
+    on(page, &frmTitlePage::newUserCame, Event::NewUserCame);
+    onLeaving(page, &frmTitlePage::continued, Event::TitlePageContinued);
+    onLeaving(page, &frmTitlePage::closed, Event::TitlePageClosed);
     show(page);
 }
 
 void Application::showNewUser() {
-    frmNewUser welcome{m_shared, m_strings.text(kOverviewText), m_settings, m_shapes};
-    centreOver(welcome, m_screen);
-    keepAbove(welcome, m_screen);
-    welcome.exec();
+    frmNewUser welcome{m_screenPorts, m_texts.text(kOverviewText)};
+    showOver(welcome);
 }
 
 void Application::showPlayerList() {
-    auto* list = new frmGetPlayers{m_shared,
-                                   {m_playerFile, m_clock, m_boxes, m_settings, m_sounds, m_links,
-                                    m_shapes, [this] { after(Event::ComputerChallenged); }}};
-    connect(list, &frmGetPlayers::helpWanted, this, [this] { after(Event::HelpWanted); });
-    follow(list, &frmGetPlayers::battleChosen, Event::PlayersChosen);
-    follow(list, &frmGetPlayers::programLeft, Event::PlayerListLeft);
+    auto* list =
+        new frmGetPlayers{m_screenPorts, {m_playerFile, m_clock, m_boxes, m_sounds, m_links}};
+    on(list, &frmGetPlayers::helpWanted, Event::HelpWanted);
+    on(list, &frmGetPlayers::computerChallenged, Event::ComputerChallenged);
+    onLeaving(list, &frmGetPlayers::battleChosen, Event::PlayersChosen);
+    onLeaving(list, &frmGetPlayers::programLeft, Event::PlayerListLeft);
     show(list);
 }
 
 void Application::showManual() {
     if (!m_manual) {
-        m_manual = new frmManual{m_shared, {m_strings, m_settings, m_links, m_boxes, m_shapes}};
+        m_manual = new frmManual{m_screenPorts, m_texts, m_links, m_boxes};
         connect(m_manual, &frmManual::returned, m_manual, &QObject::deleteLater);
         centreOver(*m_manual, m_screen);
         m_manual->show();
@@ -163,72 +160,33 @@ void Application::showManual() {
 }
 
 void Application::showSkillLevel() {
-    frmGetSkillLevel question{m_shared, m_settings, m_shapes};
+    frmGetSkillLevel question{m_screenPorts};
     centreOnDisplay(question, m_screen);
-    keepAbove(question, m_screen);
-    question.exec();
+    question.showModal(m_screen);
 }
 
 void Application::showBattle() {
-    m_battle = new frmPlayGame{
-        m_shared,
-        {{m_random, m_clock, m_pacer, m_sounds, m_boxes, m_settings},
-         m_shapes,
-         [this](SummaryKind kind) {
-             after(kind == SummaryKind::Round ? Event::RoundDecided : Event::SetDecided);
-         }}};
-    follow(m_battle.get(), &frmPlayGame::battleClosed, Event::BattleLeft);
+    m_battle =
+        new frmPlayGame{m_screenPorts, {m_random, m_clock, m_pacer, m_sounds, m_boxes, m_settings}};
+    on(m_battle.get(), &frmPlayGame::roundDecided, Event::RoundDecided);
+    on(m_battle.get(), &frmPlayGame::setDecided, Event::SetDecided);
+    onLeaving(m_battle.get(), &frmPlayGame::battleClosed, Event::BattleLeft);
     show(m_battle);
-}
-
-void Application::showRoundSummary() {
-    showSummary(SummaryKind::Round);
-}
-
-void Application::showSetSummary() {
-    showSummary(SummaryKind::Set);
 }
 
 void Application::showSummary(SummaryKind kind) {
     SilentSounds silence;
     SoundPlayer& sounds =
         m_battle->battle().state().SoundOn ? static_cast<SoundPlayer&>(m_sounds) : silence;
-    frmSummary summary{m_shared,
-                       kind,
-                       {m_clock, m_random, sounds, m_boxes, m_strings, m_playerFile},
-                       m_settings,
-                       m_shapes};
-    centreOver(summary, m_screen);
-    keepAbove(summary, m_screen);
-    summary.exec();
+    frmSummary summary{
+        m_screenPorts, kind, {m_clock, m_random, sounds, m_boxes, m_texts, m_playerFile}};
+    showOver(summary);
 }
 
-void Application::quitWhenSilent() {
-    constexpr int kPause = 50;       // milliseconds
+void Application::endProgram() {
     if (m_manual) m_manual->hide();  // not deleted yet: it may be at work on a print
     m_singleCopy.release();
-    auto* timer = new QTimer{this};
-    const QDeadlineTimer deadline{kPatienceWithSounds};
-    connect(timer, &QTimer::timeout, this, [this, deadline] {
-        if (!m_sounds.isPlaying() || deadline.hasExpired()) quit();
-    });
-    timer->start(kPause);
-}
-
-bool Application::notify(QObject* receiver, QEvent* event) {
-    // An exception must not travel through the toolkit's event loop.
-    try {
-        return QApplication::notify(receiver, event);
-    } catch (const std::exception& error) {
-        fail(error.what());
-    }
-    return false;
-}
-
-void Application::fail(const char* why) {
-    const std::string text = std::string{why} + "\r\n\r\nSkylob ends now.";
-    m_boxes.show({"Run-time error", text, BoxIcon::Critical, BoxButtons::Ok});
-    std::_Exit(1);
+    quitWhenSilent(m_sounds);
 }
 
 }  // namespace skylob

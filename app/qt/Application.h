@@ -5,12 +5,11 @@
 
 #include "app/CommandLine.h"
 #include "app/SingleCopy.h"
-#include "base/Clock.h"
 #include "base/RandomInt.h"
 #include "base/SeededRandom.h"
 #include "base/StringTable.h"
+#include "base/SummaryKind.h"
 #include "base/basSkylob.h"
-#include "battle/BattleView.h"
 #include "look/qt/QtShapes.h"
 #include "platform/DiskFiles.h"
 #include "platform/SystemClock.h"
@@ -21,6 +20,7 @@
 #include "players/PlayerFile.h"
 #include "screen/qt/QtMessageBoxes.h"
 #include "screen/qt/QtModalGuard.h"
+#include "screen/qt/QtScreen.h"
 
 namespace skylob {
 
@@ -46,19 +46,24 @@ class Application : public QApplication {
 
   private:
     enum class Event;
-    struct Step;
-    static const Step kOrderOfScreens[];
 
-    /// Brings on the screen that follows.
+    /// Brings on the screen that follows, and returns when it is shown, or when a modal one has
+    /// gone.
     void after(Event event);
 
-    /// When the form has hidden itself and reported by the signal, lets it go and the next one
-    /// come.
-    template <typename Form>
-    void follow(Form* form, void (Form::*signal)(), Event event);
+    /// Has the event happen whenever the screen reports by the signal.
+    template <typename Screen>
+    void on(Screen* screen, void (Screen::*signal)(), Event event);
+
+    /// The same for the last that the screen reports, which has hidden itself: lets it go, too.
+    template <typename Screen>
+    void onLeaving(Screen* screen, void (Screen::*signal)(), Event event);
 
     /// Shows the screen where the one before it stood.
-    void show(QWidget* screen);
+    void show(QtScreen* screen);
+
+    /// Shows the modal screen over the one that is shown, and returns when it has gone.
+    void showOver(QtScreen& screen);
 
     void showTitlePage();
     void showNewUser();
@@ -66,11 +71,8 @@ class Application : public QApplication {
     void showManual();
     void showSkillLevel();
     void showBattle();
-    void showRoundSummary();
-    void showSetSummary();
     void showSummary(SummaryKind kind);
-    void quitWhenSilent();
-    void fail(const char* why);
+    void endProgram();
 
     QtModalGuard m_modalGuard;
     SingleCopy m_singleCopy;
@@ -80,13 +82,14 @@ class Application : public QApplication {
     SdlSoundPlayer m_sounds;
     QtMessageBoxes m_boxes;
     QtSettingsStore m_settings;
-    QtShapes m_shapes;
+    const QtShapes m_shapes;
     QtLinkOpener m_links;
     DiskFiles m_files;
-    StringTable m_strings;
+    const StringTable m_texts;
     basSkylob m_shared;
     PlayerFile m_playerFile;
-    QPointer<QWidget> m_screen;  ///< title page, player list or battle; it may have just left
+    const QtScreenPorts m_screenPorts{m_shared, m_settings, m_shapes};
+    QPointer<QtScreen> m_screen;  ///< title page, player list or battle; it may have just left
     QPointer<frmPlayGame> m_battle;
     QPointer<frmManual> m_manual;
 };

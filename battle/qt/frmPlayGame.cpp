@@ -1,7 +1,6 @@
 #include "battle/qt/frmPlayGame.h"
 
 #include <QCheckBox>
-#include <QCloseEvent>
 #include <QCoreApplication>
 #include <QFrame>
 #include <QLabel>
@@ -19,9 +18,7 @@
 #include "battle/qt/picGameField.h"
 #include "controls/qt/GlintButton.h"
 #include "controls/qt/QtFormButtons.h"
-#include "look/qt/QtLook.h"
 #include "screen/qt/QtInputGate.h"
-#include "screen/qt/QtScreenFade.h"
 
 namespace skylob {
 
@@ -33,19 +30,16 @@ void enable(GlintButton& button, bool enabled) {
 
 }  // namespace
 
-frmPlayGame::frmPlayGame(basSkylob& shared, const frmPlayGamePorts& ports)
-    : m_layout{layoutForScreenSize(shared.ScreenSize)},
-      m_showSummary{ports.showSummary},
-      m_shared{shared},
-      m_battle{shared, ports.battle, *this},
-      m_shapes{ports.shapes},
+frmPlayGame::frmPlayGame(const QtScreenPorts& screen, const BattlePorts& ports)
+    : QtScreen{{.name = QStringLiteral("frmPlayGame"),
+                .caption = QStringLiteral(" Skylob - Battlefield"),
+                .size = layoutForScreenSize(screen.shared.ScreenSize).screen},
+               screen},
+      m_layout{layoutForScreenSize(m_shared.ScreenSize)},
+      m_battle{m_shared, ports, *this},
       m_gate{new QtInputGate{this}},
-      m_fade{new QtScreenFade{this, shared, ports.battle.settings}},
       m_timers{new QtEffectTimers{this, m_battle}},
       m_field{new picGameField{m_battle.picture(), m_shapes, this}} {
-    setWindowTitle(QStringLiteral(" Skylob - Battlefield"));
-    applyLook(*this);
-    setFixedSize(m_layout.screen);
     m_field->setGeometry(m_layout.field);
     makeSidePanels();
     makeButtons();
@@ -54,7 +48,6 @@ frmPlayGame::frmPlayGame(basSkylob& shared, const frmPlayGamePorts& ports)
     addShortcuts();
     setTabOrder();
     showPanel(m_battle.panel());
-    m_fade->load();
 }
 
 void frmPlayGame::makeSidePanels() {
@@ -86,7 +79,7 @@ void frmPlayGame::makeButtons() {
     labelRoundNumber->setAlignment(Qt::AlignCenter);
     labelRoundNumber->setProperty("role", m_layout.oneFrameAtATime ? "round-small" : "round");
 
-    QtFormButtons buttons{QStringLiteral("frmPlayGame"), m_shapes, *this};
+    QtFormButtons buttons{objectName(), m_shapes, *this};
     cmdShoot = buttons.make(QStringLiteral("cmdShoot"), m_layout.cmdShoot);
     if (!m_layout.shootHasCaption) {
         cmdShoot->design().setCaption({});
@@ -184,8 +177,7 @@ void frmPlayGame::setTabOrder() {
 }
 
 void frmPlayGame::Form_Activate() {
-    m_fade->activate();
-    m_battle.Form_Activate();
+    queue([this] { m_battle.Form_Activate(); });
 }
 
 void frmPlayGame::fitField() {
@@ -196,23 +188,21 @@ void frmPlayGame::fitField() {
 }
 
 void frmPlayGame::showEvent(QShowEvent* event) {
-    QWidget::showEvent(event);
+    QtScreen::showEvent(event);
     fitField();
     // What is not in the persistent picture, such as a shell's trail, is lost with the window.
     m_battle.picture().refresh();
     m_field->update();
     connect(windowHandle(), &QWindow::screenChanged, this, &frmPlayGame::fitField,
             Qt::UniqueConnection);
-    queue([this] { Form_Activate(); });
 }
 
-void frmPlayGame::closeEvent(QCloseEvent* event) {
-    event->ignore();
-    if (m_fade->takesClosing()) m_battle.cmdQuit_Click();
+void frmPlayGame::askedToClose() {
+    m_battle.cmdQuit_Click();
 }
 
 void frmPlayGame::paintEvent(QPaintEvent* event) {
-    QWidget::paintEvent(event);
+    QtScreen::paintEvent(event);
     QPainter{this}.fillRect(m_layout.field.adjusted(-1, -1, 1, 1), QColor{0x35425F});
 }
 
@@ -282,15 +272,15 @@ void frmPlayGame::queue(std::function<void()> task) {
 }
 
 void frmPlayGame::showSummary(SummaryKind kind) {
-    m_showSummary(kind);
+    if (kind == SummaryKind::Round)
+        emit roundDecided();
+    else
+        emit setDecided();
 }
 
 void frmPlayGame::closeBattle() {
     m_timers->end();
-    m_fade->leave([this] {
-        hide();
-        emit battleClosed();
-    });
+    leave([this] { emit battleClosed(); });
 }
 
 }  // namespace skylob

@@ -1,11 +1,8 @@
 #pragma once
 
-#include <QWidget>
-#include <functional>
-
 #include "battle/Battle.h"
 #include "battle/BattleView.h"
-#include "look/qt/QtShapes.h"
+#include "screen/qt/QtScreen.h"
 
 class QCheckBox;
 class QLabel;
@@ -16,41 +13,39 @@ namespace skylob {
 class GlintButton;
 class QtEffectTimers;
 class QtInputGate;
-class QtScreenFade;
 class QtSidePanel;
 class picGameField;
 struct frmPlayGameLayout;
 
-/// What the battle screen needs beside the shared state; all of it must outlive the screen.
-struct frmPlayGamePorts {
-    BattlePorts battle;
-    const QtShapes& shapes;
-    /// Shows the summary of a round or set and returns when the user has closed it.
-    std::function<void(SummaryKind)> showSummary;
-};
-
 /// The battle screen: the field, and below it the two sides' controls and the options. Widgets
 /// only report what the player does to the Battle and show what it says.
-class frmPlayGame : public QWidget, private BattleView {
+class frmPlayGame : public QtScreen, private BattleView {
     Q_OBJECT
 
   public:
-    /// Laid out for shared.ScreenSize; the set starts when the screen is shown.
-    frmPlayGame(basSkylob& shared, const frmPlayGamePorts& ports);
+    /// Laid out for shared.ScreenSize; the set starts when the screen is shown. Everything in
+    /// `ports` must outlive the screen.
+    frmPlayGame(const QtScreenPorts& screen, const BattlePorts& ports);
 
     const Battle& battle() const { return m_battle; }
 
   signals:
+    /// The receiver is to show the summary, and to return when that is over.
+    void roundDecided();
+    void setDecided();
+
     /// The set is over or has been left; the screen is hidden. Receivers must not delete it
     /// before the present event has been handled.
     void battleClosed();
 
   protected:
-    void closeEvent(QCloseEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
   private:
+    void Form_Activate() override;
+    void askedToClose() override;
+
     void showField() override;
     void showPanel(const BattlePanel& panel) override;
     void showCursor(BattleCursor cursor) override;
@@ -72,16 +67,11 @@ class frmPlayGame : public QWidget, private BattleView {
     QString caption(int side) const;
     void showCommands(const BattlePanel& panel);
     void moveFocusToTurn(int turn);
-    void Form_Activate();
     void fitField();
 
     const frmPlayGameLayout& m_layout;
-    std::function<void(SummaryKind)> m_showSummary;
-    basSkylob& m_shared;
     Battle m_battle;
-    const QtShapes& m_shapes;
     QtInputGate* m_gate;
-    QtScreenFade* m_fade;
     QtEffectTimers* m_timers;
     picGameField* m_field;
     PerSide<QtSidePanel*> m_side;

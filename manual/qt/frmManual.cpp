@@ -1,7 +1,6 @@
 #include "manual/qt/frmManual.h"
 
 #include <QActionGroup>
-#include <QCloseEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QShortcut>
@@ -10,11 +9,9 @@
 #include "base/OpenLink.h"
 #include "controls/qt/GlintButton.h"
 #include "controls/qt/QtFormButtons.h"
-#include "look/qt/QtLook.h"
 #include "manual/PrintLayout.h"
 #include "manual/qt/QtManualPrinter.h"
 #include "screen/qt/QtLinkLabel.h"
-#include "screen/qt/QtScreenFade.h"
 
 namespace skylob {
 
@@ -37,18 +34,23 @@ QString captionOf(const QAction& item) {
 
 }  // namespace
 
-frmManual::frmManual(basSkylob& shared, const frmManualPorts& ports)
-    : m_ports{ports},
-      m_fade{new QtScreenFade{this, shared, ports.settings}},
+frmManual::frmManual(const QtScreenPorts& ports, const StringTable& texts, LinkOpener& links,
+                     MessageBoxes& boxes)
+    : QtScreen{{.name = QStringLiteral("frmManual"),
+                .caption = QStringLiteral(" Skylob - Help Window"),
+                .size = {720, 540}},
+               ports},
+      m_texts{texts},
+      m_links{links},
+      m_boxes{boxes},
       labelHelpTopic{new QLabel{this}},
       txtManual{new QTextEdit{this}},
       m_topics{new QMenu{this}},
       menuHelpTopic{new QActionGroup{this}} {
-    setWindowTitle(QStringLiteral(" Skylob - Help Window"));
-    applyLook(*this);
-    setFixedSize(720, 540);
+    labelHelpTopic->setObjectName(QStringLiteral("labelHelpTopic"));
     labelHelpTopic->setGeometry(16, 12, 688, 32);
     labelHelpTopic->setProperty("role", "topic");
+    txtManual->setObjectName(QStringLiteral("txtManual"));
     txtManual->setGeometry(16, 52, 688, 408);
     txtManual->setReadOnly(true);
     txtManual->setTabChangesFocus(true);
@@ -56,10 +58,10 @@ frmManual::frmManual(basSkylob& shared, const frmManualPorts& ports)
     makeButtons();
     txtManual->setFocus();
     menuHelpTopic_Click(0);
-    m_fade->load();
 }
 
 void frmManual::makeMenu() {
+    m_topics->setObjectName(QStringLiteral("menuHelpTopic"));
     for (const Topic& topic : kTopics) {
         QAction* item = m_topics->addAction(tr(topic.caption));
         item->setCheckable(true);
@@ -72,7 +74,7 @@ void frmManual::makeMenu() {
 }
 
 void frmManual::makeButtons() {
-    QtFormButtons buttons{QStringLiteral("frmManual"), m_ports.shapes, *this};
+    QtFormButtons buttons{objectName(), m_shapes, *this};
     cmdHelpTopic = buttons.make(QStringLiteral("cmdHelpTopic"), {16, 472, 176, 52});
     connect(cmdHelpTopic, &GlintButton::Click, this, &frmManual::cmdHelpTopic_Click);
     connect(new QShortcut{Qt::Key_F1, this}, &QShortcut::activated, this,
@@ -81,9 +83,10 @@ void frmManual::makeButtons() {
                                 QStringLiteral(" Be sure your printer is ready! "));
     connect(cmdPrintHelp, &GlintButton::Click, this, &frmManual::cmdPrintHelp_Click);
     auto* labelContact = new QtLinkLabel{tr("Questions? Write to us."), this};
+    labelContact->setObjectName(QStringLiteral("labelContact"));
     labelContact->move(348, 488);
     connect(labelContact, &QtLinkLabel::Click, this,
-            [this] { OpenLink(LinkKind::Mail, "", m_ports.links, m_ports.boxes); });
+            [this] { OpenLink(LinkKind::Mail, "", m_links, m_boxes); });
     cmdReturn = buttons.make(QStringLiteral("cmdReturn"), {560, 472, 144, 52});
     connect(cmdReturn, &GlintButton::Click, this, &frmManual::cmdReturn_Click);
     connect(new QShortcut{Qt::Key_Escape, this}, &QShortcut::activated, this,
@@ -95,7 +98,7 @@ void frmManual::menuHelpTopic_Click(int index) {
     item.setChecked(true);  // and no other
     labelHelpTopic->setText(captionOf(item));
     txtManual->setAccessibleName(captionOf(item));
-    txtManual->setPlainText(QString::fromStdString(m_ports.strings.text(item.data().toInt())));
+    txtManual->setPlainText(QString::fromStdString(m_texts.text(item.data().toInt())));
 }
 
 void frmManual::cmdHelpTopic_Click() {
@@ -106,25 +109,16 @@ void frmManual::cmdHelpTopic_Click() {
 void frmManual::cmdPrintHelp_Click() {
     const QAction& item = *menuHelpTopic->checkedAction();
     if (!printManual(*this, helpSectionHeader(captionOf(item).toStdString()),
-                     m_ports.strings.text(item.data().toInt())))
-        m_ports.boxes.show({"Error", "The file could not be written!", BoxIcon::Critical});
+                     m_texts.text(item.data().toInt())))
+        m_boxes.show({"Error", "The file could not be written!", BoxIcon::Critical});
 }
 
 void frmManual::cmdReturn_Click() {
-    m_fade->leave([this] {
-        hide();
-        emit returned();
-    });
+    leave([this] { emit returned(); });
 }
 
-void frmManual::showEvent(QShowEvent* event) {
-    QWidget::showEvent(event);
-    m_fade->activate();
-}
-
-void frmManual::closeEvent(QCloseEvent* event) {
-    event->ignore();
-    if (!m_fade->isFading()) cmdReturn_Click();
+void frmManual::askedToClose() {
+    cmdReturn_Click();
 }
 
 }  // namespace skylob

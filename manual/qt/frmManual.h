@@ -1,13 +1,9 @@
 #pragma once
 
-#include <QWidget>
-
 #include "base/LinkOpener.h"
 #include "base/MessageBoxes.h"
-#include "base/SettingsStore.h"
 #include "base/StringTable.h"
-#include "base/basSkylob.h"
-#include "look/qt/QtShapes.h"
+#include "screen/qt/QtScreen.h"
 
 class QActionGroup;
 class QLabel;
@@ -17,34 +13,23 @@ class QTextEdit;
 namespace skylob {
 
 class GlintButton;
-class QtScreenFade;
-
-/// What the manual needs beside the shared state; all of it must outlive the screen.
-struct frmManualPorts {
-    const StringTable& strings;  ///< with the texts 1000, 1100, 1200 and 1300
-    const SettingsStore& settings;
-    LinkOpener& links;
-    MessageBoxes& boxes;
-    const QtShapes& shapes;
-};
 
 /// The manual: one topic at a time, which can be printed. Other screens go on beside it.
-class frmManual : public QWidget {
+class frmManual : public QtScreen {
     Q_OBJECT
 
   public:
-    frmManual(basSkylob& shared, const frmManualPorts& ports);
+    /// `texts` with 1000, 1100, 1200 and 1300. All arguments must outlive the screen.
+    frmManual(const QtScreenPorts& ports, const StringTable& texts, LinkOpener& links,
+              MessageBoxes& boxes);
 
   signals:
     /// The user has had enough; the screen is hidden. Receivers must not delete it before the
     /// present event has been handled.
     void returned();
 
-  protected:
-    void closeEvent(QCloseEvent* event) override;
-    void showEvent(QShowEvent* event) override;
-
   private:
+    void askedToClose() override;
     void makeMenu();
     void makeButtons();
     void menuHelpTopic_Click(int index);
@@ -52,8 +37,9 @@ class frmManual : public QWidget {
     void cmdPrintHelp_Click();
     void cmdReturn_Click();
 
-    frmManualPorts m_ports;
-    QtScreenFade* m_fade;
+    const StringTable& m_texts;
+    LinkOpener& m_links;
+    MessageBoxes& m_boxes;
     QLabel* labelHelpTopic;
     QTextEdit* txtManual;
     QMenu* m_topics;

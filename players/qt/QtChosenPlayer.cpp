@@ -26,8 +26,8 @@ QtChosenPlayer::QtChosenPlayer(int side, QWidget* parent)
       m_name{labelInSlot("chosen", this)},
       m_hint{labelInSlot("slot", this)} {
     setBadge(Badge::Filled);
-    m_name->setObjectName(QStringLiteral("labelPlayerName(%1)").arg(side));
     m_hint->setText(side == 1 ? tr("Double-click a name") : tr("Double-click another name"));
+    m_name->setObjectName(QStringLiteral("labelPlayerName(%1)").arg(side));
     m_name->installEventFilter(this);
     if (side == 1) m_name->setFocusPolicy(Qt::StrongFocus);
 }

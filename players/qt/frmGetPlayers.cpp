@@ -2,23 +2,21 @@
 
 #include <QButtonGroup>
 #include <QCheckBox>
-#include <QCloseEvent>
 #include <QFrame>
 #include <QGroupBox>
 #include <QRadioButton>
 #include <QShortcut>
 #include <QSignalBlocker>
+#include <functional>
 #include <utility>
 
 #include "base/Settings.h"
 #include "base/qt/QtText.h"
 #include "controls/qt/GlintButton.h"
 #include "controls/qt/QtFormButtons.h"
-#include "look/qt/QtLook.h"
 #include "players/qt/QtChosenPlayer.h"
 #include "players/qt/QtPlayerGrid.h"
 #include "screen/Fade.h"
-#include "screen/qt/QtScreenFade.h"
 #include "screen/qt/modFadeInOut.h"
 
 namespace skylob {
@@ -41,21 +39,19 @@ void check(QButtonGroup& group, int id) {
 
 }  // namespace
 
-frmGetPlayers::frmGetPlayers(basSkylob& shared, const frmGetPlayersPorts& ports)
-    : m_shared{shared},
-      m_ports{ports},
-      m_lobby{
-          shared,
-          {ports.file, ports.clock, ports.boxes, ports.settings, ports.sounds, ports.links, *this}},
-      m_fade{new QtScreenFade{this, shared, ports.settings}},
+frmGetPlayers::frmGetPlayers(const QtScreenPorts& screen, const frmGetPlayersPorts& ports)
+    : QtScreen{{.name = QStringLiteral("frmGetPlayers"),
+                .caption = QStringLiteral(" Skylob - Player List"),
+                .size = kScreen},
+               screen},
+      m_lobby{m_shared,
+              {ports.file, ports.clock, ports.boxes, m_settings, ports.sounds, ports.links, *this}},
       grid{new QtPlayerGrid{this}} {
-    setWindowTitle(QStringLiteral(" Skylob - Player List"));
-    applyLook(*this);
-    setFixedSize(kScreen);
     grid->setGeometry(kGrid);
     makeButtons();
     for (const int side : {1, 2}) {
         frame[side] = new QtChosenPlayer{side, this};
+        frame[side]->setObjectName(QStringLiteral("frame(%1)").arg(side));
         frame[side]->setGeometry(kChosen[side]);
     }
     makeComputerBox();
@@ -64,11 +60,10 @@ frmGetPlayers::frmGetPlayers(basSkylob& shared, const frmGetPlayersPorts& ports)
     addShortcuts();
     setTabOrder();
     showPairing(m_lobby.pairing());
-    m_fade->load();
 }
 
 void frmGetPlayers::makeButtons() {
-    QtFormButtons buttons{QStringLiteral("frmGetPlayers"), m_ports.shapes, *this};
+    QtFormButtons buttons{objectName(), m_shapes, *this};
     cmdAdd = buttons.make(QStringLiteral("cmdAdd"), {608, 16, 160, 40}, toQt(Lobby::kAddToolTip));
     cmdModify =
         buttons.make(QStringLiteral("cmdModify"), {608, 64, 160, 40}, toQt(Lobby::kModifyToolTip));
@@ -176,20 +171,14 @@ void frmGetPlayers::Form_KeyDown() {
     emit helpWanted();
 }
 
+/// Afterwards: an empty list brings up a box, which is to stand over the screen.
 void frmGetPlayers::Form_Activate() {
-    m_fade->activate();
-    m_lobby.Form_Activate();
-}
-
-void frmGetPlayers::showEvent(QShowEvent* event) {
-    QWidget::showEvent(event);
     QMetaObject::invokeMethod(
-        this, [this] { Form_Activate(); }, Qt::QueuedConnection);
+        this, [this] { m_lobby.Form_Activate(); }, Qt::QueuedConnection);
 }
 
-void frmGetPlayers::closeEvent(QCloseEvent* event) {
-    event->ignore();
-    if (m_fade->takesClosing()) m_lobby.cmdQuit_Click();
+void frmGetPlayers::askedToClose() {
+    m_lobby.cmdQuit_Click();
 }
 
 void frmGetPlayers::fillGrid(std::vector<PlayerRecord> records) {
@@ -211,30 +200,24 @@ void frmGetPlayers::showPairing(const Pairing& pairing) {
 
 void frmGetPlayers::showOptions() {
     check(*optScreenSize, m_shared.ScreenSize);
-    check(*optRounds, settings::readRoundsChoice(m_ports.settings));
+    check(*optRounds, settings::readRoundsChoice(m_settings));
     check(*optFormFade, m_shared.FadeStatus ? Lobby::kFadeEnabled : Lobby::kFadeDisabled);
 }
 
 bool frmGetPlayers::canFade() {
-    return SetFormAlpha(*this, kOpaque, FadeDemand::Always, m_ports.settings);
+    return SetFormAlpha(*this, kOpaque, FadeDemand::Always, m_settings);
 }
 
 void frmGetPlayers::chooseSkillLevel() {
-    m_ports.chooseSkillLevel();
+    emit computerChallenged();
 }
 
 void frmGetPlayers::leaveForBattle() {
-    m_fade->leave([this] {
-        hide();
-        emit battleChosen();
-    });
+    leave([this] { emit battleChosen(); });
 }
 
 void frmGetPlayers::leaveProgram() {
-    m_fade->leave([this] {
-        hide();
-        emit programLeft();
-    });
+    leave([this] { emit programLeft(); });
 }
 
 }  // namespace skylob

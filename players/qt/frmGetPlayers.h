@@ -1,10 +1,7 @@
 #pragma once
 
-#include <QWidget>
-#include <functional>
-
-#include "look/qt/QtShapes.h"
 #include "players/Lobby.h"
+#include "screen/qt/QtScreen.h"
 
 class QButtonGroup;
 class QCheckBox;
@@ -14,43 +11,41 @@ namespace skylob {
 class GlintButton;
 class QtChosenPlayer;
 class QtPlayerGrid;
-class QtScreenFade;
 
-/// What the player list screen needs beside the shared state; all of it must outlive the screen.
+/// What the player list screen needs besides; all of it must outlive the screen.
 struct frmGetPlayersPorts {
     PlayerFile& file;
     const Clock& clock;
     MessageBoxes& boxes;
-    SettingsStore& settings;
     SoundPlayer& sounds;
     LinkOpener& links;
-    const QtShapes& shapes;
-    /// Asks for the computer's skill level and returns when that has been closed.
-    std::function<void()> chooseSkillLevel;
 };
 
 /// The player list screen, the program's home: the list, who plays whom, and the options. Widgets
 /// only report what the user does to the Lobby and show what it says.
-class frmGetPlayers : public QWidget, private LobbyView {
+class frmGetPlayers : public QtScreen, private LobbyView {
     Q_OBJECT
 
   public:
-    frmGetPlayers(basSkylob& shared, const frmGetPlayersPorts& ports);
+    frmGetPlayers(const QtScreenPorts& screen, const frmGetPlayersPorts& ports);
 
   signals:
     /// The user wants to read the manual.
     void helpWanted();
+
+    /// Somebody is to fight the computer. The receiver is to ask for the skill level, and to return
+    /// when that is over.
+    void computerChallenged();
 
     /// Two players are to fight, or the user has had enough; the screen is hidden. Receivers must
     /// not delete it before the present event has been handled.
     void battleChosen();
     void programLeft();
 
-  protected:
-    void closeEvent(QCloseEvent* event) override;
-    void showEvent(QShowEvent* event) override;
-
   private:
+    void Form_Activate() override;
+    void askedToClose() override;
+
     void fillGrid(std::vector<PlayerRecord> records) override;
     void highlightRow(int row) override;
     void showPairing(const Pairing& pairing) override;
@@ -68,13 +63,9 @@ class frmGetPlayers : public QWidget, private LobbyView {
     void connectControls();
     void addShortcuts();
     void setTabOrder();
-    void Form_Activate();
     void Form_KeyDown();  ///< F1
 
-    basSkylob& m_shared;
-    frmGetPlayersPorts m_ports;
     Lobby m_lobby;
-    QtScreenFade* m_fade;
     QtPlayerGrid* grid;
     GlintButton *cmdAdd, *cmdModify, *cmdDelete, *cmdEmailFriend, *cmdHelp, *cmdQuit;
     PerSide<QtChosenPlayer*> frame;

@@ -5,8 +5,6 @@
 #include "base/basSkylob.h"
 #include "controls/qt/GlintButton.h"
 #include "controls/qt/QtFormButtons.h"
-#include "look/qt/QtLook.h"
-#include "screen/qt/QtScreenFade.h"
 
 namespace skylob {
 
@@ -32,14 +30,14 @@ QLabel* centredLabel(const QString& text, const char* role, const QRect& place, 
 
 }  // namespace
 
-frmGetSkillLevel::frmGetSkillLevel(basSkylob& shared, const SettingsStore& settings,
-                                   const QtShapes& shapes)
-    : m_shared{shared}, m_fade{new QtScreenFade{this, shared, settings}} {
-    setWindowTitle(tr("Select a Skill Level for Your Computer"));
-    applyLook(*this);
-    setFixedSize(480, 208);
+frmGetSkillLevel::frmGetSkillLevel(const QtScreenPorts& ports)
+    : QtScreen{{.name = QStringLiteral("frmGetSkillLevel"),
+                .caption = tr("Select a Skill Level for Your Computer"),
+                .size = {480, 208},
+                .type = Qt::Dialog},
+               ports} {
     centredLabel(tr("How well should the computer aim?"), "question", {16, 12, 448, 28}, this);
-    QtFormButtons buttons{QStringLiteral("frmGetSkillLevel"), shapes, *this};
+    QtFormButtons buttons{objectName(), m_shapes, *this};
     for (const Level& level : kLevels) {
         auto* button = buttons.make(QStringLiteral("cmdSkillLevel(%1)").arg(level.index),
                                     {level.left, 52, 140, 124});
@@ -48,12 +46,6 @@ frmGetSkillLevel::frmGetSkillLevel(basSkylob& shared, const SettingsStore& setti
         if (level.index == kFairSkill) button->setFocus();
         centredLabel(tr(level.hint), "note", {level.left, 180, 140, 20}, this);
     }
-    m_fade->load();
-}
-
-void frmGetSkillLevel::showEvent(QShowEvent* event) {
-    QDialog::showEvent(event);
-    m_fade->activate();
 }
 
 void frmGetSkillLevel::cmdSkillLevel_Click(int index) {
@@ -61,12 +53,8 @@ void frmGetSkillLevel::cmdSkillLevel_Click(int index) {
     leave();
 }
 
-void frmGetSkillLevel::reject() {
-    if (!m_fade->isFading()) leave();
-}
-
-void frmGetSkillLevel::leave() {
-    m_fade->leave([this] { accept(); });
+void frmGetSkillLevel::askedToClose() {
+    leave();
 }
 
 }  // namespace skylob

@@ -9,7 +9,6 @@
 #include "controls/qt/QtFormButtons.h"
 #include "look/qt/QtLook.h"
 #include "look/qt/QtShapes.h"
-#include "screen/qt/QtScreenFade.h"
 #include "screen/qt/QtSideFrame.h"
 
 namespace skylob {
@@ -50,18 +49,18 @@ void addRule(QtSideFrame& frame, int top) {
 
 }  // namespace
 
-frmSummary::frmSummary(basSkylob& shared, SummaryKind kind, const SummaryPorts& ports,
-                       const SettingsStore& settings, const QtShapes& shapes)
-    : m_shared{shared},
-      m_shapes{shapes},
-      m_summary{shared, kind, ports},
-      m_fade{new QtScreenFade{this, shared, settings}},
+frmSummary::frmSummary(const QtScreenPorts& ports, SummaryKind kind, const SummaryPorts& rules)
+    : QtScreen{{.name = QStringLiteral("frmSummary"),
+                .caption = kind == SummaryKind::Round ? QStringLiteral(" Skylob - Round Summary")
+                                                      : QStringLiteral(" Skylob - Set Summary"),
+                .size = {600, 444},
+                .type = Qt::Dialog},
+               ports},
+      m_summary{m_shared, kind, rules},
       label{makeLabel({16, 16, 568, 36}, "heading", this)},
       labelDateTime{makeLabel({16, 52, 568, 20}, "note", this)} {
-    setWindowTitle(kind == SummaryKind::Round ? QStringLiteral(" Skylob - Round Summary")
-                                              : QStringLiteral(" Skylob - Set Summary"));
-    applyLook(*this);
-    setFixedSize(600, 444);
+    label->setObjectName(QStringLiteral("label"));
+    labelDateTime->setObjectName(QStringLiteral("labelDateTime"));
     for (QLabel* line : {label, labelDateTime}) line->setAlignment(Qt::AlignCenter);
     makeFrames();
     makeBubble();
@@ -69,13 +68,13 @@ frmSummary::frmSummary(basSkylob& shared, SummaryKind kind, const SummaryPorts& 
     auto* timerDateTime = new QTimer{this};
     connect(timerDateTime, &QTimer::timeout, this, &frmSummary::timerDateTime_Timer);
     timerDateTime->start(kMinute);
-    m_fade->load();
 }
 
 void frmSummary::makeFrames() {
     for (const int side : kSides) {
         frame[side] = new QtSideFrame{side, this};
         QtSideFrame& box = *frame[side];
+        box.setObjectName(QStringLiteral("frame(%1)").arg(side));
         box.setGeometry(kFrames[side]);
         box.setCaption(QString::fromStdString(m_shared.PlayerName[side]));
         box.setBadge(QtSideFrame::Badge::Filled);
@@ -96,25 +95,19 @@ void frmSummary::makeBubble() {
     bubble->setGeometry(kBubble);
     makeLabel({16, 14, 464, 20}, "note", bubble)->setText(tr("The computer says:"));
     labelComputerSays = makeLabel({16, 38, 464, 60}, "remark", bubble);
+    labelComputerSays->setObjectName(QStringLiteral("labelComputerSays"));
     labelComputerSays->setWordWrap(true);
     labelComputerSays->setAlignment(Qt::AlignLeft | Qt::AlignTop);
 }
 
 void frmSummary::makeOkay() {
-    auto* cmdOkay = QtFormButtons{QStringLiteral("frmSummary"), m_shapes, *this}.make(
-        QStringLiteral("cmdOkay"), {228, 376, 144, 52});
+    auto* cmdOkay = QtFormButtons{objectName(), m_shapes, *this}.make(QStringLiteral("cmdOkay"),
+                                                                      {228, 376, 144, 52});
     cmdOkay->setFocus();
     connect(cmdOkay, &GlintButton::Click, this, &frmSummary::cmdOkay_Click);
 }
 
-void frmSummary::showEvent(QShowEvent* event) {
-    QDialog::showEvent(event);
-    if (!m_activated) Form_Activate();
-    m_activated = true;
-}
-
 void frmSummary::Form_Activate() {
-    m_fade->activate();
     m_summary.Form_Activate();
     for (const int side : {1, 2}) frame[side]->setTurn(side == m_shared.Winner);
     showFitting(*label, QString::fromStdString(m_summary.heading()), {20, 17});
@@ -127,7 +120,7 @@ void frmSummary::timerDateTime_Timer() {
 }
 
 void frmSummary::paintEvent(QPaintEvent* event) {
-    QDialog::paintEvent(event);
+    QtScreen::paintEvent(event);
     QPainter painter{this};
     painter.setRenderHint(QPainter::Antialiasing);
     m_shapes.paint(painter, QStringLiteral("face"), kFace, QtShapes::Edges::Smooth);
@@ -139,14 +132,14 @@ void frmSummary::paintEvent(QPaintEvent* event) {
 }
 
 void frmSummary::cmdOkay_Click() {
-    if (m_answered) return;
-    m_answered = true;
+    // At once: recording shows a box, which serves events.
+    if (!beginLeaving()) return;
     m_summary.cmdOkay_Click();
-    m_fade->leave([this] { accept(); });
+    finishLeaving();
 }
 
-void frmSummary::reject() {
-    if (!m_fade->isFading()) cmdOkay_Click();
+void frmSummary::askedToClose() {
+    cmdOkay_Click();
 }
 
 }  // namespace skylob

@@ -6,8 +6,8 @@ class QWidget;
 
 namespace skylob {
 
-/// Swallows mouse and key input to one window while it is closed. It is made open. What is
-/// input to other windows, such as a box over this one, passes.
+/// Swallows mouse and key input to one window while the gate is closed; at first it is open. Input
+/// to other windows, such as a box over this one, is not concerned.
 class QtInputGate : public QObject {
     Q_OBJECT
 
@@ -17,7 +17,6 @@ class QtInputGate : public QObject {
 
     bool isClosed() const { return m_closed; }
     void close();
-
     void open();
 
     /// After the thread has been blocked: lets the input that has been waiting run into the closed

@@ -18,6 +18,7 @@ QtScreenFade::QtScreenFade(QWidget* screen, basSkylob& shared, const SettingsSto
       m_settings{settings},
       m_gate{new QtInputGate{screen}},
       timerFadeInOut{new QTimer{this}} {
+    timerFadeInOut->setObjectName(QStringLiteral("timerFadeInOut"));
     timerFadeInOut->setTimerType(Qt::PreciseTimer);
     timerFadeInOut->setInterval(1);
     connect(timerFadeInOut, &QTimer::timeout, this, &QtScreenFade::timerFadeInOut_Timer);
@@ -26,17 +27,13 @@ QtScreenFade::QtScreenFade(QWidget* screen, basSkylob& shared, const SettingsSto
 void QtScreenFade::load() {
     m_shared.FadeActive = SetFormAlpha(*m_screen, kInvisible, FadeDemand::WhenEnabled, m_settings);
     m_fadesIn = m_shared.FadeActive;
-    m_leaves = false;
-    // It may have faded out the last time.
-    if (!m_fadesIn && m_screen->windowOpacity() < 1) applyOpacity(*m_screen, kOpaque);
 }
 
-void QtScreenFade::activate() {
-    if (std::exchange(m_fadesIn, false)) StartFade(kInvisible, kOpaque, kFadeStep, AfterFade::Stay);
+void QtScreenFade::fadeIn() {
+    if (m_fadesIn) StartFade(kInvisible, kOpaque, kFadeStep, AfterFade::Stay);
 }
 
-void QtScreenFade::leave(std::function<void()> leavingWork, int step) {
-    if (std::exchange(m_leaves, true)) return;
+void QtScreenFade::fadeOut(std::function<void()> leavingWork, int step) {
     m_shared.FadeActive = SetFormAlpha(*m_screen, kOpaque, FadeDemand::WhenEnabled, m_settings);
     if (!m_shared.FadeActive) return leavingWork();
     m_leavingWork = std::move(leavingWork);

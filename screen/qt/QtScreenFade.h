@@ -25,21 +25,17 @@ class QtScreenFade : public QObject {
     /// must outlive it.
     QtScreenFade(QWidget* screen, basSkylob& shared, const SettingsStore& settings);
 
-    /// When the screen has been made and is not yet shown: makes it invisible if it will fade in.
+    /// Before the screen is shown: makes it invisible if it will fade in.
     void load();
 
-    /// When the screen is shown for the first time: fades it in after a load() that found it can.
-    void activate();
+    /// When the screen is shown: fades it in after a load() that found it can.
+    void fadeIn();
 
     /// Fades the screen out by `step` a tick and then does the work of leaving it, or does that
-    /// at once. Does nothing when the screen is leaving already.
-    void leave(std::function<void()> leavingWork, int step = kFadeStep);
+    /// at once.
+    void fadeOut(std::function<void()> leavingWork, int step);
 
     bool isFading() const { return m_fade.isActive(); }
-
-    /// Whether the screen may be closed now: it neither fades nor has left. What closes its window
-    /// may have been waiting behind what made it leave.
-    bool takesClosing() const { return !isFading() && !m_leaves; }
 
   private:
     void StartFade(int start, int end, int step, AfterFade after);
@@ -54,7 +50,7 @@ class QtScreenFade : public QObject {
     Fade m_fade;
     QElapsedTimer m_sinceStep;
     std::function<void()> m_leavingWork;
-    bool m_fadesIn = false, m_leaves = false;
+    bool m_fadesIn = false;
 };
 
 }  // namespace skylob

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Usage: fade.sh PROGRAM SCREEN_FADE_TEST
+# Usage: fade.sh PROGRAM SCREEN_TEST
 # With fading switched on screens go in steps where a compositing manager makes windows translucent,
 # and at once, with their opacity untouched, where there is none.
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"

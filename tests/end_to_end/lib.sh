@@ -63,7 +63,7 @@ holds_players() { records "$@" | cmp - "$list"; }
 expect_players() {
     until_true 5 holds_players "$@" || fail "not these players: $*: $(od -c "$list")"
 }
-expect_setting() { grep -qxF "$1" "$settings" || fail "no $1 in: $(<"$settings")"; }
+expect_setting() { until_true 5 grep -qxF "$1" "$settings" || fail "no $1 in: $(<"$settings")"; }
 
 shown() { until_true "${2:-20}" is_shown "$1" || fail "no window '$1': $(<"$work/stderr")"; }
 gone() { until_true "${2:-20}" not is_shown "$1" || fail "the window '$1' stays"; }

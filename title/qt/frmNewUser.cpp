@@ -8,8 +8,6 @@
 
 #include "controls/qt/GlintButton.h"
 #include "controls/qt/QtFormButtons.h"
-#include "look/qt/QtLook.h"
-#include "screen/qt/QtScreenFade.h"
 #include "title/TitlePage.h"
 #include "title/TitleScene.h"
 #include "title/qt/QtTitlePicture.h"
@@ -23,13 +21,14 @@ constexpr QPoint kSkyOfTitle{20, 32};  ///< the part of the title's sky that is 
 
 }  // namespace
 
-frmNewUser::frmNewUser(basSkylob& shared, const std::string& overview, SettingsStore& settings,
-                       const QtShapes& shapes)
-    : m_settings{settings}, m_shapes{shapes}, m_fade{new QtScreenFade{this, shared, settings}} {
-    setWindowTitle(QStringLiteral(" Skylob - New User Overview"));
-    applyLook(*this);
-    setFixedSize(600, 448);
+frmNewUser::frmNewUser(const QtScreenPorts& ports, const std::string& overview)
+    : QtScreen{{.name = QStringLiteral("frmNewUser"),
+                .caption = QStringLiteral(" Skylob - New User Overview"),
+                .size = {600, 448},
+                .type = Qt::Dialog},
+               ports} {
     auto* message = new QLabel{QString::fromStdString(title::welcomeMessage(overview)), this};
+    message->setObjectName(QStringLiteral("labelMessage"));
     message->setGeometry(24, 96, 552, 272);
     message->setTextFormat(Qt::PlainText);
     message->setWordWrap(true);
@@ -38,24 +37,19 @@ frmNewUser::frmNewUser(basSkylob& shared, const std::string& overview, SettingsS
     rule->setObjectName(QStringLiteral("rule"));
     rule->setGeometry(24, 376, 552, 1);
     chkDontShow = new QCheckBox{tr("Don't show this screen again"), this};
+    chkDontShow->setObjectName(QStringLiteral("chkDontShow"));
     chkDontShow->setGeometry(24, 396, 300, 28);
     auto* shortcut = new QShortcut{Qt::ALT | Qt::Key_D, this};
     connect(shortcut, &QShortcut::activated, chkDontShow, &QCheckBox::click);
-    auto* cmdContinue = QtFormButtons{QStringLiteral("frmNewUser"), shapes, *this}.make(
+    auto* cmdContinue = QtFormButtons{objectName(), m_shapes, *this}.make(
         QStringLiteral("cmdContinue"), {432, 388, 144, 44});
     connect(cmdContinue, &GlintButton::Click, this, &frmNewUser::cmdContinue_Click);
     QWidget::setTabOrder(cmdContinue, chkDontShow);
     cmdContinue->setFocus();
-    m_fade->load();
-}
-
-void frmNewUser::showEvent(QShowEvent* event) {
-    QDialog::showEvent(event);
-    m_fade->activate();
 }
 
 void frmNewUser::paintEvent(QPaintEvent* event) {
-    QDialog::paintEvent(event);
+    QtScreen::paintEvent(event);
     if (!event->rect().intersects(kSky)) return;
     QPainter painter{this};
     painter.setRenderHint(QPainter::Antialiasing);
@@ -71,12 +65,8 @@ void frmNewUser::cmdContinue_Click() {
 }
 
 /// Closed by its frame or with Esc, it saves nothing.
-void frmNewUser::reject() {
-    if (!m_fade->isFading()) leave();
-}
-
-void frmNewUser::leave() {
-    m_fade->leave([this] { accept(); });
+void frmNewUser::askedToClose() {
+    leave();
 }
 
 }  // namespace skylob

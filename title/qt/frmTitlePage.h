@@ -1,41 +1,28 @@
 #pragma once
 
-#include <QWidget>
-#include <functional>
-
 #include "base/Clock.h"
 #include "base/LinkOpener.h"
 #include "base/MessageBoxes.h"
-#include "base/SettingsStore.h"
 #include "base/SoundPlayer.h"
-#include "base/basSkylob.h"
-#include "look/qt/QtShapes.h"
+#include "screen/qt/QtScreen.h"
 
 namespace skylob {
 
-class QtScreenFade;
 class QtTitleAnimation;
 
-/// What the title page needs beside the shared state; all of it must outlive the screen.
-struct frmTitlePagePorts {
-    const Clock& clock;
-    SoundPlayer& sounds;
-    SettingsStore& settings;
-    LinkOpener& links;
-    MessageBoxes& boxes;
-    const QtShapes& shapes;
-    /// Welcomes a new user and returns when that screen has been closed.
-    std::function<void()> welcome;
-};
-
 /// The first screen: what the program is, over a picture that moves.
-class frmTitlePage : public QWidget {
+class frmTitlePage : public QtScreen {
     Q_OBJECT
 
   public:
-    frmTitlePage(basSkylob& shared, const frmTitlePagePorts& ports);
+    /// All arguments must outlive the screen.
+    frmTitlePage(const QtScreenPorts& ports, const Clock& clock, SoundPlayer& sounds,
+                 LinkOpener& links, MessageBoxes& boxes);
 
   signals:
+    /// A new user goes on. The receiver is to welcome them, and to return when that is over.
+    void newUserCame();
+
     /// The user goes on, or has closed the page; it is hidden. Receivers must not delete it before
     /// the present event has been handled.
     void continued();
@@ -44,15 +31,16 @@ class frmTitlePage : public QWidget {
   protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
-    void closeEvent(QCloseEvent* event) override;
 
   private:
+    void askedToClose() override;
     void makeLabels();
     void cmdContinue_Click();
 
-    basSkylob& m_shared;
-    frmTitlePagePorts m_ports;
-    QtScreenFade* m_fade;
+    const Clock& m_clock;
+    SoundPlayer& m_sounds;
+    LinkOpener& m_links;
+    MessageBoxes& m_boxes;
     QtTitleAnimation* m_picture;
 };
 

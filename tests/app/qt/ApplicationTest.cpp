@@ -3,7 +3,6 @@
 #include "app/qt/Application.h"
 
 #include <QCheckBox>
-#include <QMessageBox>
 #include <QScrollBar>
 #include <QTableView>
 #include <QTest>
@@ -20,7 +19,7 @@ class ApplicationTest : public QObject {
 
   private slots:
     void bringsEachScreenOnWhereTheOneBeforeItIs() {
-        QWidget* const title = shown(" ");
+        QWidget* const title = shown("frmTitlePage");
         QCOMPARE(title->pos(), QPoint(1400 + 380, 230));  // the pointer's display
         title->move(100, 100);
         onceModal([title](QWidget* welcome) {
@@ -29,21 +28,21 @@ class ApplicationTest : public QObject {
         });
         press(title, "cmdContinue");
 
-        QWidget* const list = shown(" Skylob - Player List");
+        QWidget* const list = shown("frmGetPlayers");
         QCOMPARE(list->pos(), QPoint(28, 68));
         list->move(2800 - 788, 900 - 508);  // the right display's lower right corner
-        auto* const grid = list->findChild<QTableView*>();
+        auto* const grid = list->findChild<QTableView*>("grid");
         QTRY_COMPARE(grid->model()->rowCount(), 1);
         QTest::keyClick(grid, Qt::Key_Return);
         onceModal([list](QWidget* level) {
             checkAbove(level, list, {1400 + 460, 346});
             press(list, "cmdHelp");
-            QVERIFY(!shown(" Skylob - Help Window"));
+            QVERIFY(!shown("frmManual"));
             press(level, "cmdSkillLevel(6)");
         });
-        list->findChild<QCheckBox*>()->click();
+        list->findChild<QCheckBox*>("chkComputer")->click();
 
-        QWidget* const battle = shown(" Skylob - Battlefield");
+        QWidget* const battle = shown("frmPlayGame");
         QCOMPARE(battle->pos(), QPoint(2800 - 1012, 900 - 708));
         battle->move(100, 50);
         onceModal([battle](QWidget* summary) {
@@ -59,17 +58,17 @@ class ApplicationTest : public QObject {
             QTest::keyClick(box, Qt::Key_Y, Qt::AltModifier);
         });
         press(battle, "cmdQuit");
-        QWidget* const listAgain = shown(" Skylob - Player List");
+        QWidget* const listAgain = shown("frmGetPlayers");
         QCOMPARE(listAgain->pos(), QPoint(212, 150));
         press(listAgain, "cmdHelp");
-        QCOMPARE(shown(" Skylob - Help Window")->pos(), QPoint(244, 132));
+        QCOMPARE(shown("frmManual")->pos(), QPoint(244, 132));
     }
 
   private:
     /// Null when there is none.
-    static QWidget* shown(const char* caption) {
+    static QWidget* shown(const char* name) {
         for (QWidget* window : QApplication::topLevelWidgets())
-            if (window->isVisible() && window->windowTitle() == caption) return window;
+            if (window->isVisible() && window->objectName() == name) return window;
         return nullptr;
     }
 
@@ -98,8 +97,8 @@ class ApplicationTest : public QObject {
     /// In the player's turn, after which the round is over.
     static void shootStraightUp(QWidget* battle) {
         QTRY_VERIFY(battle->findChild<GlintButton*>("cmdShoot")->isEnabled());
-        for (QScrollBar* bar : battle->findChildren<QScrollBar*>())
-            if (bar->accessibleName() == "Angle") bar->setValue(bar->maximum());
+        for (const char* bar : {"scrollAngle(1)", "scrollAngle(2)"})
+            battle->findChild<QScrollBar*>(bar)->setValue(90);
         press(battle, "cmdShoot");
     }
 };

@@ -14,6 +14,7 @@
 
 #include "battle/qt/picGameField.h"
 #include "controls/qt/GlintButton.h"
+#include "look/qt/QtShapes.h"
 #include "screen/qt/QtMessageBoxes.h"
 #include "tests/support/BattleRig.h"
 
@@ -43,9 +44,8 @@ struct Screen {
         settings.save("GameSpeed", "99");
         settings.save("SoundSetting", "0");
         form = std::make_unique<frmPlayGame>(
-            shared,
-            frmPlayGamePorts{
-                {random, clock, pacer, sounds, boxes, settings}, shapes, [](SummaryKind) {}});
+            QtScreenPorts{shared, settings, shapes},
+            BattlePorts{random, clock, pacer, sounds, boxes, settings});
         form->show();
         form->activateWindow();
         (void)QTest::qWaitForWindowActive(form.get());

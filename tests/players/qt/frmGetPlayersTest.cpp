@@ -17,6 +17,7 @@
 #include <QtTest>
 
 #include "controls/qt/GlintButton.h"
+#include "look/qt/QtShapes.h"
 #include "players/qt/frmGetSkillLevel.h"
 #include "players/qt/frmSummary.h"
 #include "screen/Fade.h"
@@ -35,14 +36,16 @@ struct World : PlayersRig {
     RecordingSounds sounds{log};
     RecordingLinks links;
     const QtShapes shapes{programDrawings()};
+    const QtScreenPorts screenPorts{shared, settings, shapes};
 };
 
 struct LobbyScreen : World {
     explicit LobbyScreen(const std::string& list) {
         put(list);
         form = std::make_unique<frmGetPlayers>(
-            shared, frmGetPlayersPorts{file, clock, boxes, settings, sounds, links, shapes,
-                                       [this] { ++skillQuestions; }});
+            screenPorts, frmGetPlayersPorts{file, clock, boxes, sounds, links});
+        QObject::connect(form.get(), &frmGetPlayers::computerChallenged,
+                         [this] { ++skillQuestions; });
         form->show();
         (void)QTest::qWaitForWindowActive(form.get());
         grid = child<QTableView>("grid");
@@ -149,11 +152,10 @@ class frmGetPlayersTest : public QObject {
         world.shared.TotalKills = {-32768, 122};
         ScriptedRandom random{{}, 0};
         const StringTable strings;
-        const frmSummary form{world.shared,
-                              SummaryKind::Round,
-                              {world.clock, random, world.sounds, world.boxes, strings, world.file},
-                              world.settings,
-                              world.shapes};
+        const frmSummary form{
+            world.screenPorts,
+            SummaryKind::Round,
+            {world.clock, random, world.sounds, world.boxes, strings, world.file}};
         QString figures;
         for (const char* name : {"labelRoundsWon(%1)", "labelKills(%1)", "labelTotalKills(%1)"})
             for (const int side : {1, 2})
@@ -220,12 +222,12 @@ class frmGetPlayersTest : public QObject {
     void takesTheSkillLevel() {
         World world;
         const auto answer = [&world](int key, Qt::KeyboardModifiers modifiers = {}) {
-            frmGetSkillLevel form{world.shared, world.settings, world.shapes};
+            frmGetSkillLevel form{world.screenPorts};
             QTimer::singleShot(0, &form, [&] {
                 (void)QTest::qWaitForWindowActive(&form);
                 QTest::keyClick(form.focusWidget(), Qt::Key(key), modifiers);
             });
-            form.exec();
+            form.showModal(nullptr);
             return world.shared.SkillLevel;
         };
         QCOMPARE(answer(Qt::Key_P, Qt::AltModifier), 6);

@@ -48,7 +48,8 @@ class TitleAnimationTest : public QObject {
             QCoreApplication::processEvents();
             int pixels = 0;
             for (const QRect& rect : animation.painted) pixels += rect.width() * rect.height();
-            QVERIFY2(pixels > 0 && pixels < 640 * 280 / 10, qPrintable(QString::number(pixels)));
+            QCOMPARE_GT(pixels, 0);
+            QCOMPARE_LT(pixels, 640 * 280 / 10);
             const QImage shown = animation.screen()->grabWindow(animation.winId()).toImage();
             const QImage whole = animation.grab().toImage();
             QCOMPARE(shown.convertToFormat(QImage::Format_RGB32),

@@ -1,0 +1,96 @@
+#include "screen/qt/QtScreen.h"
+
+#include <QAccessibleWidget>
+#include <QCloseEvent>
+#include <QEventLoop>
+#include <QKeyEvent>
+#include <QScopedValueRollback>
+#include <utility>
+
+#include "look/qt/QtLook.h"
+#include "screen/qt/QtPlacement.h"
+#include "screen/qt/QtScreenFade.h"
+
+namespace skylob {
+
+namespace {
+
+QAccessibleInterface* makeAccessible(const QString&, QObject* object) {
+    auto* screen = qobject_cast<QtScreen*>(object);
+    return screen && screen->isModal() ? new QAccessibleWidget{screen, QAccessible::Dialog}
+                                       : nullptr;
+}
+
+}  // namespace
+
+QtScreen::QtScreen(const QtScreenDesign& design, const QtScreenPorts& ports)
+    : QWidget{nullptr, design.type},
+      m_shared{ports.shared},
+      m_settings{ports.settings},
+      m_shapes{ports.shapes},
+      m_fade{new QtScreenFade{this, ports.shared, ports.settings}} {
+    setObjectName(design.name);
+    setWindowTitle(design.caption);
+    applyLook(*this);
+    setFixedSize(design.size);
+    if (design.type == Qt::Dialog) setWindowModality(Qt::ApplicationModal);
+    if (design.fadesIn) m_fade->load();
+}
+
+void QtScreen::installAccessible() {
+    QAccessible::installFactory(makeAccessible);
+}
+
+void QtScreen::showModal(const QWidget* above) {
+    keepAbove(*this, above);
+    QEventLoop loop;
+    const QScopedValueRollback waiting{m_modalLoop, &loop};
+    show();
+    loop.exec(QEventLoop::DialogExec);
+}
+
+bool QtScreen::mayClose() const {
+    return !m_fade->isFading() && !m_leaving;
+}
+
+bool QtScreen::beginLeaving() {
+    return !std::exchange(m_leaving, true);
+}
+
+void QtScreen::finishLeaving(std::function<void()> next, int step) {
+    m_fade->fadeOut(
+        [this, next = std::move(next)] {
+            hide();
+            if (next) next();
+        },
+        step);
+}
+
+void QtScreen::leave(std::function<void()> next, int step) {
+    if (beginLeaving()) finishLeaving(std::move(next), step);
+}
+
+void QtScreen::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    if (std::exchange(m_activated, true)) return;
+    m_fade->fadeIn();
+    Form_Activate();
+}
+
+void QtScreen::hideEvent(QHideEvent* event) {
+    QWidget::hideEvent(event);
+    // A window that the user puts aside is hidden, too, but not by the program.
+    if (m_modalLoop && !event->spontaneous()) m_modalLoop->quit();
+}
+
+void QtScreen::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    if (mayClose()) askedToClose();
+}
+
+void QtScreen::keyPressEvent(QKeyEvent* event) {
+    if (!isModal() || !event->matches(QKeySequence::Cancel)) return QWidget::keyPressEvent(event);
+    if (mayClose()) askedToClose();
+}
+
+}  // namespace skylob

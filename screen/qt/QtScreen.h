@@ -1,0 +1,86 @@
+#pragma once
+
+#include <QString>
+#include <QWidget>
+#include <functional>
+
+#include "screen/Fade.h"
+
+class QEventLoop;
+
+namespace skylob {
+
+class QtScreenFade;
+class QtShapes;
+class SettingsStore;
+struct basSkylob;
+
+/// What every screen needs; all of it must outlive the screen.
+struct QtScreenPorts {
+    basSkylob& shared;
+    SettingsStore& settings;
+    const QtShapes& shapes;
+};
+
+/// What one screen is to be.
+struct QtScreenDesign {
+    QString name;  ///< as an object, such as "frmManual"
+    QString caption;
+    QSize size;
+    Qt::WindowType type = Qt::Window;  ///< Dialog for what is run with showModal()
+    bool fadesIn = true;               ///< where the user wants it and the display can
+};
+
+/// One screen of the program: a window of fixed size in the program's look. It comes up once and
+/// goes once, each in a fade where the user wants it and the display can, and takes no input
+/// meanwhile.
+class QtScreen : public QWidget {
+    Q_OBJECT
+
+  public:
+    QtScreen(const QtScreenDesign& design, const QtScreenPorts& ports);
+
+    /// Shows the screen over another one, which may be null, and returns when it has gone. Until
+    /// then no other window of the program takes input.
+    void showModal(const QWidget* above);
+
+    /// Makes screen readers find a dialog in every modal screen.
+    static void installAccessible();
+
+  protected:
+    /// The set-up that waits until the screen is shown. Called once, while it comes up.
+    virtual void Form_Activate() {}
+
+    /// The user wants to close the window by its frame, or with Esc if it is modal, and it may be
+    /// closed. It stays unless this hides it or calls leave().
+    virtual void askedToClose() = 0;
+
+    /// False during a fade and from beginLeaving() on.
+    bool mayClose() const;
+
+    /// From now on the screen is going. False when it was going before.
+    bool beginLeaving();
+
+    /// After beginLeaving(): fades the screen out by `step` a tick, or does not; hides it, and then
+    /// calls `next`.
+    void finishLeaving(std::function<void()> next = {}, int step = kFadeStep);
+
+    /// Both, once only.
+    void leave(std::function<void()> next = {}, int step = kFadeStep);
+
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+    basSkylob& m_shared;
+    SettingsStore& m_settings;
+    const QtShapes& m_shapes;
+
+  private:
+    QtScreenFade* m_fade;
+    QEventLoop* m_modalLoop = nullptr;  ///< while showModal() waits
+    bool m_activated = false, m_leaving = false;
+};
+
+}  // namespace skylob

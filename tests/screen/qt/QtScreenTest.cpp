@@ -1,0 +1,96 @@
+// Run by ctest on a display without translucent windows, and by end_to_end/fade.sh on one with
+// them, where it is told to expect a fade.
+
+#include "screen/qt/QtScreen.h"
+
+#include <QAccessible>
+#include <QKeyEvent>
+#include <QTest>
+#include <QTimer>
+
+#include "base/NullPorts.h"
+#include "base/basSkylob.h"
+#include "look/qt/QtShapes.h"
+
+namespace skylob::test {
+
+/// Leaves when it is asked to close, and counts what happens to it.
+class Screen : public QtScreen {
+  public:
+    using QtScreen::leave, QtScreen::mayClose, QtScreen::QtScreen;
+    int keys = 0, activations = 0, asked = 0, left = 0;
+
+  protected:
+    void Form_Activate() override { ++activations; }
+    void askedToClose() override {
+        ++asked;
+        leave([this] { ++left; });
+    }
+    void keyPressEvent(QKeyEvent* event) override {
+        ++keys;
+        QtScreen::keyPressEvent(event);
+    }
+};
+
+class QtScreenTest : public QObject {
+    Q_OBJECT
+
+  private slots:
+    void initTestCase() { settings.save("FadeStatus", "True"); }
+
+    void takesNoInputWhileItFadesAndLeavesOnce() {
+        Screen screen{{"name", "caption", {200, 100}}, ports};
+        QCOMPARE(shared.FadeActive, fades);
+        QCOMPARE(screen.windowOpacity(), fades ? 0.0 : 1.0);
+        screen.show();
+        QCOMPARE(screen.mayClose(), !fades);
+        QTest::keyClick(&screen, Qt::Key_Escape);
+        QCOMPARE(screen.keys, fades ? 0 : 1);
+        if (fades) screen.close();
+        QTRY_VERIFY(screen.mayClose());
+        QCOMPARE(screen.windowOpacity(), 1.0);
+        QTest::keyClick(&screen, Qt::Key_Escape);
+        QCOMPARE(screen.keys, fades ? 1 : 2);
+        QCOMPARE(screen.asked, 0);
+
+        screen.hide();
+        screen.show();
+        QCOMPARE(screen.activations, 1);
+        QVERIFY(screen.mayClose());
+        for (int time = 0; time < 2; ++time) screen.close();
+        QCOMPARE(screen.asked, 1);
+        screen.leave([&screen] { ++screen.left; });
+        QCOMPARE(screen.left, fades ? 0 : 1);
+        QCOMPARE(screen.isVisible(), fades);
+        QTRY_COMPARE(screen.left, 1);
+        QVERIFY(!screen.isVisible());
+        QVERIFY(!screen.mayClose());
+        QCOMPARE(screen.windowOpacity(), fades ? 0.0 : 1.0);
+    }
+
+    void isRunUntilEscapeWhereItIsModal() {
+        QtScreen::installAccessible();
+        Screen screen{{"name", "caption", {200, 100}, Qt::Dialog}, ports};
+        QCOMPARE(QAccessible::queryAccessibleInterface(&screen)->role(), QAccessible::Dialog);
+        QTimer::singleShot(0, &screen, [&screen] {
+            QCOMPARE(QApplication::activeModalWidget(), &screen);
+            QTRY_VERIFY(screen.mayClose());
+            QTest::keyClick(&screen, Qt::Key_Escape);
+        });
+        screen.showModal(nullptr);
+        QCOMPARE(screen.left, 1);
+        QVERIFY(!screen.isVisible());
+    }
+
+  private:
+    const bool fades = qEnvironmentVariableIsSet("SKYLOB_EXPECT_FADES");
+    basSkylob shared;
+    MemorySettings settings;
+    const QtShapes shapes{programDrawings()};
+    const QtScreenPorts ports{shared, settings, shapes};
+};
+
+}  // namespace skylob::test
+
+QTEST_MAIN(skylob::test::QtScreenTest)
+#include "QtScreenTest.moc"
