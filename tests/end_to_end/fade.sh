@@ -4,13 +4,10 @@
 # and at once, with their opacity untouched, where there is none.
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 
-opacity() { xprop -id "$(window "$battle")" _NET_WM_WINDOW_OPACITY; }
-is_opaque() { opacity | grep -qx '.*= 4294967295'; }
-
 # watch WINDOW: begins to write down its opacities.
 watch() {
     xprop -id "$(window "$1")" -spy _NET_WM_WINDOW_OPACITY >"$work/opacities" &
-    until_true 5 test -s "$work/opacities" || fail "no look at the opacity"
+    wait_for test -s "$work/opacities" || fail "no look at the opacity"
 }
 
 # expect_fade STEP FEWEST: the window watched went from 255 to 0. Opacities are whole steps of
@@ -32,22 +29,20 @@ start_display
 
 start_game
 start_battle
-opacity | grep -q 'not found' || fail "an opacity without a compositing manager: $(opacity)"
+opacity "$battle" | grep -q 'not found' || fail "an opacity without a compositing manager: $(opacity "$battle")"
 press "$battle" Escape
 gone "$battle"
 leave_program
 
-xcompmgr &
-sleep 1
+start_compositing
 SKYLOB_EXPECT_FADES=1 "$2" >"$work/screen" || fail "no fade of a screen: $(<"$work/screen")"
 start_program
 watch "$title"
 press "$title" space
 shown "$lobby"
 expect_fade 10 20
-sleep 0.5 # it fades in
 start_battle
-until_true 5 is_opaque || fail "the battle has not faded in: $(opacity)"
+wait_for is_opaque "$battle" || fail "the battle has not faded in: $(opacity "$battle")"
 watch "$battle"
 press "$battle" Escape
 gone "$battle"
