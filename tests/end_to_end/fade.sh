@@ -23,7 +23,7 @@ expect_fade() {
     [[ $steps == *" 0 " && $(wc -w <<<"$steps") -ge $2 ]] || fail "not a whole fade: $steps"
 }
 
-printf '[Defaults]\nFadeStatus=True\n' >"$settings"
+calm FadeStatus=True
 players Ann Bob
 start_display
 

@@ -29,7 +29,7 @@ wait_for() {
 }
 
 start_display() {
-    Xvfb -displayfd 3 -screen 0 1400x900x24 3>"$work/display" >/dev/null 2>&1 &
+    Xvfb -noreset -displayfd 3 -screen 0 1400x900x24 3>"$work/display" >/dev/null 2>&1 &
     wait_for test -s "$work/display" || fail "Xvfb does not start"
     DISPLAY=:$(<"$work/display")
     export DISPLAY
@@ -47,6 +47,8 @@ is_grey() { import -window root -crop 1x1+0+0 -depth 8 txt:- | grep -q '#808080'
 
 window() { xdotool search --onlyvisible --name "$1" 2>/dev/null | head -n 1; }
 is_shown() { [[ -n $(window "$1") ]]; }
+# A search that fails, because some window goes at the moment, says so: that is not "none found".
+is_gone() { [[ -z $(xdotool search --onlyvisible --name "$1" 2>&1) ]]; }
 is_over() { ! kill -0 "$game" 2>/dev/null; }
 
 lobby="Skylob - Player List"
@@ -76,7 +78,7 @@ expect_players() {
 expect_setting() { wait_for grep -qxF "$1" "$settings" || fail "no $1 in: $(<"$settings")"; }
 
 shown() { wait_for is_shown "$1" || fail "no window '$1': $(<"$work/stderr")"; }
-gone() { wait_for not is_shown "$1" || fail "the window '$1' stays"; }
+gone() { wait_for is_gone "$1" || fail "the window '$1' stays"; }
 not() { ! "$@"; }
 
 opacity() { xprop -id "$(window "$1")" _NET_WM_WINDOW_OPACITY; }
@@ -108,9 +110,13 @@ start_program() {
     shown "$title"
 }
 
+# calm LINE...: settings without meteors and storms, which come to whoever dawdles. A storm lets
+# nobody play for minutes, and both draw random numbers.
+calm() { printf '%s\n' '[Defaults]' MeteorsSetting=0 LightningSetting=0 "$@" >"$settings"; }
+
 # start_game OPTION...: the same without a welcome, and goes on to the player list.
 start_game() {
-    [[ -s $settings ]] || echo '[Defaults]' >"$settings"
+    [[ -s $settings ]] || calm
     grep -q NewUser "$settings" || sed -i '1aNewUser=NoShow' "$settings"
     start_program "$@"
     press "$title" space

@@ -16,7 +16,7 @@ add() {
     enter "Add a New Player" "$1"
 }
 
-printf '[Defaults]\nGameSpeed=99\nNumRounds=1\n' >"$settings"
+calm GameSpeed=99 NumRounds=1
 start_display
 start_game --seed 4
 press "Empty Player List" Return

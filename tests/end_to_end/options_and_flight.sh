@@ -6,7 +6,7 @@ source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 
 battle() { press "$battle" "$@"; }
 
-printf '[Defaults]\nGameSpeed=1\nSoundSetting=maybe\n' >"$settings"
+calm GameSpeed=1 SoundSetting=maybe
 players Ann Bob
 start_display
 start_game --seed 1

@@ -4,11 +4,7 @@
 # finds it recorded for both.
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 
-cat >"$settings" <<'INI'
-[Defaults]
-GameSpeed=99
-NumRounds=1
-INI
+calm GameSpeed=99 NumRounds=1
 players Ann Computer
 start_display
 start_game --seed 5 # a short set

@@ -16,12 +16,12 @@ first=$game
 game=$!
 wait_for takes_keys Terminating || fail "a second copy is not refused"
 is_alone() { [[ $(xdotool search --onlyvisible --name "$title" | wc -l) == 1 ]]; }
-is_alone || fail "two title pages"
+wait_for is_alone || fail "two title pages"
 press Terminating Return
 wait_for is_over || fail "a second copy stays"
 ! wait "$game" || fail "a second copy ends well"
 game=$first
-is_alone || fail "the first copy is gone"
+wait_for is_alone || fail "the first copy is gone"
 
 press "$title" space
 press "New User Overview" space

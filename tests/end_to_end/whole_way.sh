@@ -8,7 +8,7 @@ hand=$2
 # point WINDOW X,Y: brings the pointer there; below 0 they count from the right and from the bottom.
 # Fails where another window is in front.
 point() {
-    local WIDTH HEIGHT WINDOW id x=${2%,*} y=${2#*,}
+    local WIDTH=0 HEIGHT=0 WINDOW=0 id x=${2%,*} y=${2#*,}
     id=$(window "$1")
     eval "$(xdotool getwindowgeometry --shell "$id" | grep -E 'WIDTH|HEIGHT')"
     xdotool mousemove --window "$id" $((x < 0 ? WIDTH + x : x)) $((y < 0 ? HEIGHT + y : y))
@@ -70,7 +70,7 @@ leave() {
     expect_exit
 }
 
-printf '[Defaults]\nGameSpeed=99\nNumRounds=1\n' >"$settings"
+calm GameSpeed=99 NumRounds=1
 players Ann Computer
 start_display
 start_program
