@@ -10,17 +10,20 @@ watch() {
     wait_for test -s "$work/opacities" || fail "no look at the opacity"
 }
 
-# expect_fade STEP FEWEST: the window watched went from 255 to 0. Opacities are whole steps of
-# 255ths, each repeated in four bytes. Some may be missed, none made up.
+# expect_fade STEP: the window watched went to 0. Opacities are whole steps of 255ths, each repeated
+# in four bytes. Some may be missed, none made up, and the least distance seen is the step.
 expect_fade() {
-    local steps step expected
+    local steps step expected last=0 pair=
+    wait_for grep -q ' 0$' "$work/opacities" || fail "no end of a fade: $(<"$work/opacities")"
     steps=$(grep -o ' [0-9]\{5,\}$\| 0$' "$work/opacities" |
         while read -r value; do echo $((value / 16843009)); done | uniq | tr '\n' ' ')
     expected=" $(seq -s ' ' 255 "-$1" 0) 0 "
     for step in $steps; do
         [[ $expected == *" $step "* ]] || fail "an opacity of $step: $steps"
+        ((last - step != $1)) || pair=yes
+        last=$step
     done
-    [[ $steps == *" 0 " && $(wc -w <<<"$steps") -ge $2 ]] || fail "not a whole fade: $steps"
+    [[ $steps == *" 0 " && -n $pair ]] || fail "not a whole fade: $steps"
 }
 
 calm FadeStatus=True
@@ -40,11 +43,11 @@ start_program
 watch "$title"
 press "$title" space
 shown "$lobby"
-expect_fade 10 20
+expect_fade 10
 start_battle
 wait_for is_opaque "$battle" || fail "the battle has not faded in: $(opacity "$battle")"
 watch "$battle"
 press "$battle" Escape
 gone "$battle"
-expect_fade 20 10
+expect_fade 20
 leave_program
