@@ -1,17 +1,9 @@
 #!/usr/bin/env bash
 # Usage: command_line.sh PROGRAM
 # What the program does with its arguments, without any display.
-set -euo pipefail
-program=$(realpath "$1")
-work=$(mktemp -d)
-trap 'kill $(jobs -p) 2>/dev/null || true; rm -rf "$work"' EXIT
+source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 unset DISPLAY WAYLAND_DISPLAY QT_QPA_PLATFORM
 cd "$work"
-
-fail() {
-    echo "FAILED: $*" >&2
-    exit 1
-}
 
 # expect STATUS ARGUMENT...: the status, and one line on standard error unless it is 0.
 expect() {
@@ -35,7 +27,7 @@ expect 2 --data-dir file
 expect 2 --data-dir file/below
 expect 1 --data-dir new/folder # nothing to show it on, but the folder is made
 [[ -d new/folder ]] || fail "--data-dir makes no folder"
-DISPLAY=:9999 XDG_RUNTIME_DIR=$work expect 1
+DISPLAY=:9999 expect 1
 XDG_DATA_HOME=$work/own expect 1 --user-data
 [[ -d own/Skylob ]] || fail "--user-data makes no folder"
 expect 2 --data-dir $'bad\xff' # the toolkit would make another folder of it
@@ -46,18 +38,17 @@ for option in --help --version; do
     ((status == 1)) && [[ $(wc -l <err) == 1 ]] || fail "status $status with a full disk: $(<err)"
 done
 
+holds_lock() { ls -l "/proc/$game/fd" | grep -q Skylob.lock; }
+
 # The standard descriptors that are closed are not taken by other files.
-export QT_QPA_PLATFORM=offscreen XDG_RUNTIME_DIR=$work HOME=$work
+export QT_QPA_PLATFORM=offscreen
 for closed in 0 1 2 "0 1" "0 2" "1 2" "0 1 2"; do
     (
         for descriptor in $closed; do eval "exec $descriptor>&-"; done
         exec "$program"
     ) </dev/zero >out 2>err &
     game=$!
-    until ls -l "/proc/$game/fd" 2>/dev/null | grep -q Skylob.lock; do
-        kill -0 $game || fail "without $closed it ends"
-        sleep 0.05
-    done
+    wait_for holds_lock || fail "without $closed it does not start"
     for descriptor in $closed; do
         held=$(readlink "/proc/$game/fd/$descriptor") || true
         [[ $held == /dev/null ]] || fail "without $closed, $descriptor is '$held'"

@@ -4,52 +4,50 @@
 # and at once, with their opacity untouched, where there is none.
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 
-opacity() { xprop -id "$(window "$battle")" _NET_WM_WINDOW_OPACITY; }
-is_opaque() { opacity | grep -qx '.*= 4294967295'; }
-
 # watch WINDOW: begins to write down its opacities.
 watch() {
     xprop -id "$(window "$1")" -spy _NET_WM_WINDOW_OPACITY >"$work/opacities" &
-    until_true 5 test -s "$work/opacities" || fail "no look at the opacity"
+    wait_for test -s "$work/opacities" || fail "no look at the opacity"
 }
 
-# expect_fade STEP FEWEST: the window watched went from 255 to 0. Opacities are whole steps of
-# 255ths, each repeated in four bytes. Some may be missed, none made up.
+# expect_fade STEP: the window watched went to 0. Opacities are whole steps of 255ths, each repeated
+# in four bytes. Some may be missed, none made up, and the least distance seen is the step.
 expect_fade() {
-    local steps step expected
+    local steps step expected last=0 pair=
+    wait_for grep -q ' 0$' "$work/opacities" || fail "no end of a fade: $(<"$work/opacities")"
     steps=$(grep -o ' [0-9]\{5,\}$\| 0$' "$work/opacities" |
         while read -r value; do echo $((value / 16843009)); done | uniq | tr '\n' ' ')
     expected=" $(seq -s ' ' 255 "-$1" 0) 0 "
     for step in $steps; do
         [[ $expected == *" $step "* ]] || fail "an opacity of $step: $steps"
+        ((last - step != $1)) || pair=yes
+        last=$step
     done
-    [[ $steps == *" 0 " && $(wc -w <<<"$steps") -ge $2 ]] || fail "not a whole fade: $steps"
+    [[ $steps == *" 0 " && -n $pair ]] || fail "not a whole fade: $steps"
 }
 
-printf '[Defaults]\nFadeStatus=True\n' >"$settings"
+calm FadeStatus=True
 players Ann Bob
 start_display
 
 start_game
 start_battle
-opacity | grep -q 'not found' || fail "an opacity without a compositing manager: $(opacity)"
+opacity "$battle" | grep -q 'not found' || fail "an opacity without a compositing manager: $(opacity "$battle")"
 press "$battle" Escape
 gone "$battle"
 leave_program
 
-xcompmgr &
-sleep 1
+start_compositing
 SKYLOB_EXPECT_FADES=1 "$2" >"$work/screen" || fail "no fade of a screen: $(<"$work/screen")"
 start_program
 watch "$title"
 press "$title" space
 shown "$lobby"
-expect_fade 10 20
-sleep 0.5 # it fades in
+expect_fade 10
 start_battle
-until_true 5 is_opaque || fail "the battle has not faded in: $(opacity)"
+wait_for is_opaque "$battle" || fail "the battle has not faded in: $(opacity "$battle")"
 watch "$battle"
 press "$battle" Escape
 gone "$battle"
-expect_fade 20 10
+expect_fade 20
 leave_program

@@ -14,8 +14,4 @@ press "$battle" Right # clicks
 exec 9>"$settings.lock"
 flock 9
 press "$battle" Escape # saves five options
-shown "$lobby" 10
-press "$lobby" Escape
-shown Confirm
-press Confirm alt+y
-expect_exit 5
+leave_program

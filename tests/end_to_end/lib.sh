@@ -4,7 +4,7 @@ set -euo pipefail
 
 program=$(realpath "$1")
 work=$(mktemp -d)
-export XDG_CONFIG_HOME=$work/config XDG_RUNTIME_DIR=$work/runtime SDL_AUDIODRIVER=dummy
+export HOME=$work XDG_CONFIG_HOME=$work/config XDG_RUNTIME_DIR=$work/runtime SDL_AUDIODRIVER=dummy
 export QT_QPA_PLATFORM=xcb QT_SCALE_FACTOR=1
 settings=$XDG_CONFIG_HOME/Skylob/Skylob.ini
 mkdir -p "$XDG_RUNTIME_DIR" "$(dirname "$settings")" "$work/data"
@@ -16,10 +16,12 @@ fail() {
     exit 1
 }
 
-# until_true SECONDS COMMAND...: waits for the command to succeed.
-until_true() {
-    local deadline=$((SECONDS + $1))
-    shift
+# How many seconds anything may take on a machine that is busy with other things.
+patience=120
+
+# wait_for COMMAND...: waits for the command to succeed.
+wait_for() {
+    local deadline=$((SECONDS + patience))
     until "$@" >/dev/null 2>&1; do
         ((SECONDS < deadline)) || return 1
         sleep 0.05
@@ -27,16 +29,26 @@ until_true() {
 }
 
 start_display() {
-    Xvfb -displayfd 3 -screen 0 1400x900x24 3>"$work/display" >/dev/null 2>&1 &
-    until_true 10 test -s "$work/display" || fail "Xvfb does not start"
+    Xvfb -noreset -displayfd 3 -screen 0 1400x900x24 3>"$work/display" >/dev/null 2>&1 &
+    wait_for test -s "$work/display" || fail "Xvfb does not start"
     DISPLAY=:$(<"$work/display")
     export DISPLAY
     openbox >/dev/null 2>&1 &
-    until_true 20 xdotool get_desktop || fail "the window manager does not start"
+    wait_for xdotool get_desktop || fail "the window manager does not start"
 }
+
+# start_compositing: makes windows translucent, behind which all is grey.
+start_compositing() {
+    ! is_grey || fail "the background is grey already"
+    xcompmgr &
+    wait_for is_grey || fail "the compositing manager does not start"
+}
+is_grey() { import -window root -crop 1x1+0+0 -depth 8 txt:- | grep -q '#808080'; }
 
 window() { xdotool search --onlyvisible --name "$1" 2>/dev/null | head -n 1; }
 is_shown() { [[ -n $(window "$1") ]]; }
+# A search that fails, because some window goes at the moment, says so: that is not "none found".
+is_gone() { [[ -z $(xdotool search --onlyvisible --name "$1" 2>&1) ]]; }
 is_over() { ! kill -0 "$game" 2>/dev/null; }
 
 lobby="Skylob - Player List"
@@ -61,13 +73,33 @@ records() {
 players() { records "$@" >"$list"; }
 holds_players() { records "$@" | cmp - "$list"; }
 expect_players() {
-    until_true 5 holds_players "$@" || fail "not these players: $*: $(od -c "$list")"
+    wait_for holds_players "$@" || fail "not these players: $*: $(od -c "$list")"
 }
-expect_setting() { until_true 5 grep -qxF "$1" "$settings" || fail "no $1 in: $(<"$settings")"; }
+expect_setting() { wait_for grep -qxF "$1" "$settings" || fail "no $1 in: $(<"$settings")"; }
 
-shown() { until_true "${2:-20}" is_shown "$1" || fail "no window '$1': $(<"$work/stderr")"; }
-gone() { until_true "${2:-20}" not is_shown "$1" || fail "the window '$1' stays"; }
+shown() { wait_for is_shown "$1" || fail "no window '$1': $(<"$work/stderr")"; }
+gone() { wait_for is_gone "$1" || fail "the window '$1' stays"; }
 not() { ! "$@"; }
+
+opacity() { xprop -id "$(window "$1")" _NET_WM_WINDOW_OPACITY; }
+# Whether a window is there and has faded in, or does not fade at all. In a fade it takes no input.
+is_opaque() { [[ $(opacity "$1") =~ '= 4294967295'|'not found' ]]; }
+
+# Whether keys go to the window, and the window manager agrees. Asks for it where they do not.
+has_keyboard() {
+    local id
+    id=$(window "$1") || return
+    [[ $(xdotool getwindowfocus) == "$id" && $(xdotool getactivewindow) == "$id" ]] && return
+    xdotool windowactivate "$id"
+    return 1
+}
+takes_keys() { is_opaque "$1" && has_keyboard "$1"; }
+
+# press WINDOW KEY...: presses keys as soon as the window takes them.
+press() {
+    wait_for takes_keys "$1" || fail "the window '$1' takes no keys: $(<"$work/stderr")"
+    xdotool key "${@:2}"
+}
 
 title='^ $' # no caption
 
@@ -78,53 +110,54 @@ start_program() {
     shown "$title"
 }
 
+# calm LINE...: settings without meteors and storms, which come to whoever dawdles. A storm lets
+# nobody play for minutes, and both draw random numbers.
+calm() { printf '%s\n' '[Defaults]' MeteorsSetting=0 LightningSetting=0 "$@" >"$settings"; }
+
 # start_game OPTION...: the same without a welcome, and goes on to the player list.
 start_game() {
-    [[ -s $settings ]] || echo '[Defaults]' >"$settings"
+    [[ -s $settings ]] || calm
     grep -q NewUser "$settings" || sed -i '1aNewUser=NoShow' "$settings"
     start_program "$@"
     press "$title" space
     shown "$lobby"
-    sleep 0.5 # the list is filled
 }
+
+# look WINDOW: takes the picture in which `pixels_of COLOUR [AREA]` counts the pixels of a colour.
+look() {
+    local id
+    id=$(window "$1") && import -window "$id" "$work/look.miff"
+}
+pixels_of() {
+    convert "$work/look.miff" ${2:+-crop "$2"} -fill black +opaque "$1" -fill white -opaque "$1" \
+        -format '%[fx:round(mean*w*h)]' info:
+}
+
+# Whether a player may shoot. The button is golden then, unless the pointer is over it.
+is_turn() { look "$battle" && (($(pixels_of "$gold") > 0)); }
+gold='#F2B92E'
+await_turn() { wait_for is_turn || fail "it is nobody's turn: $(<"$work/stderr")"; }
 
 # start_battle: lets the first player of the list fight the second.
 start_battle() {
     press "$lobby" Home Return Down Return
-    shown "$battle"
-    sleep 0.5 # the first picture
+    await_turn
 }
 
 # start_battle_with_computer KEY: lets the first player fight the computer at the level of a key.
 start_battle_with_computer() {
     press "$lobby" Home Return alt+c
-    shown "$skill"
     press "$skill" "alt+$1"
-    shown "$battle"
-    sleep 0.5
+    await_turn
 }
 
 leave_program() {
-    shown "$lobby"
-    sleep 0.5 # it may be fading in
     press "$lobby" Escape
-    shown Confirm
     press Confirm alt+y
-    expect_exit 10
-}
-
-# press WINDOW KEY...: gives the window the focus and presses keys.
-press() {
-    local id
-    id=$(window "$1")
-    shift
-    [[ -z $id ]] || { xdotool windowfocus --sync "$id" key "$@" 2>/dev/null || true; }
+    expect_exit
 }
 
 expect_exit() {
-    until_true "$1" is_over || fail "the program does not end"
+    wait_for is_over || fail "the program does not end"
     wait "$game" || fail "exit status $?: $(<"$work/stderr")"
 }
-
-# pixels_of FILE COLOUR: how many pixels of a picture have that colour.
-pixels_of() { convert "$1" -fill black +opaque "$2" -fill white -opaque "$2" -format '%[fx:round(mean*w*h)]' info:; }

@@ -4,42 +4,45 @@
 # read at the next start; the window's frame and Esc leave the set.
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 
-
 battle() { press "$battle" "$@"; }
 
-printf '[Defaults]\nGameSpeed=20\nSoundSetting=maybe\n' >"$settings"
+calm GameSpeed=1 SoundSetting=maybe
 players Ann Bob
 start_display
 start_game --seed 1
 start_battle
-# look: takes a picture of the battle. The trail is red, the shoot button golden while it can be used.
-look() { import -window "$(window "$battle")" "$work/battle.png"; }
-red() { pixels_of "$work/battle.png" '#FF0000'; }
-gold() { pixels_of "$work/battle.png" '#F2B92E'; }
-trail_grows() { look && (($(red) > before)); }
 
-look
-(($(gold) > 0)) || fail "the shoot button is not golden"
+# In flight a red trail grows, and the button is not golden.
+red() { pixels_of '#FF0000'; }
+trail_grows() { look "$battle" && (($(red) > before)); }
+expect_flight() {
+    wait_for trail_grows || fail "the trail does not grow in flight: $(red) pixels after $before"
+    before=$(red)
+    (($(pixels_of "$gold") == 0)) || fail "the controls look usable in flight"
+}
+look "$battle"
 before=$(red)
 battle alt+s
-for i in 1 2 3; do
-    until_true 5 trail_grows || fail "the trail does not grow in flight: $(red) pixels after $before"
-    before=$(red)
-    (($(gold) == 0)) || fail "the controls look usable in flight"
-done
-# Pressed in flight: neither leaves the set nor fires again.
-battle Escape alt+s
-sleep 6
-is_shown "$battle" || fail "a key pressed in flight was obeyed"
+expect_flight
+xdotool key Escape alt+s # neither leaves the set nor fires again
+expect_flight
+expect_flight
+await_turn
+# A ticked box is full of the accent colour.
+ticked() { look "$battle" && (($(pixels_of '#6FE0EC' "24x24+$1+668") > 100)); }
+trajectory=464 wind=828
+ticked $trajectory || fail "no trajectory"
 battle alt+t alt+w
-sleep 0.5 # a box shows for a moment that it is pressed
+wait_for not ticked $trajectory || fail "the trajectory stays"
+wait_for ticked $wind || fail "no wind"
+is_turn || fail "a key pressed in flight was obeyed"
 battle Escape
 gone "$battle"
 leave_program
 expect_setting TrajectorySetting=0
 expect_setting WindSetting=1
 expect_setting SoundSetting=1
-expect_setting GameSpeed=20
+expect_setting GameSpeed=1
 
 start_game
 start_battle

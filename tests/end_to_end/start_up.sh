@@ -11,17 +11,19 @@ start_program
 expect_players Ann
 [[ $(ls "$work/data") == Skylob.Data ]] || fail "left behind: $(ls "$work/data")"
 
+first=$game
 "$program" --data-dir "$work/data" &
-second=$!
-shown Terminating
-sleep 0.5 # a title page would come now
-[[ $(xdotool search --onlyvisible --name "$title" | wc -l) == 1 ]] || fail "two title pages"
+game=$!
+wait_for takes_keys Terminating || fail "a second copy is not refused"
+is_alone() { [[ $(xdotool search --onlyvisible --name "$title" | wc -l) == 1 ]]; }
+wait_for is_alone || fail "two title pages"
 press Terminating Return
-! wait "$second" || fail "a second copy ends well"
-shown "$title" # the first copy is still there
+wait_for is_over || fail "a second copy stays"
+! wait "$game" || fail "a second copy ends well"
+game=$first
+wait_for is_alone || fail "the first copy is gone"
 
 press "$title" space
-shown "New User Overview"
 press "New User Overview" space
 shown "$lobby"
 kill -9 "$game"
@@ -29,7 +31,6 @@ wait "$game" || true
 gone "$lobby"
 start_program
 press "$title" space
-shown "New User Overview"
 press "New User Overview" alt+d alt+F4
 shown "$lobby"
 ! grep -qs NewUser "$settings" || fail "the welcome saves without a tick and Continue: $(<"$settings")"
@@ -37,4 +38,4 @@ leave_program
 
 start_program
 press "$title" alt+F4
-expect_exit 10
+expect_exit

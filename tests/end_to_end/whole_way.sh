@@ -5,19 +5,24 @@
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 hand=$2
 
-# click WINDOW X,Y [TIMES]: below 0 they count from the right and from the bottom.
-click() {
-    local WIDTH HEIGHT id x=${2%,*} y=${2#*,}
+# point WINDOW X,Y: brings the pointer there; below 0 they count from the right and from the bottom.
+# Fails where another window is in front.
+point() {
+    local WIDTH=0 HEIGHT=0 WINDOW=0 id x=${2%,*} y=${2#*,}
     id=$(window "$1")
     eval "$(xdotool getwindowgeometry --shell "$id" | grep -E 'WIDTH|HEIGHT')"
-    xdotool mousemove --window "$id" $((x < 0 ? WIDTH + x : x)) $((y < 0 ? HEIGHT + y : y)) \
-        click --repeat "${3:-1}" --delay 30 1
+    xdotool mousemove --window "$id" $((x < 0 ? WIDTH + x : x)) $((y < 0 ? HEIGHT + y : y))
+    eval "$(xdotool getmouselocation --shell | grep WINDOW)"
+    xwininfo -children -id "$WINDOW" | grep -q "$(printf ' 0x%x ' "$id")" # the frame is what it reports
+}
+takes_clicks() { is_opaque "$1" && point "$1" "$2"; }
+click() {
+    wait_for takes_clicks "$1" "$2" || fail "the window '$1' takes no clicks: $(<"$work/stderr")"
+    xdotool click --repeat "$3" --delay 30 1
 }
 
 # act WINDOW X,Y TIMES KEY...: clicks at the place, or presses the keys.
 act() {
-    shown "$1"
-    sleep 0.5 # it may be fading in
     if [[ $hand == mouse ]]; then click "${@:1:3}"; else press "$1" "${@:4}"; fi
 }
 
@@ -30,6 +35,7 @@ play_set() {
     act "$lobby" 636,326 1 alt+c
     act "$skill" 86,110 1 alt+p
     for round in 1 2 3 4 5; do
+        await_turn
         act "$battle" 322,607 3 alt+a End
         act "$battle" 141,579 21 alt+p Home
         act "$battle" 456,612 1 alt+s
@@ -40,10 +46,17 @@ play_set() {
     act "Players Update" $ok 1 Return
 }
 
+# choose_rules: in the manual's menu, which is seen when something is in front of the manual.
+choose_rules() {
+    [[ $hand == mouse ]] || { press "$manual" r && return; }
+    wait_for not point "$manual" 80,424 || fail "no menu"
+    xdotool click 1
+}
+
 read_manual() {
     act "$lobby" 688,248 1 F1
     act "$manual" 104,498 1 F1
-    act "$manual" 80,424 1 r # in the menu
+    choose_rules
     act "$manual" 632,498 1 Escape
     gone "$manual"
     act "$lobby" 688,248 1 alt+h
@@ -54,10 +67,10 @@ leave() {
     act "$lobby" 780,250 1 Home # brings it before the manual
     act "$lobby" 688,464 1 alt+q
     act Confirm $yes 1 alt+y
-    expect_exit 10
+    expect_exit
 }
 
-printf '[Defaults]\nGameSpeed=99\nNumRounds=1\n' >"$settings"
+calm GameSpeed=99 NumRounds=1
 players Ann Computer
 start_display
 start_program
@@ -72,7 +85,7 @@ read_manual
 leave # with the manual open
 
 # The same with fading, which is switched on before and takes effect at the next start.
-xcompmgr &
+start_compositing
 sed -i '1aFadeStatus=True' "$settings"
 players Ann Computer
 start_program
