@@ -16,7 +16,7 @@ using namespace skylob;
 
 struct Row {
     int style;
-    Colour face, faceOver, text;
+    ColourReference face, faceOver, text;
     const char *caption, *picture;
     int place = 0;
 };

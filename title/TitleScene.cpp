@@ -22,10 +22,9 @@ constexpr int kStars = 110;
 constexpr int kTrailDots = 64;
 constexpr int kSparks = 14;
 
-constexpr std::uint32_t kPale = 0xFFE27A;
-constexpr std::uint32_t kGold = 0xF2B92E;
-constexpr std::uint32_t kCoral = 0xFF917C;
-constexpr std::uint32_t kWhite = 0xFFFFFF;
+constexpr Colour kPale = Colour::fromRgb(0xFFE27A);
+constexpr Colour kGold = Colour::fromRgb(0xF2B92E);
+constexpr Colour kCoral = Colour::fromRgb(0xFF917C);
 
 /// In 16 steps: a spot that has hardly changed is not painted again.
 int alphaOf(double opacity) {
@@ -33,7 +32,7 @@ int alphaOf(double opacity) {
 }
 
 /// The path of the shell, u from 0 at the muzzle to 1 at the other gun.
-TitleSpot onPath(double u, double radius, std::uint32_t colour, double opacity) {
+TitleSpot onPath(double u, double radius, Colour colour, double opacity) {
     return {122 + 418 * u, 240 - 820 * u * (1 - u), radius, 0, colour, alphaOf(opacity)};
 }
 
@@ -81,8 +80,9 @@ void addBlast(std::vector<TitleSpot>& spots, double seconds) {
 }  // namespace
 
 TitleScene::TitleScene() {
-    constexpr std::uint32_t kColours[] = {0xFFFFFF, 0xFFFFFF, 0xFFFFFF, 0xE8EDF8,
-                                          0xFFFFFF, 0xAEEFF5, 0xFFD24A, 0xE8B0FF};
+    constexpr auto rgb = Colour::fromRgb;
+    constexpr Colour kColours[] = {kWhite, kWhite,        kWhite,        rgb(0xE8EDF8),
+                                   kWhite, rgb(0xAEEFF5), rgb(0xFFD24A), rgb(0xE8B0FF)};
     std::minstd_rand random{6};  // the same sky on every machine
     const auto below = [&random](double end) {
         return end * static_cast<double>(random() - 1) / 2147483646.0;
@@ -93,7 +93,7 @@ TitleScene::TitleScene() {
         const double size = below(0.6);
         const double phase = below(1);
         if (!isFreeSky(x, y)) continue;
-        const std::uint32_t colour = kColours[m_stars.size() % std::size(kColours)];
+        const Colour colour = kColours[m_stars.size() % std::size(kColours)];
         m_stars.push_back({{x, y, 0.7 + size, 0, colour}, m_stars.size() % 2 ? 2.0 : 3.0, phase});
     }
 }

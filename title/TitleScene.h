@@ -1,7 +1,8 @@
 #pragma once
 
-#include <cstdint>
 #include <vector>
+
+#include "base/Colour.h"
 
 namespace skylob {
 
@@ -16,9 +17,9 @@ struct TitleSpot {
     double x = 0;
     double y = 0;
     double radius = 0;
-    double ringWidth = 0;      ///< 0: a disc
-    std::uint32_t colour = 0;  ///< 0xRRGGBB
-    int alpha = 255;           ///< 0 invisible, 255 opaque
+    double ringWidth = 0;  ///< 0: a disc
+    Colour colour;
+    int alpha = 255;  ///< 0 invisible, 255 opaque
 
     bool operator==(const TitleSpot&) const = default;
 };

@@ -21,11 +21,6 @@ namespace {
 
 constexpr int kOverInterval = 3;  // milliseconds
 
-Colour toColour(const QColor& colour) {
-    return static_cast<Colour>(colour.blue()) << 16 | static_cast<Colour>(colour.green()) << 8 |
-           static_cast<Colour>(colour.red());
-}
-
 /// False where the window system keeps the pointer's place on the screen to itself.
 bool isPointerPlaceKnown() {
     return !QGuiApplication::platformName().startsWith(QLatin1String{"wayland"});
@@ -198,8 +193,8 @@ GlintFont GlintButton::ambientFont() const {
 
 ContainerColours GlintButton::containerColours() const {
     const QPalette palette = parentWidget() ? parentWidget()->palette() : QApplication::palette();
-    return {toColour(palette.color(QPalette::Window)),
-            toColour(palette.color(QPalette::WindowText))};
+    return {Colour::fromRgb(palette.color(QPalette::Window).rgb()),
+            Colour::fromRgb(palette.color(QPalette::WindowText).rgb())};
 }
 
 void GlintButton::setFont(const GlintFont& font) {

@@ -63,7 +63,7 @@ TEST(GlintDesign, TakesHoverColoursAlongOnlyAtDesignTime) {
     rig.design.setBackColor(0x111111);
     rig.design.setForeColor(0x222222);
     EXPECT_EQ(rig.button.BackOver | rig.button.ForeOver, 0u);
-    EXPECT_EQ(rig.button.palette.FaceColour, 0x111111u);
+    EXPECT_EQ(rig.button.palette.FaceColour.bgr(), 0x111111u);
     rig.userMode = false;
     rig.design.setBackColor(0x333333);
     rig.design.setForeColor(0x444444);
@@ -72,11 +72,11 @@ TEST(GlintDesign, TakesHoverColoursAlongOnlyAtDesignTime) {
     // The palette learns of these only when it is made anew.
     rig.design.setBackOver(0x555555);
     rig.design.setMaskColor(0x666666);
-    EXPECT_EQ(rig.button.palette.FaceOverColour, 0x333333u);
-    EXPECT_EQ(rig.button.palette.MaskRGB, 0u);
+    EXPECT_EQ(rig.button.palette.FaceOverColour.bgr(), 0x333333u);
+    EXPECT_EQ(rig.button.palette.MaskRGB, kBlack);
     rig.interaction.ambientChanged();
-    EXPECT_EQ(rig.button.palette.FaceOverColour, 0x555555u);
-    EXPECT_EQ(rig.button.palette.MaskRGB, 0x666666u);
+    EXPECT_EQ(rig.button.palette.FaceOverColour.bgr(), 0x555555u);
+    EXPECT_EQ(rig.button.palette.MaskRGB.bgr(), 0x666666u);
 }
 
 TEST(GlintDesign, PlacesANewButtonBlackOnBlack) {
@@ -90,7 +90,7 @@ TEST(GlintDesign, PlacesANewButtonBlackOnBlack) {
     EXPECT_EQ(b.ColorScheme, 2);
     EXPECT_EQ(b.BackColor | b.BackOver | b.ForeColor | b.ForeOver, 0u);
     EXPECT_EQ(b.MaskColor, 0xC0C0C0u);
-    EXPECT_EQ(b.palette.MaskRGB, 0u);
+    EXPECT_EQ(b.palette.MaskRGB, kBlack);
 }
 
 TEST(GlintLayout, PlacesCaptionAndPicture) {

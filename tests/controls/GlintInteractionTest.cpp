@@ -138,7 +138,7 @@ TEST(GlintInteraction, ShowsUpWithAPaletteOfItsOwn) {
     rig.button.currentState = kStatePressed;
     rig.interaction.show();
     EXPECT_EQ(rig.taken(), "palette;Redraw(0, true);");
-    EXPECT_EQ(rig.button.palette.FaceColour, 0x302010u);
+    EXPECT_EQ(rig.button.palette.FaceColour.bgr(), 0x302010u);
     rig.interaction.hide();
     EXPECT_FALSE(rig.button.IsShown);
     rig.button.ButtonType = 11;

@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include "look/qt/QtColour.h"
 #include "look/qt/QtShapes.h"
 #include "title/TitleScene.h"
 
@@ -78,7 +79,7 @@ void paintTitleBackdrop(QPainter& painter, const QtShapes& shapes) {
 }
 
 void paintTitleSpot(QPainter& painter, const TitleSpot& spot) {
-    QColor colour = QColor::fromRgb(spot.colour);
+    QColor colour = toQColor(spot.colour);
     colour.setAlpha(spot.alpha);
     const bool ring = spot.ringWidth > 0;
     painter.setPen(ring ? QPen{colour, spot.ringWidth} : QPen{Qt::NoPen});
