@@ -5,12 +5,11 @@
 #include <QSignalBlocker>
 
 #include "battle/qt/QtMenGauge.h"
+#include "look/qt/QtColour.h"
 
 namespace skylob {
 
 namespace {
-
-constexpr QRgb kRestingGauge = 0x5A6785;
 
 QLabel* makeLabel(const QRect& place, QWidget* parent) {
     auto* label = new QLabel{parent};
@@ -65,7 +64,7 @@ void QtSidePanel::showPanel(const SidePanel& panel, bool isTurn) {
     m_labelMenLeft->setText(QString::fromStdString(panel.labelMenLeft));
     showValue(*m_scrollSpeed, panel.scrollSpeed);
     showValue(*m_scrollAngle, panel.scrollAngle);
-    m_menGauge->show(panel.menLeft, isTurn ? colour().rgb() : kRestingGauge);
+    m_menGauge->show(panel.menLeft, isTurn ? colour() : toQColor(themeColour("gauge-off")));
     setEnabled(panel.enabled);
     setTurn(isTurn);
     setBadge(isTurn ? Badge::Filled : Badge::Hollow);

@@ -20,6 +20,7 @@
 #include "battle/qt/picGameField.h"
 #include "controls/qt/GlintButton.h"
 #include "controls/qt/QtFormButtons.h"
+#include "look/qt/QtColour.h"
 #include "look/qt/QtLook.h"
 #include "screen/qt/QtInputGate.h"
 #include "screen/qt/QtScreenFade.h"
@@ -221,7 +222,7 @@ void frmPlayGame::closeEvent(QCloseEvent* event) {
 
 void frmPlayGame::paintEvent(QPaintEvent* event) {
     QWidget::paintEvent(event);
-    QPainter{this}.fillRect(m_layout.field.adjusted(-1, -1, 1, 1), QColor{0x35425F});
+    QPainter{this}.fillRect(m_layout.field.adjusted(-1, -1, 1, 1), toQColor(themeColour("line")));
 }
 
 void frmPlayGame::showField() {

@@ -14,6 +14,7 @@
 #include "controls/qt/GlintButtonInput.h"
 #include "controls/qt/GlintButtonPictures.h"
 #include "controls/qt/GlintPainter.h"
+#include "look/qt/QtLook.h"
 
 namespace skylob {
 
@@ -203,8 +204,7 @@ void GlintButton::setFont(const GlintFont& font) {
 
 QFont GlintButton::qFont() const {
     QFont font;
-    font.setFamilies({QString::fromStdString(m_font.name), QStringLiteral("Noto Sans"),
-                      QStringLiteral("Open Sans"), QStringLiteral("DejaVu Sans")});
+    font.setFamilies(QStringList{QString::fromStdString(m_font.name)} + fontFamilies());
     font.setPixelSize(std::max(1, qRound(m_font.size)));
     font.setWeight(m_font.bold ? QFont::DemiBold : QFont::Normal);
     font.setItalic(m_font.italic);

@@ -2,7 +2,7 @@
 
 #include <QColor>
 
-#include "base/Colour.h"
+#include "look/Theme.h"
 
 namespace skylob {
 

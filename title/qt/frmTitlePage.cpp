@@ -37,7 +37,7 @@ frmTitlePage::frmTitlePage(basSkylob& shared, const frmTitlePagePorts& ports)
     setWindowTitle(QStringLiteral(" "));
     setAccessibleName(toQt(kProgramTitle));
     applyLook(*this);
-    setFixedSize(640, 440);
+    setFixedSize(kTitleWidth, kTitlePageHeight);
     makeLabels();
     auto* cmdContinue = QtFormButtons{QStringLiteral("frmTitlePage"), ports.shapes, *this}.make(
         QStringLiteral("cmdContinue"), {456, 368, 160, 48});
@@ -81,7 +81,7 @@ bool frmTitlePage::event(QEvent* event) {
 void frmTitlePage::paintEvent(QPaintEvent*) {
     QPainter painter{this};
     painter.setRenderHint(QPainter::Antialiasing);
-    paintTitleGround(painter);
+    paintTitleGround(painter, m_ports.shapes);
 }
 
 void frmTitlePage::closeEvent(QCloseEvent* event) {
