@@ -40,9 +40,8 @@ TEST(TranslateColour, LooksUpReferencesOnly) {
     EXPECT_EQ(TranslateColour(0x123456), bgr(0x123456));
     EXPECT_EQ(TranslateColour(0x8000000D), bgr(0x800000));
     EXPECT_EQ(TranslateColour(0x80000010), bgr(0x808080));
-    EXPECT_EQ(TranslateColour(0x800000FE), kBlack);
-    EXPECT_EQ(TranslateColour(0x80C0C0C0), kBlack);
-    EXPECT_EQ(TranslateColour(0x01FFFFFF), kBlack);
+    for (const ColourReference other : {0x800000FEu, 0x80C0C0C0u, 0x01FFFFFFu})
+        EXPECT_EQ(TranslateColour(other), kBlack) << std::hex << other;
 }
 
 // Palettes in the order of their fields: face, hovering face, text, hovering text; shadow, light,
@@ -50,6 +49,7 @@ TEST(TranslateColour, LooksUpReferencesOnly) {
 static GlintPalette palette(auto... colours) {
     return {bgr(colours)...};
 }
+
 TEST(RecalcColours, TakesTheColoursOfTheScheme) {
     GlintProperties grey;
     grey.BackColor = 0xC0C0C0;
