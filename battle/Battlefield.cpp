@@ -124,15 +124,15 @@ Colour TerrainColours(int number) {
         case 1:
             return paletteColour(2);  // green
         case 2:
-            return 0x800000;  // navy
+            return Colour::fromBgr(0x800000);  // navy
         case 3:
-            return 0x000080;  // maroon
+            return Colour::fromBgr(0x000080);  // maroon
         case 4:
-            return 0x800080;  // purple
+            return Colour::fromBgr(0x800080);  // purple
         case 5:
-            return 0x004080;  // brown
+            return Colour::fromBgr(0x004080);  // brown
         case 6:
-            return 0x0087D0;  // tan
+            return Colour::fromBgr(0x0087D0);  // tan
         default:
             throw std::out_of_range("no such ground colour");
     }

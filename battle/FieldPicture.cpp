@@ -11,11 +11,11 @@ namespace {
 constexpr double kUnits = 999.0;  // from the left edge's 1 to the right edge's 1000
 
 constexpr std::uint32_t toPixel(Colour colour) {
-    return 0xFF000000u | (colour & 0xFFu) << 16 | (colour & 0xFF00u) | (colour >> 16 & 0xFFu);
+    return colour.pixel();
 }
 
 constexpr Colour toColour(std::uint32_t pixel) {
-    return (pixel & 0xFFu) << 16 | (pixel & 0xFF00u) | (pixel >> 16 & 0xFFu);
+    return Colour::fromRgb(pixel);
 }
 
 int toInt(double value) {

@@ -148,7 +148,7 @@ void pictureTransfer(benchmark::State& state) {
     for (auto _ : state) {
         // Grey is the dearest of the effects.
         TransferPicture({picture, kEdge, kEdge, kEdge * 3}, {face, kEdge, kEdge, kEdge * 3},
-                        {.ghost = true, .greyscale = true}, 0xC0C0C0);
+                        {.ghost = true, .greyscale = true}, Colour::fromBgr(0xC0C0C0));
         benchmark::ClobberMemory();
     }
 }

@@ -6,7 +6,7 @@ namespace skylob {
 
 namespace {
 
-constexpr Colour kUsualMask = 0xC0C0C0;
+constexpr ColourReference kUsualMask = 0xC0C0C0;
 
 std::int32_t signedColour(ColourReference colour) {
     return static_cast<std::int32_t>(colour);
@@ -29,9 +29,9 @@ void GlintDesign::initialiseProperties() {
     m_button.ButtonType = kStyleDropped;
     m_button.ColorScheme = kSchemeOwn;
     recalcColours();
-    m_button.BackColor = m_button.BackOver = m_button.palette.FaceColour;
+    m_button.BackColor = m_button.BackOver = m_button.palette.FaceColour.bgr();
     m_button.MaskColor = kUsualMask;
-    m_button.ForeColor = m_button.ForeOver = m_button.palette.TextColour;
+    m_button.ForeColor = m_button.ForeOver = m_button.palette.TextColour.bgr();
     layOut(m_button, m_surface);
 }
 
@@ -43,9 +43,9 @@ void GlintDesign::readProperties(const PropertyBag& bag) {
     m_surface.setFont(bag.readFont("FONT", m_surface.ambientFont()));
     b.ColorScheme = bag.readInteger("COLTYPE", kSchemeSystem);
     b.ShowFocusRect = bag.readBoolean("FOCUSR", true);
-    b.BackColor = readColour(bag, "BCOL", systemColour(systemcolour::kButtonFace));
+    b.BackColor = readColour(bag, "BCOL", systemColour(systemcolour::kButtonFace).bgr());
     b.BackOver = readColour(bag, "BCOLO", b.BackColor);
-    b.ForeColor = readColour(bag, "FCOL", systemColour(systemcolour::kButtonText));
+    b.ForeColor = readColour(bag, "FCOL", systemColour(systemcolour::kButtonText).bgr());
     b.ForeOver = readColour(bag, "FCOLO", b.ForeColor);
     b.MaskColor = readColour(bag, "MCOL", kUsualMask);
     m_surface.setMousePointer(static_cast<std::int16_t>(bag.readInteger("MPTR", 0)));

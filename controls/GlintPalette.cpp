@@ -11,12 +11,12 @@ struct Channels {
 };
 
 Channels split(Colour colour) {
-    return {static_cast<int>(colour & 0xFF), static_cast<int>(colour >> 8 & 0xFF),
-            static_cast<int>(colour >> 16 & 0xFF)};
+    return {colour.red(), colour.green(), colour.blue()};
 }
 
 Colour joined(const Channels& channels) {
-    return static_cast<Colour>(channels.blue * 65536 + channels.green * 256 + channels.red);
+    return Colour::fromBgr(
+        static_cast<std::uint32_t>(channels.blue * 65536 + channels.green * 256 + channels.red));
 }
 
 Bevel bevelOf(const GlintProperties& properties) {
@@ -54,12 +54,12 @@ GlintPalette ownColours(const GlintProperties& properties) {
 
 GlintPalette greyColours() {
     GlintPalette palette;
-    palette.FaceColour = palette.FaceOverColour = 0xC0C0C0;
-    palette.ShadowColour = 0x808080;
-    palette.LightColour = 0xDFDFDF;
-    palette.HighlightColour = 0xFFFFFF;
-    palette.HotBorderColour = 0x800000;
-    palette.HotFillColour = 0xD1ADAD;
+    palette.FaceColour = palette.FaceOverColour = Colour::fromBgr(0xC0C0C0);
+    palette.ShadowColour = Colour::fromBgr(0x808080);
+    palette.LightColour = Colour::fromBgr(0xDFDFDF);
+    palette.HighlightColour = kWhite;
+    palette.HotBorderColour = Colour::fromBgr(0x800000);
+    palette.HotFillColour = Colour::fromBgr(0xD1ADAD);
     return palette;
 }
 
@@ -103,28 +103,28 @@ GlintPalette coloursOfScheme(const GlintProperties& properties, const ContainerC
 Colour systemColour(int number) {
     switch (number) {
         case systemcolour::kSelection:
-            return 0x800000;
+            return Colour::fromBgr(0x800000);
         case systemcolour::kButtonFace:
-            return 0xC0C0C0;
+            return Colour::fromBgr(0xC0C0C0);
         case systemcolour::kButtonShadow:
-            return 0x808080;
+            return Colour::fromBgr(0x808080);
         case systemcolour::kButtonText:
-            return 0x000000;
+            return kBlack;
         case systemcolour::kButtonHighlight:
-            return 0xFFFFFF;
+            return kWhite;
         case systemcolour::kDarkShadow:
-            return 0x000000;
+            return kBlack;
         case systemcolour::kLight:
-            return 0xDFDFDF;
+            return Colour::fromBgr(0xDFDFDF);
         default:
-            return 0;
+            return kBlack;
     }
 }
 
 Colour TranslateColour(ColourReference colour) {
-    if (colour <= 0xFFFFFF) return colour;
+    if (colour <= 0xFFFFFF) return Colour::fromBgr(colour);
     const ColourReference number = colour ^ 0x80000000u;
-    return number <= 0xFF ? systemColour(static_cast<int>(number)) : 0;
+    return number <= 0xFF ? systemColour(static_cast<int>(number)) : kBlack;
 }
 
 Colour ShiftColour(Colour colour, int delta, BlueShift blue, Bevel bevel) {

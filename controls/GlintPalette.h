@@ -6,7 +6,7 @@ namespace skylob {
 
 /// The colours of the window behind a button, for the scheme that follows it.
 struct ContainerColours {
-    Colour background = 0, text = 0;
+    Colour background, text;
 };
 
 /// The numbers of the system colours that a button may ask for.
@@ -15,11 +15,11 @@ constexpr int kSelection = 13, kButtonFace = 15, kButtonShadow = 16, kButtonText
 constexpr int kButtonHighlight = 20, kDarkShadow = 21, kLight = 22;
 }  // namespace systemcolour
 
-/// A system colour by its number, from a fixed table; 0 for a number that is not in it.
+/// A system colour by its number, from a fixed table; black for a number that is not in it.
 Colour systemColour(int number);
 
 /// A literal colour passes unchanged; a reference to a system colour is looked up. What is
-/// neither gives 0.
+/// neither gives black.
 Colour TranslateColour(ColourReference colour);
 
 /// How strongly ShiftColour acts; Soft halves the shift, towards zero.

@@ -73,16 +73,16 @@ struct GlintProperties {
 
 /// What a button is drawn with; all are literal colours.
 struct GlintPalette {
-    Colour FaceColour = 0, FaceOverColour = 0;
-    Colour TextColour = 0, TextOverColour = 0;
-    Colour ShadowColour = 0;      ///< inner dark bevel line
-    Colour LightColour = 0;       ///< inner light bevel line
-    Colour HighlightColour = 0;   ///< outer light bevel line
-    Colour DarkShadowColour = 0;  ///< outer dark bevel line
-    Colour HotBorderColour = 0;   ///< border of the hover highlight
-    Colour HotFillColour = 0;     ///< fill of the hover highlight
-    Colour MaskRGB = 0;
-    Colour FaceLightColour = 0;
+    Colour FaceColour, FaceOverColour;
+    Colour TextColour, TextOverColour;
+    Colour ShadowColour;      ///< inner dark bevel line
+    Colour LightColour;       ///< inner light bevel line
+    Colour HighlightColour;   ///< outer light bevel line
+    Colour DarkShadowColour;  ///< outer dark bevel line
+    Colour HotBorderColour;   ///< border of the hover highlight
+    Colour HotFillColour;     ///< fill of the hover highlight
+    Colour MaskRGB;
+    Colour FaceLightColour;
 
     bool operator==(const GlintPalette&) const = default;
 };

@@ -13,7 +13,7 @@ struct Pixel {
 
     explicit Pixel(Byte* at) : blue{at}, green{at + 1}, red{at + 2} {}
     Colour colour() const {
-        return static_cast<Colour>(*blue) << 16 | static_cast<Colour>(*green) << 8 | *red;
+        return Colour::fromBgr(std::uint32_t{*blue} << 16 | std::uint32_t{*green} << 8 | *red);
     }
 };
 using Source = Pixel<const std::uint8_t>;

@@ -8,6 +8,7 @@
 #include "controls/qt/GlintButton.h"
 #include "controls/qt/GlintButtonPictures.h"
 #include "controls/qt/GlintPainter.h"
+#include "look/qt/QtColour.h"
 #include "look/qt/QtShapes.h"
 
 namespace {
@@ -16,7 +17,7 @@ using namespace skylob;
 
 struct Row {
     int style;
-    Colour face, faceOver, text;
+    ColourReference face, faceOver, text;
     const char *caption, *picture;
     int place = kPictureLeft;
 };
@@ -58,7 +59,8 @@ QImage backdrop(QSize pixels) {
     QImage image{pixels, QImage::Format_RGB32};
     QPainter painter{&image};
     painter.fillRect(image.rect(), QColor{0x1B2C55});
-    painter.fillRect(0, pixels.height() / 2, pixels.width(), pixels.height(), QColor{0x0A1126});
+    painter.fillRect(0, pixels.height() / 2, pixels.width(), pixels.height(),
+                     toQColor(themeColour("earth")));
     return image;
 }
 
@@ -111,7 +113,7 @@ int main(int argc, char** argv) {
     for (const Row& row : kRows) height += heightOf(row) + kGap;
     const int width = kGap + static_cast<int>(std::size(kColumns)) * (kWidth + kGap);
     QImage sheet{QSize{width, height} * ratio, QImage::Format_RGB32};
-    sheet.fill(QColor{0x0D1220});
+    sheet.fill(toQColor(themeColour("night")));
     QPainter painter{&sheet};
     int y = kGap;
     for (const Row& row : kRows) {

@@ -3,6 +3,8 @@
 #include <cmath>
 #include <random>
 
+#include "look/Theme.h"
+
 namespace skylob {
 
 namespace {
@@ -22,25 +24,28 @@ constexpr int kStars = 110;
 constexpr int kTrailDots = 64;
 constexpr int kSparks = 14;
 
-constexpr std::uint32_t kPale = 0xFFE27A;
-constexpr std::uint32_t kGold = 0xF2B92E;
-constexpr std::uint32_t kCoral = 0xFF917C;
-constexpr std::uint32_t kWhite = 0xFFFFFF;
+constexpr Colour kPale = Colour::fromRgb(0xFFE27A);
+constexpr Colour kGold = themeColour("gold");
+constexpr Colour kCoral = themeColour("side-1");
 
 /// In 16 steps: a spot that has hardly changed is not painted again.
 int alphaOf(double opacity) {
     return static_cast<int>(std::lround(opacity * 15)) * 17;
 }
 
+// The shell's path, from before the muzzle to the other gun.
+constexpr int kFromX = kTitleGun.x + 38, kToX = kTitleTarget.x + 24, kPathY = kTitleGun.y + 8;
+
 /// The path of the shell, u from 0 at the muzzle to 1 at the other gun.
-TitleSpot onPath(double u, double radius, std::uint32_t colour, double opacity) {
-    return {122 + 418 * u, 240 - 820 * u * (1 - u), radius, 0, colour, alphaOf(opacity)};
+TitleSpot onPath(double u, double radius, Colour colour, double opacity) {
+    const double x = kFromX + (kToX - kFromX) * u, y = kPathY - 820 * u * (1 - u);
+    return {x, y, radius, 0, colour, alphaOf(opacity)};
 }
 
-/// Above the mountain, the far hills and beside the moon.
+/// Above the mountain, whose peak is at 322, 92, and beside the moon.
 bool isFreeSky(double x, double y) {
     const bool mountain = std::abs(x - 322) < 0.9 * (y - 80);
-    return !mountain && std::hypot(x - 470, y - 72) > 40;
+    return !mountain && std::hypot(x - kTitleMoon.x, y - kTitleMoon.y) > kTitleMoon.radius + 4;
 }
 
 void addTrail(std::vector<TitleSpot>& spots, double seconds) {
@@ -54,7 +59,8 @@ void addTrail(std::vector<TitleSpot>& spots, double seconds) {
 }
 
 void addShell(std::vector<TitleSpot>& spots, double seconds) {
-    if (seconds >= kFlash && seconds < kLaunch) spots.push_back({124, 239, 6, 0, kPale, 255});
+    if (seconds >= kFlash && seconds < kLaunch)
+        spots.push_back({kFromX + 2, kPathY - 1, 6, 0, kPale, 255});
     if (seconds < kLaunch || seconds >= kHit) return;
     const double flown = (seconds - kLaunch) / (kHit - kLaunch);
     spots.push_back(onPath(flown, 8, kPale, 0.27));
@@ -63,7 +69,7 @@ void addShell(std::vector<TitleSpot>& spots, double seconds) {
 
 void addBlast(std::vector<TitleSpot>& spots, double seconds) {
     if (seconds < kHit || seconds >= kBlastOver) return;
-    constexpr double x = 540, y = 240;
+    constexpr double x = kToX, y = kPathY;
     const double time = (seconds - kHit) / (kBlastOver - kHit);
     const double fading = 1 - time, spread = 1 - fading * fading;
     spots.push_back({x, y, 24 + 6 * spread, 0, kGold, alphaOf(0.5 * fading)});
@@ -81,8 +87,9 @@ void addBlast(std::vector<TitleSpot>& spots, double seconds) {
 }  // namespace
 
 TitleScene::TitleScene() {
-    constexpr std::uint32_t kColours[] = {0xFFFFFF, 0xFFFFFF, 0xFFFFFF, 0xE8EDF8,
-                                          0xFFFFFF, 0xAEEFF5, 0xFFD24A, 0xE8B0FF};
+    constexpr auto rgb = Colour::fromRgb;
+    constexpr Colour kColours[] = {kWhite, kWhite,        kWhite,        rgb(0xE8EDF8),
+                                   kWhite, rgb(0xAEEFF5), rgb(0xFFD24A), rgb(0xE8B0FF)};
     std::minstd_rand random{6};  // the same sky on every machine
     const auto below = [&random](double end) {
         return end * static_cast<double>(random() - 1) / 2147483646.0;
@@ -93,7 +100,7 @@ TitleScene::TitleScene() {
         const double size = below(0.6);
         const double phase = below(1);
         if (!isFreeSky(x, y)) continue;
-        const std::uint32_t colour = kColours[m_stars.size() % std::size(kColours)];
+        const Colour colour = kColours[m_stars.size() % std::size(kColours)];
         m_stars.push_back({{x, y, 0.7 + size, 0, colour}, m_stars.size() % 2 ? 2.0 : 3.0, phase});
     }
 }

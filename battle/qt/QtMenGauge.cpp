@@ -3,6 +3,8 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "look/qt/QtColour.h"
+
 namespace skylob {
 
 QtMenGauge::QtMenGauge(QWidget* parent) : QWidget{parent} {
@@ -18,8 +20,8 @@ void QtMenGauge::showMen(int menLeft, const QColor& colour) {
 
 void QtMenGauge::paintEvent(QPaintEvent*) {
     QPainter painter{this};
-    painter.fillRect(rect(), QColor{0x35425F});
-    painter.fillRect(rect().adjusted(1, 1, -1, -1), QColor{0x090D18});
+    painter.fillRect(rect(), toQColor(themeColour("line")));
+    painter.fillRect(rect().adjusted(1, 1, -1, -1), toQColor(themeColour("well")));
     QRect men = rect().adjusted(1, 1, -1, -1);
     men.setWidth(men.width() * std::clamp(m_menLeft, 0, 100) / 100);
     painter.fillRect(men, m_colour);

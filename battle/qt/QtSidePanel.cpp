@@ -4,12 +4,11 @@
 #include <QScrollBar>
 
 #include "battle/qt/QtMenGauge.h"
+#include "look/qt/QtColour.h"
 
 namespace skylob {
 
 namespace {
-
-constexpr QRgb kRestingGauge = 0x5A6785;
 
 QString nameOf(const char* control, int side) {
     return QStringLiteral("%1(%2)").arg(QLatin1String{control}).arg(side);
@@ -68,7 +67,7 @@ void QtSidePanel::showPanel(const SidePanel& panel, bool isTurn) {
     m_labelMenLeft->setText(QString::fromStdString(panel.labelMenLeft));
     m_scrollSpeed->setValue(panel.scrollSpeed);
     m_scrollAngle->setValue(panel.scrollAngle);
-    m_menGauge->showMen(panel.menLeft, isTurn ? colour().rgb() : kRestingGauge);
+    m_menGauge->showMen(panel.menLeft, isTurn ? colour() : toQColor(themeColour("gauge-off")));
     setEnabled(panel.enabled);
     setTurn(isTurn);
     setBadge(isTurn ? Badge::Filled : Badge::Hollow);

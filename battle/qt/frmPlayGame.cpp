@@ -18,6 +18,7 @@
 #include "battle/qt/picGameField.h"
 #include "controls/qt/GlintButton.h"
 #include "controls/qt/QtFormButtons.h"
+#include "look/qt/QtColour.h"
 #include "screen/qt/QtInputGate.h"
 
 namespace skylob {
@@ -203,7 +204,7 @@ void frmPlayGame::askedToClose() {
 
 void frmPlayGame::paintEvent(QPaintEvent* event) {
     QtScreen::paintEvent(event);
-    QPainter{this}.fillRect(m_layout.field.adjusted(-1, -1, 1, 1), QColor{0x35425F});
+    QPainter{this}.fillRect(m_layout.field.adjusted(-1, -1, 1, 1), toQColor(themeColour("line")));
 }
 
 void frmPlayGame::showField() {

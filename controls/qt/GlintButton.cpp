@@ -8,6 +8,7 @@
 #include "controls/GlintLayout.h"
 #include "controls/qt/GlintButtonInput.h"
 #include "controls/qt/GlintPainter.h"
+#include "look/qt/QtLook.h"
 
 namespace skylob {
 

@@ -1,17 +1,9 @@
 #include "controls/qt/GlintPainterShades.h"
 
 #include "controls/qt/GlintPainter.h"
+#include "look/qt/QtColour.h"
 
 namespace skylob {
-
-namespace {
-
-QColor toQColor(Colour colour) {
-    return QColor{static_cast<int>(colour & 0xFF), static_cast<int>(colour >> 8 & 0xFF),
-                  static_cast<int>(colour >> 16 & 0xFF)};
-}
-
-}  // namespace
 
 QColor mix(const QColor& from, const QColor& to, double part) {
     const auto channel = [part](int a, int b) { return qRound(a + (b - a) * part); };

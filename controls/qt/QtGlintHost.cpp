@@ -11,17 +11,13 @@
 #include "controls/qt/GlintButton.h"
 #include "controls/qt/GlintButtonInput.h"
 #include "controls/qt/GlintButtonPictures.h"
+#include "look/qt/QtLook.h"
 
 namespace skylob {
 
 namespace {
 
 constexpr int kOverInterval = 3;  // milliseconds
-
-Colour toColour(const QColor& colour) {
-    return static_cast<Colour>(colour.blue()) << 16 | static_cast<Colour>(colour.green()) << 8 |
-           static_cast<Colour>(colour.red());
-}
 
 /// False where the window system keeps the pointer's place on the screen to itself.
 bool isPointerPlaceKnown() {
@@ -38,8 +34,7 @@ QtGlintHost::QtGlintHost(GlintButton& button, const GlintState& state, GlintPict
 
 QFont QtGlintHost::captionFont() const {
     QFont font;
-    font.setFamilies({QString::fromStdString(m_font.name), QStringLiteral("Noto Sans"),
-                      QStringLiteral("Open Sans"), QStringLiteral("DejaVu Sans")});
+    font.setFamilies(QStringList{QString::fromStdString(m_font.name)} + fontFamilies());
     font.setPixelSize(std::max(1, qRound(m_font.size)));
     font.setWeight(m_font.bold ? QFont::DemiBold : QFont::Normal);
     font.setItalic(m_font.italic);
@@ -94,8 +89,8 @@ GlintFont QtGlintHost::ambientFont() const {
 ContainerColours QtGlintHost::containerColours() const {
     const QWidget* form = m_button.parentWidget();
     const QPalette palette = form ? form->palette() : QApplication::palette();
-    return {toColour(palette.color(QPalette::Window)),
-            toColour(palette.color(QPalette::WindowText))};
+    return {Colour::fromRgb(palette.color(QPalette::Window).rgb()),
+            Colour::fromRgb(palette.color(QPalette::WindowText).rgb())};
 }
 
 void QtGlintHost::setEnabled(bool enabled) {

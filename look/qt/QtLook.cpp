@@ -9,6 +9,8 @@
 #include <QVariant>
 #include <QWidget>
 
+#include "look/qt/QtColour.h"
+
 namespace skylob {
 
 namespace {
@@ -17,18 +19,20 @@ constexpr int kTextMargin = 4;
 
 QPalette nightPalette() {
     QPalette palette;
-    const QColor text{0xE8EDF8}, dim{0x76839F};
-    palette.setColor(QPalette::Window, 0x0D1220);
-    palette.setColor(QPalette::Base, 0x161E31);
-    palette.setColor(QPalette::AlternateBase, 0x1A2338);
-    palette.setColor(QPalette::Button, 0x222D47);
-    palette.setColor(QPalette::Highlight, 0x24507A);
-    palette.setColor(QPalette::HighlightedText, 0xFFFFFF);
-    palette.setColor(QPalette::ToolTipBase, 0xF3E9C6);
-    palette.setColor(QPalette::ToolTipText, 0x1B1A12);
+    const auto set = [&palette](QPalette::ColorRole role, Colour colour) {
+        palette.setColor(role, toQColor(colour));
+    };
+    set(QPalette::Window, themeColour("night"));
+    set(QPalette::Base, themeColour("panel"));
+    set(QPalette::AlternateBase, themeColour("alternate"));
+    set(QPalette::Button, themeColour("raised"));
+    set(QPalette::Highlight, themeColour("selection"));
+    set(QPalette::HighlightedText, themeColour("bright"));
+    set(QPalette::ToolTipBase, themeColour("tip"));
+    set(QPalette::ToolTipText, themeColour("tip-text"));
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-        palette.setColor(role, text);
-        palette.setColor(QPalette::Disabled, role, dim);
+        set(role, themeColour("text"));
+        palette.setColor(QPalette::Disabled, role, toQColor(themeColour("dim")));
     }
     return palette;
 }
@@ -36,7 +40,7 @@ QPalette nightPalette() {
 QString styleSheet() {
     QFile file{QStringLiteral(":/look/skylob.qss")};
     if (!file.open(QIODevice::ReadOnly)) qFatal("the style sheet is missing");
-    return QString::fromUtf8(file.readAll());
+    return QString::fromStdString(withTheme(file.readAll().toStdString()));
 }
 
 QIcon programIcon() {
@@ -48,11 +52,14 @@ QIcon programIcon() {
 
 }  // namespace
 
+QStringList fontFamilies() {
+    return {kFontFamilies.begin(), kFontFamilies.end()};
+}
+
 void applyLook(QWidget& screen) {
     QFont font = screen.font();
-    font.setFamilies(
-        {QStringLiteral("Noto Sans"), QStringLiteral("Open Sans"), QStringLiteral("DejaVu Sans")});
-    font.setPixelSize(13);
+    font.setFamilies(fontFamilies());
+    font.setPixelSize(kTextSize);
     screen.setFont(font);
     screen.setPalette(nightPalette());
     screen.setProperty("screen", true);

@@ -1,12 +1,18 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <initializer_list>
+
+#include "look/Theme.h"
 
 class QLabel;
 class QWidget;
 
 namespace skylob {
+
+/// The theme's typefaces.
+QStringList fontFamilies();
 
 /// Gives a screen the program's colours, fonts, style sheet and icon, and with it everything in
 /// it. To be called before the screen's size is set. Message and input boxes stay as the desktop

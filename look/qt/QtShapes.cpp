@@ -8,6 +8,8 @@
 #include <cmath>
 #include <stdexcept>
 
+#include "look/qt/QtColour.h"
+
 namespace skylob {
 
 namespace {
@@ -30,6 +32,11 @@ double readSize(const QString& word) {
 }
 
 QColor readColour(const QString& word) {
+    if (word.startsWith('@')) {
+        const auto colour = findThemeColour(word.mid(1).toStdString());
+        require(colour.has_value(), "not a colour of the theme", word);
+        return toQColor(*colour);
+    }
     const QColor colour(word);
     // QColor also takes colour names and shorter or longer numbers, which here are slips.
     require(word.size() == 7 && word[0] == '#' && colour.isValid(), "not a #RRGGBB colour", word);

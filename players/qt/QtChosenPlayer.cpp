@@ -36,7 +36,7 @@ void QtChosenPlayer::setName(const QString& name) {
     m_name->setAccessibleName(tr("Player %1: %2").arg(side()).arg(name));
     m_name->setVisible(!name.isEmpty());
     m_hint->setVisible(name.isEmpty());
-    showFitting(*m_name, name, {17, 13});
+    showFitting(*m_name, name, {kLargeSize, kTextSize});
 }
 
 bool QtChosenPlayer::eventFilter(QObject*, QEvent* event) {

@@ -7,6 +7,7 @@
 
 #include "controls/qt/GlintButton.h"
 #include "controls/qt/QtFormButtons.h"
+#include "look/qt/QtColour.h"
 #include "look/qt/QtLook.h"
 #include "look/qt/QtShapes.h"
 #include "screen/qt/QtSideFrame.h"
@@ -110,7 +111,7 @@ void frmSummary::makeOkay() {
 void frmSummary::Form_Activate() {
     m_summary.Form_Activate();
     for (const int side : {1, 2}) frame[side]->setTurn(side == m_shared.Winner);
-    showFitting(*label, QString::fromStdString(m_summary.heading()), {20, 17});
+    showFitting(*label, QString::fromStdString(m_summary.heading()), {kHeadingSize, kLargeSize});
     labelComputerSays->setText(QString::fromStdString(m_summary.labelComputerSays()));
     timerDateTime_Timer();
 }
@@ -124,8 +125,8 @@ void frmSummary::paintEvent(QPaintEvent* event) {
     QPainter painter{this};
     painter.setRenderHint(QPainter::Antialiasing);
     m_shapes.paint(painter, QStringLiteral("face"), kFace, QtShapes::Edges::Smooth);
-    painter.setPen(QColor{0x35425F});
-    painter.setBrush(QColor{0x222D47});
+    painter.setPen(toQColor(themeColour("line")));
+    painter.setBrush(toQColor(themeColour("raised")));
     const QPointF root{kBubble.left() + 2.0, kBubbleTip.y() + 0.0};
     painter.drawPolygon(QPolygonF{
         {root - QPointF{0, kBubbleTipHalf}, kBubbleTip, root + QPointF{0, kBubbleTipHalf}}});

@@ -4,16 +4,14 @@
 #include <QPainterPath>
 #include <QTextDocument>
 
+#include "look/qt/QtColour.h"
 #include "look/qt/QtLook.h"
 
 namespace skylob {
 
 namespace {
 
-constexpr QRgb kSideColours[] = {0xFF917C, 0xE39BFF};
-constexpr QRgb kRestingBadge = 0x8E9BB8;
-constexpr QRgb kDisabledBadge = 0xB4B4B4;
-constexpr QRgb kNight = 0x0D1220;
+constexpr Colour kResting = themeColour("resting");
 constexpr QRect kBadge{11, 6, 18, 18};
 constexpr int kTitleLeft = 36, kTitleRight = 8;
 
@@ -40,7 +38,7 @@ QtSideFrame::QtSideFrame(int side, QWidget* parent) : QGroupBox{parent}, m_side{
 }
 
 QColor QtSideFrame::colour() const {
-    return kSideColours[m_side - 1];
+    return toQColor(m_side == 1 ? themeColour("side-1") : themeColour("side-2"));
 }
 
 void QtSideFrame::setCaption(const QString& caption) {
@@ -76,16 +74,16 @@ void QtSideFrame::paintEvent(QPaintEvent* event) {
     QPainter painter{this};
     painter.setRenderHint(QPainter::Antialiasing);
     QFont font = this->font();
-    font.setPixelSize(11);
+    font.setPixelSize(kBadgeSize);
     font.setBold(true);
     painter.setFont(font);
     const QPainterPath badge = badgeShape(m_side);
     if (m_badge == Badge::Filled) {
-        painter.fillPath(badge, isEnabled() ? colour() : QColor{kDisabledBadge});
-        painter.setPen(QColor{kNight});
+        painter.fillPath(badge, isEnabled() ? colour() : toQColor(themeColour("badge-off")));
+        painter.setPen(toQColor(themeColour("night")));
     } else {
-        painter.strokePath(badge, QPen{QColor{kRestingBadge}, 1.5});
-        painter.setPen(QColor{kRestingBadge});
+        painter.strokePath(badge, QPen{toQColor(kResting), 1.5});
+        painter.setPen(toQColor(kResting));
     }
     painter.drawText(kBadge, Qt::AlignCenter, QString::number(m_side));
 }

@@ -55,10 +55,10 @@ static std::string figuresOf(const Battlefield& field) {
     const auto& star = field.stars.at(0);
     std::ostringstream text;
     text << field.PeakX << ' ' << field.leftFoot << ' ' << field.rightFoot << ", " << field.MoonX
-         << ' ' << field.moonY << ", " << std::hex << field.groundColour << std::dec << ", "
+         << ' ' << field.moonY << ", " << std::hex << field.groundColour.bgr() << std::dec << ", "
          << field.PieceX[1] << ' ' << field.PieceX[2] << ' ' << field.PieceY[1] << ' '
          << field.PieceY[2] << "; " << sum << ' ' << weightedSum << "; " << field.stars.size()
-         << ' ' << star.x << ' ' << star.y << ' ' << std::hex << star.colour;
+         << ' ' << star.x << ' ' << star.y << ' ' << std::hex << star.colour.bgr();
     return text.str();
 }
 
@@ -93,11 +93,11 @@ TEST(GenerateBattlefield, LetsTheMoonWaneUntilTheLastRound) {
 TEST(DrawBattlefield, ShowsSkyMoonGroundAndPieces) {
     Battlefield field;
     field.TerrainHeight.fill(200);
-    field.stars = {{700, 900, 0x0000FF}};
+    field.stars = {{700, 900, kRed}};
     field.MoonX = 300;
     field.moonY = 600;
     field.MoonOffset = 40;  // the shadow stands 35 units to the right
-    field.groundColour = 0x0087D0;
+    field.groundColour = Colour::fromBgr(0x0087D0);
     field.PieceX = {100, 900};
     field.PieceY = {200, 200};
     FieldPicture picture;
@@ -106,19 +106,19 @@ TEST(DrawBattlefield, ShowsSkyMoonGroundAndPieces) {
     for (const int side : {1, 2}) picture.setPieceImage(side, white);
     field.starWidth = 2;
     drawBattlefield(field, picture, 2);
-    EXPECT_EQ(picture.pixel(701, 899), 0x0000FFu);
+    EXPECT_EQ(picture.pixel(701, 899), kRed);
     field.starWidth = 1;
     drawBattlefield(field, picture, 1);
 
-    EXPECT_EQ(picture.pixel(700, 900), 0x0000FFu);
+    EXPECT_EQ(picture.pixel(700, 900), kRed);
     EXPECT_EQ(picture.pixel(700, 899), kBlack);
     EXPECT_EQ(picture.pixel(261, 600), kCyan);
     EXPECT_EQ(picture.pixel(294, 600), kCyan);
     EXPECT_EQ(picture.pixel(296, 600), kBlack);  // 335 - 40 is where the shadow begins
     EXPECT_EQ(picture.pixel(259, 600), kBlack);
     for (const int x : {1, 2, 500, 501, 999, 1000}) {
-        EXPECT_EQ(picture.pixel(x, 1), 0x0087D0u) << x;
-        EXPECT_EQ(picture.pixel(x, 200), 0x0087D0u) << x;
+        EXPECT_EQ(picture.pixel(x, 1), field.groundColour) << x;
+        EXPECT_EQ(picture.pixel(x, 200), field.groundColour) << x;
         EXPECT_EQ(picture.pixel(x, 201), kBlack) << x;
     }
     // From 12 units left of the column, and from 30 above the ground 46 downwards.
@@ -126,7 +126,7 @@ TEST(DrawBattlefield, ShowsSkyMoonGroundAndPieces) {
     EXPECT_EQ(picture.pixel(88, 230), kWhite);
     EXPECT_EQ(picture.pixel(111, 185), kWhite);
     EXPECT_EQ(picture.pixel(87, 230), kBlack);
-    EXPECT_EQ(picture.pixel(111, 184), 0x0087D0u);
+    EXPECT_EQ(picture.pixel(111, 184), field.groundColour);
     EXPECT_EQ(picture.pixel(888, 230), kWhite);
 }
 

@@ -113,7 +113,7 @@ TEST(FlyShell, ShowsAYellowShellAtEveryStepAndLeavesATrailOnDemand) {
             EXPECT_EQ(stage.pacer.counts, std::vector<std::int32_t>(147, 77));
             EXPECT_EQ(atTenth.at(8), kCyan);
             EXPECT_EQ(atTenth.at(9), kYellow);
-            const Colour left = trail == Trail::None ? kCyan : side == 1 ? 0x0000FF : 0xFF00FF;
+            const Colour left = trail == Trail::None ? kCyan : side == 1 ? kRed : kMagenta;
             EXPECT_EQ(atTenth.at(10), left);
             EXPECT_EQ(stage.picture.pixel(landed.x, landed.y), kBlack);
             stage.picture.refresh();

@@ -140,19 +140,20 @@ TEST(GlintDesign, ComesFromItsFormAndGoesBack) {
 }
 
 TEST(GlintDesign, TakesHoverColoursAlongOnlyAtDesignTime) {
-    using Colours = std::vector<Colour>;  // first the faces', then the captions'
+    using Colours = std::vector<std::uint32_t>;  // first the faces', then the captions'
     GlintRig rig;
     const auto over = [&] { return Colours{rig.button.BackOver, rig.button.ForeOver}; };
     const auto drawn = [&] {
         const GlintPalette& palette = rig.button.palette;
-        return Colours{palette.FaceOverColour, palette.TextOverColour, palette.MaskRGB};
+        return Colours{palette.FaceOverColour.bgr(), palette.TextOverColour.bgr(),
+                       palette.MaskRGB.bgr()};
     };
     rig.button.ColorScheme = 2;
     rig.design.setBackColor(0x111111);
     rig.design.setForeColor(0x222222);
     EXPECT_EQ(over(), (Colours{0, 0}));
-    EXPECT_EQ(rig.button.palette.FaceColour, 0x111111u);
-    EXPECT_EQ(rig.button.palette.TextColour, 0x222222u);
+    EXPECT_EQ(rig.button.palette.FaceColour.bgr(), 0x111111u);
+    EXPECT_EQ(rig.button.palette.TextColour.bgr(), 0x222222u);
     rig.userMode = false;
     rig.design.setBackColor(0x333333);
     rig.design.setForeColor(0x444444);
@@ -175,7 +176,7 @@ TEST(GlintDesign, PlacesANewButtonBlackOnBlack) {
               "BTYPE=14;TX=cmdNew;ENAB=1;FONT=Ambient;COLTYPE=2;FOCUSR=1;BCOL=0;BCOLO=0;FCOL=0;"
               "FCOLO=0;MCOL=12632256;MPTR=0;MICON=;PICN=;PICH=;UMCOL=1;SOFT=0;PICPOS=0;NGREY=0;"
               "FX=0;CHECK=0;VALUE=0;");
-    EXPECT_EQ(rig.button.palette.MaskRGB, 0u);
+    EXPECT_EQ(rig.button.palette.MaskRGB, kBlack);
 }
 
 TEST(GlintLayout, PlacesCaptionAndPicture) {

@@ -120,7 +120,7 @@ TEST(GlintInteraction, ShowsUpWithAPaletteOfItsOwn) {
     rig.button.ColorScheme = 4;
     rig.button.currentState = 2;
     EXPECT_EQ(rig.after(&I::show), "palette;Redraw(0, true);");
-    EXPECT_EQ(rig.button.palette.FaceColour, 0x302010u);
+    EXPECT_EQ(rig.button.palette.FaceColour.bgr(), 0x302010u);
     EXPECT_EQ(rig.after(&I::hide), "");
     EXPECT_FALSE(rig.button.IsShown);
     rig.button.ButtonType = 11;

@@ -6,14 +6,16 @@
 
 namespace skylob::test {
 
+constexpr auto bgr = Colour::fromBgr;
+
 TEST(ShiftColour, MovesEachChannelAndScalesBlueOnDemand) {
     using enum BlueShift;
     struct Row {
-        Colour colour;
+        std::uint32_t colour;
         int delta;
         BlueShift blue;
         Bevel bevel;
-        Colour expected;
+        std::uint32_t expected;
     };
     for (const Row& row : {
              Row{0x102030, 48, Scaled, Bevel::Hard, 0x145060},
@@ -24,27 +26,30 @@ TEST(ShiftColour, MovesEachChannelAndScalesBlueOnDemand) {
              Row{0xF01020, 48, Scaled, Bevel::Hard, 0xFF4050},
              Row{0x0A6464, -48, Scaled, Bevel::Hard, 0x083434},  // 10 - 2.5 cut to 2
          }) {
-        EXPECT_EQ(ShiftColour(row.colour, row.delta, row.blue, row.bevel), row.expected)
+        EXPECT_EQ(ShiftColour(bgr(row.colour), row.delta, row.blue, row.bevel), bgr(row.expected))
             << std::hex << row.colour << " by " << std::dec << row.delta;
     }
 }
 
 TEST(BlendToWhite, CutsBeforeItAdds) {
-    EXPECT_EQ(BlendToWhite(0x010203, 255), 0xFFFFFFu);
-    EXPECT_EQ(BlendToWhite(0xFF6401, 100), 0xFFA064u);  // 100 * 155 / 255 = 60.78
+    EXPECT_EQ(BlendToWhite(bgr(0x010203), 255), bgr(0xFFFFFF));
+    EXPECT_EQ(BlendToWhite(bgr(0xFF6401), 100), bgr(0xFFA064));  // 100 * 155 / 255 = 60.78
 }
 
 TEST(TranslateColour, LooksUpReferencesOnly) {
-    EXPECT_EQ(TranslateColour(0x123456), 0x123456u);
-    EXPECT_EQ(TranslateColour(0x8000000D), 0x800000u);
-    EXPECT_EQ(TranslateColour(0x80000010), 0x808080u);
-    EXPECT_EQ(TranslateColour(0x800000FE), 0u);
-    EXPECT_EQ(TranslateColour(0x80C0C0C0), 0u);
-    EXPECT_EQ(TranslateColour(0x01FFFFFF), 0u);
+    EXPECT_EQ(TranslateColour(0x123456), bgr(0x123456));
+    EXPECT_EQ(TranslateColour(0x8000000D), bgr(0x800000));
+    EXPECT_EQ(TranslateColour(0x80000010), bgr(0x808080));
+    for (const ColourReference other : {0x800000FEu, 0x80C0C0C0u, 0x01FFFFFFu})
+        EXPECT_EQ(TranslateColour(other), kBlack) << std::hex << other;
 }
 
 // Palettes in the order of their fields: face, hovering face, text, hovering text; shadow, light,
 // highlight, dark shadow; hot border, hot fill; mask, light face.
+static GlintPalette palette(auto... colours) {
+    return {bgr(colours)...};
+}
+
 TEST(RecalcColours, TakesTheColoursOfTheScheme) {
     GlintProperties grey;
     grey.BackColor = 0xC0C0C0;
@@ -53,32 +58,33 @@ TEST(RecalcColours, TakesTheColoursOfTheScheme) {
     grey.ForeOver = 0x040506;
     grey.MaskColor = 0x80000014;
     grey.ColorScheme = 2;  // the button's own colours
-    const GlintPalette own{0xC0C0C0, 0x800000, 0x010203, 0x040506, 0x808080, 0xDFDFDF,
-                           0xEFEFEF, 0x000000, 0x404040, 0xC0C0C0, 0xFFFFFF, 0xF0F0F0};
+    const GlintPalette own = palette(0xC0C0C0, 0x800000, 0x010203, 0x040506, 0x808080, 0xDFDFDF,
+                                     0xEFEFEF, 0x000000, 0x404040, 0xC0C0C0, 0xFFFFFF, 0xF0F0F0);
     EXPECT_EQ(RecalcColours(grey, {}), own);
     grey.SoftBevel = true;
-    const GlintPalette soft{0xC0C0C0, 0x800000, 0x010203, 0x040506, 0xA0A0A0, 0xCFCFCF,
-                            0xD7D7D7, 0x606060, 0x808080, 0xC0C0C0, 0xFFFFFF, 0xD8D8D8};
+    const GlintPalette soft = palette(0xC0C0C0, 0x800000, 0x010203, 0x040506, 0xA0A0A0, 0xCFCFCF,
+                                      0xD7D7D7, 0x606060, 0x808080, 0xC0C0C0, 0xFFFFFF, 0xD8D8D8);
     EXPECT_EQ(RecalcColours(grey, {}), soft);
     grey.ButtonType = 3;
     grey.SoftBevel = false;
     grey.BackColor = 0x102030;
-    EXPECT_EQ(RecalcColours(grey, {}).FaceLightColour, 0x145060u);
+    EXPECT_EQ(RecalcColours(grey, {}).FaceLightColour, bgr(0x145060));
 
     grey.ButtonType = 0;
     grey.ColorScheme = 3;
-    GlintPalette fixed{0xC0C0C0, 0xC0C0C0, 0,        0,        0x808080, 0xDFDFDF,
-                       0xFFFFFF, 0x000000, 0x800000, 0xD1ADAD, 0xFFFFFF, 0xF0F0F0};
+    GlintPalette fixed = palette(0xC0C0C0, 0xC0C0C0, 0, 0, 0x808080, 0xDFDFDF, 0xFFFFFF, 0x000000,
+                                 0x800000, 0xD1ADAD, 0xFFFFFF, 0xF0F0F0);
     EXPECT_EQ(RecalcColours(grey, {}), fixed);
-    fixed.HotFillColour = 0xD7B0B0;  // the system's
+    fixed.HotFillColour = bgr(0xD7B0B0);  // the system's
     for (const int scheme : {1, 0, 5, -2}) {
         grey.ColorScheme = scheme;
         EXPECT_EQ(RecalcColours(grey, {}), fixed);
     }
     grey.ColorScheme = 4;
-    const GlintPalette container{0x302010, 0x302010, 0xF0E0D0, 0xF0E0D0, 0x000000, 0x4F3F2F,
-                                 0x5F4F3F, 0x000000, 0x800000, 0xD7B0B0, 0xFFFFFF, 0x605040};
-    EXPECT_EQ(RecalcColours(grey, {0x302010, 0xF0E0D0}), container);
+    const GlintPalette container =
+        palette(0x302010, 0x302010, 0xF0E0D0, 0xF0E0D0, 0x000000, 0x4F3F2F, 0x5F4F3F, 0x000000,
+                0x800000, 0xD7B0B0, 0xFFFFFF, 0x605040);
+    EXPECT_EQ(RecalcColours(grey, {bgr(0x302010), bgr(0xF0E0D0)}), container);
 }
 
 using Bytes = std::vector<std::uint8_t>;  // blue, green, red and so on
@@ -95,13 +101,13 @@ static Bytes transferred(const Bytes& picture, Bytes target, const TransferEffec
 TEST(TransferPicture, LeavesTheFaceWhereThePictureIsTransparent) {
     const Bytes picture{1, 2, 3, 4, 5, 6}, face{90, 91, 92, 93, 94, 95};
     EXPECT_EQ(transferred(picture, face, {}), picture);
-    EXPECT_EQ(transferred(picture, face, {}, 0x010203), (Bytes{90, 91, 92, 4, 5, 6}));
-    EXPECT_EQ(transferred(picture, face, {.ghost = true, .blend = true}, 0x040506),
+    EXPECT_EQ(transferred(picture, face, {}, bgr(0x010203)), (Bytes{90, 91, 92, 4, 5, 6}));
+    EXPECT_EQ(transferred(picture, face, {.ghost = true, .blend = true}, bgr(0x040506)),
               (Bytes{30, 31, 32, 93, 94, 95}));  // (2 * 1 + 90) / 3 = 30.67
     // The surface shows no finer shades than these: both pixels become the transparent colour.
-    const auto coarse = [](Colour) { return Colour{0x030303}; };
-    EXPECT_EQ(transferred(picture, face, {}, 0x030303, coarse), face);
-    EXPECT_EQ(transferred(picture, face, {}, 0x010203, coarse), picture);
+    const auto coarse = [](Colour) { return bgr(0x030303); };
+    EXPECT_EQ(transferred(picture, face, {}, bgr(0x030303), coarse), face);
+    EXPECT_EQ(transferred(picture, face, {}, bgr(0x010203), coarse), picture);
 }
 
 TEST(TransferPicture, HasItsEffects) {

@@ -31,7 +31,7 @@ class GlintRig : public GlintSurface, public GlintPointer, public GlintEvents {
     GlintFont ambientFont() const override { return {.name = "Ambient", .size = 13}; }
     ContainerColours containerColours() const override {
         note("palette");
-        return {0x302010, 0xFFFFFF};
+        return {Colour::fromBgr(0x302010), kWhite};
     }
     GlintFont font() const override { return surfaceFont; }
     void setFont(const GlintFont& font) override { keep("font", surfaceFont, font); }

@@ -16,6 +16,6 @@ void paintTitleBackdrop(QPainter& painter, const QtShapes& shapes);
 void paintTitleSpot(QPainter& painter, const TitleSpot& spot);
 
 /// The dark ground below it, 640 x 160.
-void paintTitleGround(QPainter& painter);
+void paintTitleGround(QPainter& painter, const QtShapes& shapes);
 
 }  // namespace skylob

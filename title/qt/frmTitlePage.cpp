@@ -35,7 +35,7 @@ frmTitlePage::frmTitlePage(const QtScreenPorts& ports, const Clock& clock, Sound
                            LinkOpener& links, MessageBoxes& boxes)
     : QtScreen{{.name = QStringLiteral("frmTitlePage"),
                 .caption = QStringLiteral(" "),
-                .size = {640, 440},
+                .size = {kTitleWidth, kTitlePageHeight},
                 .fadesIn = false},
                ports},
       m_clock{clock},
@@ -85,7 +85,7 @@ bool frmTitlePage::event(QEvent* event) {
 void frmTitlePage::paintEvent(QPaintEvent*) {
     QPainter painter{this};
     painter.setRenderHint(QPainter::Antialiasing);
-    paintTitleGround(painter);
+    paintTitleGround(painter, m_shapes);
 }
 
 void frmTitlePage::askedToClose() {

@@ -14,7 +14,7 @@ constexpr double kRatios[] = {1, 1.25, 1.5, 1.75, 2};
 
 /// A red window with one button of 100 x 40, dark with a white caption unless told.
 struct Form {
-    explicit Form(QPoint place = {20, 20}, Colour back = 0x202020) {
+    explicit Form(QPoint place = {20, 20}, ColourReference back = 0x202020) {
         window.setFixedSize(160, 90);
         window.setPalette(QPalette{Qt::red});
         button.setGeometry(QRect{place, QSize{100, 40}});
