@@ -47,7 +47,7 @@ QtSidePanel::QtSidePanel(int side, const QString& caption, const SidePanelLayout
       m_scrollSpeed{makeScrollBar(SidePanel{}.scrollSpeed, layout.scrollSpeed, this)},
       m_scrollAngle{makeScrollBar(SidePanel{}.scrollAngle, layout.scrollAngle, this)},
       m_menGauge{new QtMenGauge{this}} {
-    m_labelMenLeft->setProperty("role", "men");
+    m_labelMenLeft->setProperty("role", QStringLiteral("men"));
     // After the role: measuring the caption settles the looks of all that is in the frame.
     setCaption(caption);
     m_menGauge->setGeometry(layout.menGauge);

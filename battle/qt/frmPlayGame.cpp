@@ -91,7 +91,8 @@ void frmPlayGame::makeButtons() {
     labelRoundNumber = new QLabel{this};
     labelRoundNumber->setGeometry(m_layout.labelRoundNumber);
     labelRoundNumber->setAlignment(Qt::AlignCenter);
-    labelRoundNumber->setProperty("role", m_layout.oneFrameAtATime ? "round-small" : "round");
+    labelRoundNumber->setProperty(
+        "role", QLatin1String{m_layout.oneFrameAtATime ? "round-small" : "round"});
 
     QtFormButtons buttons{QStringLiteral("frmPlayGame"), m_shapes, *this};
     cmdShoot = buttons.make(QStringLiteral("cmdShoot"), m_layout.cmdShoot);

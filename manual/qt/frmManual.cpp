@@ -48,7 +48,7 @@ frmManual::frmManual(basSkylob& shared, const frmManualPorts& ports)
     applyLook(*this);
     setFixedSize(720, 540);
     labelHelpTopic->setGeometry(16, 12, 688, 32);
-    labelHelpTopic->setProperty("role", "topic");
+    labelHelpTopic->setProperty("role", QStringLiteral("topic"));
     txtManual->setGeometry(16, 52, 688, 408);
     txtManual->setReadOnly(true);
     txtManual->setTabChangesFocus(true);

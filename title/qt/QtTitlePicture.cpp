@@ -73,8 +73,8 @@ void paintLand(QPainter& painter) {
 void paintTitleBackdrop(QPainter& painter, const QtShapes& shapes) {
     paintSky(painter);
     paintLand(painter);
-    shapes.paint(painter, "piece1", {84, 232, 40, 40}, QtShapes::Edges::Smooth);
-    shapes.paint(painter, "piece2", {516, 232, 40, 40}, QtShapes::Edges::Smooth);
+    shapes.paint(painter, QStringLiteral("piece1"), {84, 232, 40, 40}, QtShapes::Edges::Smooth);
+    shapes.paint(painter, QStringLiteral("piece2"), {516, 232, 40, 40}, QtShapes::Edges::Smooth);
 }
 
 void paintTitleSpot(QPainter& painter, const TitleSpot& spot) {

@@ -23,7 +23,7 @@ namespace {
 
 void place(QLabel* label, const char* role, const QRect& where) {
     label->setGeometry(where);
-    label->setProperty("role", role);
+    label->setProperty("role", QLatin1String{role});
 }
 
 }  // namespace
