@@ -30,10 +30,12 @@ CommandLine parseCommandLine(std::span<const std::string_view> arguments) {
         if (argument == "--help") {
             result.request = CommandLine::Request::Help;
             return result;
-        } else if (argument == "--version") {
+        }
+        if (argument == "--version") {
             result.request = CommandLine::Request::Version;
             return result;
-        } else if (argument == "--user-data") {
+        }
+        if (argument == "--user-data") {
             result.userData = true;
         } else if (argument == "--seed") {
             result.seed = last ? std::nullopt : parseSeed(arguments[++i]);

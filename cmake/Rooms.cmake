@@ -60,6 +60,10 @@ function(skylob_add_qt_layer library room)
     get_target_property(kind ${library} TYPE)
     if(NOT kind STREQUAL INTERFACE_LIBRARY)
         set_target_properties(${library} PROPERTIES AUTOMOC ON)
-        target_compile_definitions(${library} PRIVATE QT_NO_CAST_TO_ASCII)
+        # Texts are converted where one can see it, and nothing old is called.
+        target_compile_definitions(${library} PRIVATE
+            QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY
+            QT_NO_URL_CAST_FROM_STRING QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_NO_FOREACH
+            QT_DISABLE_DEPRECATED_BEFORE=0x060400)
     endif()
 endfunction()

@@ -49,7 +49,7 @@ QtSidePanel::QtSidePanel(int side, const QString& caption, const SidePanelLayout
       m_scrollAngle{
           makeScrollBar(nameOf("scrollAngle", side), kAngleRange, layout.scrollAngle, this)},
       m_menGauge{new QtMenGauge{this}} {
-    m_labelMenLeft->setProperty("role", "men");
+    m_labelMenLeft->setProperty("role", QStringLiteral("men"));
     // After the role: measuring the caption settles the looks of all that is in the frame.
     setCaption(caption);
     m_menGauge->setGeometry(layout.menGauge);

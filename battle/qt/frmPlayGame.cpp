@@ -78,7 +78,8 @@ void frmPlayGame::makeButtons() {
     labelRoundNumber->setObjectName(QStringLiteral("labelRoundNumber"));
     labelRoundNumber->setGeometry(m_layout.labelRoundNumber);
     labelRoundNumber->setAlignment(Qt::AlignCenter);
-    labelRoundNumber->setProperty("role", m_layout.oneFrameAtATime ? "round-small" : "round");
+    labelRoundNumber->setProperty(
+        "role", QLatin1String{m_layout.oneFrameAtATime ? "round-small" : "round"});
 
     QtFormButtons buttons{objectName(), m_shapes, *this};
     cmdShoot = buttons.make(QStringLiteral("cmdShoot"), m_layout.cmdShoot);

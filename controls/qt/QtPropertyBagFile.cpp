@@ -11,6 +11,8 @@
 
 namespace skylob {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 std::optional<std::int32_t> wholeNumber(const QJsonValue& value) {
@@ -22,14 +24,14 @@ std::optional<std::int32_t> wholeNumber(const QJsonValue& value) {
 
 std::optional<GlintFont> font(const QJsonValue& value) {
     const QJsonObject object = value.toObject();
-    if (!object["name"].isString() || !object["size"].isDouble()) return std::nullopt;
-    for (const char* flag : {"bold", "italic", "underline"})
-        if (object.contains(QLatin1String{flag}) && !object[flag].isBool()) return std::nullopt;
-    return GlintFont{.name = object["name"].toString().toStdString(),
-                     .size = static_cast<float>(object["size"].toDouble()),
-                     .bold = object["bold"].toBool(),
-                     .italic = object["italic"].toBool(),
-                     .underline = object["underline"].toBool()};
+    if (!object["name"_L1].isString() || !object["size"_L1].isDouble()) return std::nullopt;
+    for (const auto flag : {"bold"_L1, "italic"_L1, "underline"_L1})
+        if (object.contains(flag) && !object[flag].isBool()) return std::nullopt;
+    return GlintFont{.name = object["name"_L1].toString().toStdString(),
+                     .size = static_cast<float>(object["size"_L1].toDouble()),
+                     .bold = object["bold"_L1].toBool(),
+                     .italic = object["italic"_L1].toBool(),
+                     .underline = object["underline"_L1].toBool()};
 }
 
 }  // namespace
@@ -64,7 +66,8 @@ void QtPropertyBagFile::Bag::write(std::string_view key, const QJsonValue& value
 }
 
 void QtPropertyBagFile::Bag::report(std::string_view key, const char* wanted) const {
-    m_file.report(QStringLiteral("%1.%2 is no %3").arg(m_control, toQt(key), wanted));
+    m_file.report(
+        QStringLiteral("%1.%2 is no %3").arg(m_control, toQt(key), QLatin1String{wanted}));
 }
 
 std::int32_t QtPropertyBagFile::Bag::readInteger(std::string_view key,
@@ -112,11 +115,11 @@ void QtPropertyBagFile::Bag::writeText(std::string_view key, const std::string& 
 }
 
 void QtPropertyBagFile::Bag::writeFont(std::string_view key, const GlintFont& value) {
-    write(key, QJsonObject{{"name", QString::fromStdString(value.name)},
-                           {"size", value.size},
-                           {"bold", value.bold},
-                           {"italic", value.italic},
-                           {"underline", value.underline}});
+    write(key, QJsonObject{{"name"_L1, QString::fromStdString(value.name)},
+                           {"size"_L1, value.size},
+                           {"bold"_L1, value.bold},
+                           {"italic"_L1, value.italic},
+                           {"underline"_L1, value.underline}});
 }
 
 QtPropertyBagFile formBags(const QString& form) {

@@ -53,7 +53,9 @@ QIcon programIcon() {
 }  // namespace
 
 QStringList fontFamilies() {
-    return {kFontFamilies.begin(), kFontFamilies.end()};
+    QStringList families;
+    for (const char* family : kFontFamilies) families.append(QLatin1String{family});
+    return families;
 }
 
 void applyLook(QWidget& screen) {

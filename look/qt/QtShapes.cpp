@@ -32,22 +32,22 @@ double readSize(const QString& word) {
 }
 
 QColor readColour(const QString& word) {
-    if (word.startsWith('@')) {
+    if (word.startsWith(u'@')) {
         const auto colour = findThemeColour(word.mid(1).toStdString());
         require(colour.has_value(), "not a colour of the theme", word);
         return toQColor(*colour);
     }
     const QColor colour(word);
     // QColor also takes colour names and shorter or longer numbers, which here are slips.
-    require(word.size() == 7 && word[0] == '#' && colour.isValid(), "not a #RRGGBB colour", word);
+    require(word.size() == 7 && word[0] == u'#' && colour.isValid(), "not a #RRGGBB colour", word);
     return colour;
 }
 
 QPolygonF readPoints(const QStringList& words, int fewest) {
-    require(words.size() >= fewest, "too few points", words.join(' '));
+    require(words.size() >= fewest, "too few points", words.join(u' '));
     QPolygonF points;
     for (const QString& word : words) {
-        const QStringList xy = word.split(',');
+        const QStringList xy = word.split(u',');
         require(xy.size() == 2, "not a point x,y", word);
         points << QPointF(readNumber(xy[0]), readNumber(xy[1]));
     }
@@ -65,7 +65,7 @@ QPainterPath linePath(double width, const QPolygonF& points) {
 }
 
 QPainterPath boxPath(bool round, const QString& word) {
-    const QStringList box = word.split(',');
+    const QStringList box = word.split(u',');
     require(box.size() == 4, "wants four numbers", word);
     const QPointF place(readNumber(box[0]), readNumber(box[1]));
     const QSizeF size(readSize(box[2]), readSize(box[3]));
@@ -81,13 +81,13 @@ QPainterPath boxPath(bool round, const QString& word) {
 }  // namespace
 
 QtShapes::QtShapes(const QByteArray& text) {
-    const QStringList lines = QString::fromUtf8(text).split('\n');
+    const QStringList lines = QString::fromUtf8(text).split(u'\n');
     QString current;
     for (qsizetype i = 0; i < lines.size(); ++i) {
         const QString line = lines[i].simplified();
-        if (line.isEmpty() || line.startsWith('#')) continue;
+        if (line.isEmpty() || line.startsWith(u'#')) continue;
         try {
-            readLine(line.split(' '), current);
+            readLine(line.split(u' '), current);
         } catch (const std::runtime_error& error) {
             throw std::runtime_error("shapes, line " + std::to_string(i + 1) + ": " + error.what());
         }
@@ -95,17 +95,17 @@ QtShapes::QtShapes(const QByteArray& text) {
 }
 
 void QtShapes::readLine(const QStringList& words, QString& current) {
-    if (words[0] == "picture") {
+    if (words[0] == u"picture") {
         begin(words);
         current = words[1];
         return;
     }
     require(!current.isEmpty(), "stands before the first picture", words[0]);
     Picture& picture = m_pictures[current];
-    if (words[0] == "include") {
+    if (words[0] == u"include") {
         picture.items += included(words, picture).items;
-    } else if (words[0] == "mirror") {
-        require(words.size() == 1, "mirror stands alone", words.join(' '));
+    } else if (words[0] == u"mirror") {
+        require(words.size() == 1, "mirror stands alone", words.join(u' '));
         const QTransform flip(-1, 0, 0, 1, picture.grid, 0);
         for (Item& item : picture.items) item.outline = flip.map(item.outline);
     } else {
@@ -114,14 +114,14 @@ void QtShapes::readLine(const QStringList& words, QString& current) {
 }
 
 void QtShapes::begin(const QStringList& words) {
-    require(words.size() == 3, "wants picture NAME GRID", words.join(' '));
+    require(words.size() == 3, "wants picture NAME GRID", words.join(u' '));
     require(!m_pictures.contains(words[1]), "second picture of this name", words[1]);
     const double grid = readSize(words[2]);
     m_pictures[words[1]].grid = grid;
 }
 
 const QtShapes::Picture& QtShapes::included(const QStringList& words, const Picture& into) const {
-    require(words.size() == 2, "wants include NAME", words.join(' '));
+    require(words.size() == 2, "wants include NAME", words.join(u' '));
     const auto other = m_pictures.constFind(words[1]);
     require(other != m_pictures.constEnd() && &*other != &into, "no earlier picture", words[1]);
     require(other->grid == into.grid, "has another grid", words[1]);
@@ -130,17 +130,17 @@ const QtShapes::Picture& QtShapes::included(const QStringList& words, const Pict
 
 QtShapes::Item QtShapes::readItem(const QStringList& words) {
     const QString& kind = words[0];
-    require(kind == "P" || kind == "R" || kind == "E" || kind == "L", "unknown word", kind);
-    require(words.size() >= 3, "wants a colour and numbers", words.join(' '));
+    require(kind == u"P" || kind == u"R" || kind == u"E" || kind == u"L", "unknown word", kind);
+    require(words.size() >= 3, "wants a colour and numbers", words.join(u' '));
     const QColor colour = readColour(words[1]);
-    if (kind == "L") return {linePath(readSize(words[2]), readPoints(words.mid(3), 2)), colour};
-    if (kind == "P") {
+    if (kind == u"L") return {linePath(readSize(words[2]), readPoints(words.mid(3), 2)), colour};
+    if (kind == u"P") {
         QPainterPath polygon;
         polygon.addPolygon(readPoints(words.mid(2), 3));
         return {polygon, colour};
     }
-    require(words.size() == 3, "wants four numbers in one word", words.join(' '));
-    return {boxPath(kind == "E", words[2]), colour};
+    require(words.size() == 3, "wants four numbers in one word", words.join(u' '));
+    return {boxPath(kind == u"E", words[2]), colour};
 }
 
 const QtShapes::Picture& QtShapes::find(const QString& name) const {

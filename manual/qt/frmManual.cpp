@@ -49,7 +49,7 @@ frmManual::frmManual(const QtScreenPorts& ports, const StringTable& texts, LinkO
       menuHelpTopic{new QActionGroup{this}} {
     labelHelpTopic->setObjectName(QStringLiteral("labelHelpTopic"));
     labelHelpTopic->setGeometry(16, 12, 688, 32);
-    labelHelpTopic->setProperty("role", "topic");
+    labelHelpTopic->setProperty("role", QStringLiteral("topic"));
     txtManual->setObjectName(QStringLiteral("txtManual"));
     txtManual->setGeometry(16, 52, 688, 408);
     txtManual->setReadOnly(true);

@@ -15,7 +15,7 @@ QLabel* labelInSlot(const char* role, QWidget* parent) {
     label->setGeometry(kSlot);
     label->setAlignment(Qt::AlignCenter);
     label->setTextFormat(Qt::PlainText);
-    label->setProperty("role", role);
+    label->setProperty("role", QLatin1String{role});
     return label;
 }
 

@@ -24,7 +24,7 @@ QLabel* centredLabel(const QString& text, const char* role, const QRect& place, 
     auto* label = new QLabel{text, parent};
     label->setGeometry(place);
     label->setAlignment(Qt::AlignCenter);
-    label->setProperty("role", role);
+    label->setProperty("role", QLatin1String{role});
     return label;
 }
 

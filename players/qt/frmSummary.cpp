@@ -26,7 +26,7 @@ QLabel* makeLabel(const QRect& place, const char* role, QWidget* parent) {
     auto* label = new QLabel{parent};
     label->setGeometry(place);
     label->setTextFormat(Qt::PlainText);
-    label->setProperty("role", role);
+    label->setProperty("role", QLatin1String{role});
     return label;
 }
 

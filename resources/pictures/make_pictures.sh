@@ -13,7 +13,7 @@ resources=$(cd "$(dirname "$0")/.." && pwd)
 
 # render SVG PIXELS PNG: a square picture of PIXELS x PIXELS.
 render() {
-  rsvg-convert --format=png --width="$2" --height="$2" --output="$3" "$1"
+    rsvg-convert --format=png --width="$2" --height="$2" --output="$3" "$1"
 }
 
 # The icon has a simpler drawing of its own where the full one would blur.
@@ -24,10 +24,10 @@ render "$icons/svg/icon.svg" 64 "$icons/icon-64.png"
 render "$icons/svg/icon.svg" 256 "$icons/icon-256.png"
 
 for drawing in "$resources"/look/svg/*.svg; do
-  name=$(basename "$drawing" .svg)
-  # The size of a drawing stands in its first tag: <svg ... width="8" height="8" ...>.
-  size=$(sed -n 's/.*<svg .*[ ]width="\([0-9]*\)".*/\1/p' "$drawing")
-  render "$drawing" "$size" "$resources/look/$name.png"
-  render "$drawing" $((size * 2)) "$resources/look/$name@2x.png"
-  render "$drawing" $((size * 3)) "$resources/look/$name@3x.png"
+    name=$(basename "$drawing" .svg)
+    # The size of a drawing stands in its first tag: <svg ... width="8" height="8" ...>.
+    size=$(sed -n 's/.*<svg .*[ ]width="\([0-9]*\)".*/\1/p' "$drawing")
+    render "$drawing" "$size" "$resources/look/$name.png"
+    render "$drawing" $((size * 2)) "$resources/look/$name@2x.png"
+    render "$drawing" $((size * 3)) "$resources/look/$name@3x.png"
 done

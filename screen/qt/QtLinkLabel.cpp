@@ -30,7 +30,7 @@ QAccessibleInterface* makeAccessible(const QString&, QObject* object) {
 }  // namespace
 
 QtLinkLabel::QtLinkLabel(const QString& text, QWidget* parent) : QLabel{text, parent} {
-    setProperty("role", "link");
+    setProperty("role", QStringLiteral("link"));
     setAccessibleName(text);
     setCursor(Qt::PointingHandCursor);
     setFocusPolicy(Qt::TabFocus);

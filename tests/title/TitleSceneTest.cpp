@@ -35,7 +35,7 @@ TEST(TitleScene, IsTheSameInEveryLoopAndOnEveryMachine) {
         }
         std::string figures = std::to_string(spots.size());
         for (const double sum : {x, y, radius, ring, colour, alpha})
-            figures += " " + std::to_string(std::llround(sum));
+            figures.append(" ").append(std::to_string(std::llround(sum)));
         EXPECT_EQ(figures, row.figures) << row.seconds;
     }
 }

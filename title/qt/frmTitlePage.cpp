@@ -25,7 +25,7 @@ void addLabel(const char* name, const QString& text, const char* role, const QRe
     auto* label = new QLabel{text, parent};
     label->setObjectName(QLatin1String{name});
     label->setGeometry(place);
-    label->setProperty("role", role);
+    label->setProperty("role", QLatin1String{role});
 }
 
 }  // namespace
