@@ -55,9 +55,9 @@ void paintSky(QPainter& painter) {
 
 void paintTitleBackdrop(QPainter& painter, const QtShapes& shapes) {
     paintSky(painter);
-    paintLand(painter, shapes, "title-land");
-    paintPiece(painter, shapes, "piece1", kTitleGun);
-    paintPiece(painter, shapes, "piece2", kTitleTarget);
+    paintLand(painter, shapes, QStringLiteral("title-land"));
+    paintPiece(painter, shapes, QStringLiteral("piece1"), kTitleGun);
+    paintPiece(painter, shapes, QStringLiteral("piece2"), kTitleTarget);
 }
 
 void paintTitleSpot(QPainter& painter, const TitleSpot& spot) {
@@ -74,7 +74,7 @@ void paintTitleGround(QPainter& painter, const QtShapes& shapes) {
     ground.setColorAt(0, toQColor(themeColour("earth")));
     ground.setColorAt(1, QColor{0x13, 0x1D, 0x36});
     painter.fillRect(0, kTitleHeight, kTitleWidth, kTitlePageHeight - kTitleHeight, ground);
-    paintLand(painter, shapes, "title-ground");
+    paintLand(painter, shapes, QStringLiteral("title-ground"));
 }
 
 }  // namespace skylob
