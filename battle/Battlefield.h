@@ -18,7 +18,7 @@ inline constexpr int kColumns = 1000;
 /// positions and heights are whole field units, x 1..1000 to the right, y 1..1000 upwards.
 struct Battlefield {
     struct Star {
-        int x, y;
+        int x = 0, y = 0;
         Colour colour;
     };
 

@@ -164,7 +164,8 @@ void FieldPicture::refresh() {
         for (int py = seen.y; py < seen.y + seen.height; ++py) {
             for (int px = seen.x; px < seen.x + seen.width; ++px) {
                 const auto from =
-                    static_cast<std::size_t>((py - area.y) * image.width + (px - area.x));
+                    static_cast<std::size_t>(py - area.y) * static_cast<std::size_t>(image.width) +
+                    static_cast<std::size_t>(px - area.x);
                 auto& pixel = m_screen[index(px, py)];
                 pixel = blend(pixel, image.pixels[from]);
             }

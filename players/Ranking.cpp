@@ -41,6 +41,7 @@ std::vector<int> rankingOrder(PlayerFile& file) {
     // Equal texts stay in the order of the list: the record number decides.
     std::sort(keys.begin(), keys.end());
     std::vector<int> order;
+    order.reserve(keys.size());
     for (const auto& [key, number] : keys) order.push_back(number);
     return order;
 }
@@ -57,9 +58,10 @@ void countSet(PlayerRecord& record, int setScore, bool won) {
 
 float rankingKey(const PlayerRecord& record) {
     constexpr float kNeverPlayed = 999.99F;
-    const double P = record.SetsPlayed, W = record.SetsWon, A = record.AverageScore;
-    if (P < 1) return kNeverPlayed;
-    return static_cast<float>((1000 - ((W + 0.01) / (P + 0.01)) * A) + (W + 0.05) + (P + 0.025));
+    const double played = record.SetsPlayed, won = record.SetsWon, average = record.AverageScore;
+    if (played < 1) return kNeverPlayed;
+    const double ratio = (won + 0.01) / (played + 0.01);
+    return static_cast<float>((1000 - ratio * average) + (won + 0.05) + (played + 0.025));
 }
 
 std::string formatKey(float key) {

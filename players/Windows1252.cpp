@@ -88,7 +88,7 @@ std::string fromWindows1252(std::string_view bytes) {
     std::string utf8;
     for (std::size_t place = 0; place < bytes.size(); ++place) {
         const std::size_t byte = byteAt(bytes, place);
-        char32_t character = static_cast<char32_t>(byte);
+        auto character = static_cast<char32_t>(byte);
         if (byte >= kFirst && byte < kBehind) character = kSpecial[byte - kFirst];
         const bool shown = character >= 0x20 && character != 0x7F;
         appendUtf8(utf8, shown ? character : U' ');

@@ -17,14 +17,14 @@ struct frmPlayGameLayout {
     QSize screen;
     QRect field;
     PerSide<QRect> frame;  ///< the sides' frames; in the same place when only one is shown
-    bool oneFrameAtATime;
+    bool oneFrameAtATime = false;
     SidePanelLayout inFrame;
     QRect labelRoundNumber, cmdShoot, cmdQuit;
-    bool shootHasCaption;
-    int shootPicture;  ///< the edge length of the shoot button's picture
-    QRect strip;       ///< the frame around the options; what follows is relative to it
+    bool shootHasCaption = false;
+    int shootPicture = 0;  ///< the edge length of the shoot button's picture
+    QRect strip;           ///< the frame around the options; what follows is relative to it
     QRect labelGameSpeed, scrollGameSpeed;
-    bool gameSpeedInStrip;  ///< otherwise the two are relative to the screen, label centred
+    bool gameSpeedInStrip = false;  ///< otherwise the two are relative to the screen, label centred
     QRect chkSound, chkTrajectory, chkMeteors, chkLightning, chkWind;
 };
 
