@@ -9,7 +9,7 @@ bool Main(const basSkylob& shared, Copies copies, FileSystem& files, MessageBoxe
         boxes.show({"Terminating...", refusal, BoxIcon::Critical});
         return false;
     }
-    // Beside a present file an old one is left alone.
+    // Quirk "old file left alone": beside a present one it stays as it is.
     if (files.hasFile(shared.OldDataFile) && !files.hasFile(shared.PlayerFileName))
         files.replace(shared.OldDataFile, shared.PlayerFileName);
     return true;

@@ -9,6 +9,7 @@ Aims::Aims(PerSide<Aim>& aims, std::function<void()> moved)
 }
 
 void Aims::setSpeed(int side, int value) {
+    // Quirk "held at every step": what is computed with these goes on from the held value.
     move(m_aims[side].speed, kSpeedRange.held(value));
 }
 

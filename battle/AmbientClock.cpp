@@ -26,6 +26,7 @@ bool AmbientClock::isIdle() const {
 }
 
 void AmbientClock::startTimers() {
+    // Quirk "crossed timers": those whose boxes are not ticked stay as they are, here and below.
     BattleState& state = m_sky.state;
     if (state.chkMeteors) state.timerMeteors = true;
     if (state.chkLightning) state.timerLightning = true;
@@ -55,6 +56,7 @@ void AmbientClock::storm() {
     state.timerLightning = false;
     m_desk.show();
     m_storm.rage();
+    // Quirk "storm starts meteors": their timer runs then, even if it stood still before.
     if (state.chkMeteors) state.timerMeteors = true;
     state.timerLightning = true;
     m_desk.show();

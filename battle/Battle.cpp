@@ -62,7 +62,8 @@ void Battle::StartRound() {
 
 void Battle::chooseFirstShooter() {
     if (m_state.RoundNumber > 1) {
-        // The loser opens the next round. The computer goes on correcting its last miss.
+        // The loser opens the next round. Quirk "lasting memory": the computer goes on correcting
+        // its last miss.
         m_state.Shooter = opponentOf(m_shared.Winner);
     } else if (m_shared.isComputer(kRightSide)) {
         m_state.Shooter = kLeftSide;
@@ -76,6 +77,7 @@ void Battle::GenerateBattlefield() {
     m_view.showCursor(BattleCursor::Hourglass);
     m_view.holdInput();
     generateBattlefield(m_state.field, m_ports.random, m_state.RoundNumber, m_shared.NumRounds);
+    // Quirk "wide stars": the pen may still be as wide as the ground's lines of the round before.
     m_state.field.starWidth = m_state.penWidth;
     m_state.penWidth = drawField();
     m_view.showCursor(BattleCursor::Normal);
@@ -94,6 +96,7 @@ void Battle::BeginTurn() {
     m_state.turnNotice = {m_state.Shooter, m_state.MenLeft};
     m_shared.NearMiss = false;
     m_desk.show();
+    // Quirk "turn without men": asked only here, when the other side has had one more shot.
     if (m_state.MenLeft[m_state.Shooter] < 1)
         loseWithoutMen();
     else if (m_shared.isComputer(m_state.Shooter))
@@ -202,6 +205,7 @@ void Battle::leave() {
         return;
     }
     offerToKeepGameSpeed(m_state, m_shared, m_ports.boxes, m_ports.settings);
+    // Quirk "saved by leaving": a set that is played to its end saves nothing.
     saveOptions(m_state, m_ports.settings);
     m_state.phase = Phase::Left;
     m_view.holdInput();

@@ -43,7 +43,8 @@ void BattleOptions::chkTrajectory_Click(bool ticked) {
 void BattleOptions::chkMeteors_Click(bool ticked) {
     carryOut(Deed::ClickEffectBox, [this, ticked] {
         m_state.chkMeteors = ticked;
-        // The meteors follow the lightning box, as it stands when this one is clicked.
+        // Quirk "crossed timers": the meteors follow the lightning box, as it stands when this one
+        // is clicked.
         m_state.timerMeteors = m_state.chkLightning;
         m_desk.changed();
         m_pacer.yieldToEvents();

@@ -9,6 +9,7 @@ namespace {
 std::string windCaption(int wind) {
     if (wind == 0) return "Wind";
     const std::string strength = std::to_string(std::abs(wind));
+    // Quirk "uneven blanks": two here, three after "Angle:".
     return "Wind  " + (wind < 0 ? "<--" + strength : strength + "-->");
 }
 
@@ -23,6 +24,7 @@ SidePanel sidePanel(int side, const BattleState& state) {
     panel.scrollSpeed = speed;
     panel.scrollAngle = angle;
     panel.labelSpeed = "Speed: " + std::to_string(speed);
+    // Quirk "uneven blanks": three of them.
     panel.labelAngle = "Angle:   " + std::to_string(angle);
     if (state.turnNotice.side != 0) {
         panel.menLeft = state.turnNotice.menLeft[side];

@@ -20,7 +20,7 @@ void tellOfNoMen(const std::string& playerName, MessageBoxes& boxes) {
 }
 
 bool confirmsLeaving(const BattleState& state, const basSkylob& shared, MessageBoxes& boxes) {
-    // The first and the last round are left without asking.
+    // Quirk "unasked leaving": the first and the last round are left without asking.
     if (state.RoundNumber <= 1 || state.RoundNumber >= shared.NumRounds) return true;
     return asks(boxes, std::string{kProgramTitle}, "Are you sure you want to quit this set?");
 }

@@ -65,6 +65,7 @@ int clampedHeight(int height, bool onMountain, RandomSource& random) {
 
 void drawStar(Battlefield& field, int x, int height, RandomSource& random) {
     // The higher the ground, the fewer the stars above it; below 600 every column has one.
+    // Quirk "stars over valleys": below 300 the bounds are 1 and 0, which make 1, too.
     if (RandomInt(random, 1, height / 300) != 1) return;
     const int y = RandomInt(random, height + 25, 999);
     const int colour = RandomInt(random, 1, 13);
@@ -97,8 +98,9 @@ void drawPieces(Battlefield& field, RandomSource& random) {
 }  // namespace
 
 int SlopeStep(RandomSource& random, int kind) {
-    // The falling kinds pass the larger bound first: RandomInt then reaches the lower values
-    // only when r is exactly 0 or not at all, which makes a mountain's far side what it is.
+    // Quirk "backward slopes": the falling kinds pass the larger bound first. RandomInt reaches
+    // that one only when r is exactly 0, and the other never, which makes a mountain's far side
+    // what it is.
     switch (kind) {
         case 0:
             return RandomInt(random, 4, 7);
@@ -139,6 +141,7 @@ Colour TerrainColours(int number) {
 }
 
 void generateBattlefield(Battlefield& field, RandomSource& random, int roundNumber, int numRounds) {
+    // Quirk "waxing moon": this does not stop where the shadow covers the moon.
     const int moonOffset = roundNumber == 1 ? 40 : field.MoonOffset - 4;
     field = Battlefield{};
     field.MoonOffset = moonOffset;
@@ -167,6 +170,7 @@ void drawBattlefield(const Battlefield& field, FieldPicture& picture, int ground
     for (const auto& star : field.stars)
         picture.setPoint(star.x, star.y, star.colour, field.starWidth);
     if (field.hasMoon()) {
+        // Quirk "waxing moon": to the left of the moon's centre from the tenth round on.
         const int shadow = field.MoonX + field.MoonOffset - 5;
         picture.filledCircle(field.MoonX, field.moonY, kMoonRadius, kCyan);
         picture.filledCircle(shadow, field.moonY, kMoonRadius, kBlack);

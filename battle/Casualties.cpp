@@ -15,7 +15,7 @@ void creditKills(basSkylob& shared, int side, int kills) {
 
 void creditShot(basSkylob& shared, BattleState& state) {
     const int shooter = state.Shooter, target = opponentOf(shooter);
-    // Those who die in a hit are credited, but stay in MenLeft.
+    // Quirk "dead in Men Left": those who die in a hit are credited, but stay in MenLeft.
     if (shared.SelfHit) {
         shared.Winner = target;
         creditKills(shared, target, state.MenLeft[shooter]);
@@ -28,6 +28,7 @@ void creditShot(basSkylob& shared, BattleState& state) {
         int& men = state.MenLeft[target];
         men = std::max(0, men - state.NearMissKills);
         creditKills(shared, shooter, state.NearMissKills);
+        // Quirk "last man standing": only deserters can have brought it to 0.
         if (men == 0) shared.Winner = shooter;
     }
 }

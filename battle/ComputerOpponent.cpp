@@ -21,6 +21,7 @@ ComputerOpponent::ComputerOpponent(BattleState& state, Aims& aims, RandomSource&
 
 void ComputerOpponent::takeAim(int skillLevel) {
     const int error = RandomInt(m_random, kGoodSkill - skillLevel, skillLevel - kGoodSkill);
+    // Quirk "forgotten bullseye": a miss of exactly 0 looks like no shot at all.
     if (m_state.AimDistance == 0)
         measureField(error);
     else
@@ -33,7 +34,8 @@ void ComputerOpponent::measureField(int error) {
     m_state.LastImpactX = field.PeakX;
     m_state.AimDistance = field.PieceX[kSide] - field.PieceX[kTarget];
     m_state.ComputerAngle = angleOverMountain();
-    // Each of these is an assignment of its own, and each is held within the control's range.
+    // Quirk "held at every step": each of these is an assignment of its own, and each is held
+    // within the control's range.
     addSpeed((field.PieceY[kTarget] - field.PieceY[kSide]) / 5);
     if (m_state.Wind != 0) addSpeed(m_state.Wind);
     addAngle(error / 2);
@@ -75,6 +77,7 @@ void ComputerOpponent::correctAim(int skillLevel, int error) {
 void ComputerOpponent::raiseToFloor(int error) {
     const int angle = m_aims.angle(kSide);
     if (angle >= m_state.ComputerAngle) return;
+    // Quirk "angle beyond 90": the bar never reaches such a one, so this comes again at each turn.
     addSpeed((m_state.ComputerAngle - angle) * 4 + error);
     m_aims.setAngle(kSide, m_state.ComputerAngle);
 }

@@ -37,6 +37,7 @@ void animateExplosion(FieldPoint at, Landing landing, FieldAnimation& animation,
             animation.hold(delayCount);
         }
     }
+    // Quirk "no craters": the mark is seen on the screen alone and the ground stays.
     picture.setPassingPoint(at.x, y, kBlack, maximum + 1);
     animation.show();
 }

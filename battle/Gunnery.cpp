@@ -27,6 +27,7 @@ void judgeShot(const Shot& shot, basSkylob& shared, BattleState& state) {
 
 FieldPoint blastOf(const Shot& shot, const BattleState& state) {
     if (shot.landing != Landing::NearMiss) return shot.landedAt;
+    // Quirk "blast on the target": a near miss is shown where it does its harm.
     return {state.field.PieceX[opponentOf(shot.side)], shot.landedAt.y};
 }
 

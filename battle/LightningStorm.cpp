@@ -61,6 +61,7 @@ void LightningStorm::rage() {
     strike(bolts);
     if (m_sky.effect.isInterrupted()) return clearSky();
     m_view.holdInput();
+    // Quirk "distant thunder": whole seconds, and nothing responds meanwhile.
     const int pause = RandomInt(m_sky.random, kPauseSeconds, kPauseSeconds * (bolts + 1));
     m_pacer.Wait(static_cast<float>(pause));
     thunder(bolts);
@@ -83,6 +84,7 @@ void LightningStorm::strike(int bolts) {
 void LightningStorm::draw(const Bolt& bolt) {
     for (const FieldPoint& at : bolt) {
         if (m_sky.effect.isInterrupted()) return;
+        // Quirk "wide bolts": the pen is as the ground's lines left it, until something explodes.
         m_sky.animation.picture().setPassingPoint(at.x, at.y, kYellow, m_sky.state.penWidth);
         m_sky.animation.show();
         m_sky.effect.serveEvents();
@@ -98,6 +100,7 @@ void LightningStorm::thunder(int bolts) {
 }
 
 void LightningStorm::clearSky() {
+    // Quirk "swept sky": this takes the trails and the marks of impacts, too.
     m_sky.animation.picture().refresh();
     m_sky.animation.show();
 }

@@ -31,7 +31,8 @@ int direction(int column, RandomSource& random) {
 MeteorPath meteorPath(const Battlefield& field, RandomSource& random) {
     MeteorPath path;
     FieldPoint& at = path.end;
-    // Half of all meteors are drawn beyond the sides and come in at the edge.
+    // Quirk "lost meteors": half of all are drawn beyond the sides. They come in at the edge, where
+    // their first step ends them.
     at.x = std::clamp(RandomInt(random, -500, 1500), 1, 999);
     at.y = startHeight(field, at.x, random);
     const int step = direction(at.x, random);
@@ -39,6 +40,7 @@ MeteorPath meteorPath(const Battlefield& field, RandomSource& random) {
     for (int count = 1; count <= kMostSteps; ++count) {
         at.x += step;
         at.y += RandomInt(random, -1, 0) + slope;
+        // Quirk "off the field": asked before the ground, so it does not explode.
         if (at.x < kFirstColumn || at.x > kLastColumn) return path;
         path.hitsGround = at.y <= field.heightAt(at.x) + kImpactHeight;
         if (path.hitsGround) return path;
@@ -57,6 +59,7 @@ void Meteors::fly() {
     const MeteorPath path = meteorPath(m_sky.state.field, m_sky.random);
     streak(path.points);
     if (path.hitsGround && !m_sky.effect.isInterrupted()) {
+        // Quirk "quiet meteors": there is no sound to it, and nobody is asked whether it hit.
         animateExplosion(path.end, Landing::Miss, m_sky.animation,
                          FlightDelayCount(m_shared.GameSpeed));
     }

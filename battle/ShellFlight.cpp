@@ -9,8 +9,8 @@ namespace skylob {
 
 namespace {
 
-// Not quite pi / 180, and single precision: angles act 1.7 % wider than true degrees. Every
-// player's eye is trained on it.
+// Quirk "wide degree": not quite pi / 180, and single precision. Angles act 1.7 % wider than true
+// degrees, and every player's eye is trained on it.
 constexpr double kDegree = 0.017745329f;
 
 constexpr int kMuzzleHeight = 8;  // above the ground under the piece
@@ -37,11 +37,12 @@ FieldPoint ShellFlight::position() const {
 
 void ShellFlight::advance() {
     m_t += 0.5f;
-    // The drift feeds on the speed itself and so is there without any wind, too.
+    // Quirk "self-made drift": it feeds on the speed itself and so is there without any wind, too.
     m_vx += (m_wind + m_vx) / 2500;
 }
 
 bool isFlying(FieldPoint at, const Battlefield& field) {
+    // Quirk "late landing": asked only where a step ends, beyond the edge or below the ground.
     return at.x >= 1 && at.x <= kColumns && at.y - field.heightAt(at.x) >= 1;
 }
 
@@ -74,8 +75,9 @@ std::int32_t FlightDelayCount(int gameSpeed) {
 }
 
 Landing classifyLanding(int x, int shooterX, int targetX) {
+    // Quirk "narrow field": a shell can hit the ground in the columns left out here.
     if (x < 5 || x > 995) return Landing::OutOfBounds;
-    // A shooter is spared at a distance of 5, its target is not.
+    // Quirk "spared shooter": at a distance of 5 it is not hit, its target is.
     if (std::abs(x - shooterX) < 5) return Landing::SelfHit;
     const int distance = std::abs(x - targetX);
     if (distance < 6) return Landing::DirectHit;
@@ -84,6 +86,7 @@ Landing classifyLanding(int x, int shooterX, int targetX) {
 }
 
 int nearMissKills(int menLeft, int distance) {
+    // Quirk "last man standing": of one man left this is never more than 0.
     return roundToNearest((menLeft + 1.0) / (distance + 1));
 }
 

@@ -26,8 +26,10 @@ void GlintDesign::initialiseProperties() {
     m_button.Enabled = m_button.ShowFocusRect = m_button.UseMaskColor = true;
     m_button.Caption = m_surface.displayName();
     m_surface.setFont(m_surface.ambientFont());
+    // Quirk "two sets of defaults": a form without entries gets others, in readProperties().
     m_button.ButtonType = kStyleDropped;
     m_button.ColorScheme = kSchemeOwn;
+    // Quirk "black on black": the palette is made before there are any colours.
     recalcColours();
     m_button.BackColor = m_button.BackOver = m_button.palette.FaceColour.bgr();
     m_button.MaskColor = kUsualMask;
@@ -37,6 +39,7 @@ void GlintDesign::initialiseProperties() {
 
 void GlintDesign::readProperties(const PropertyBag& bag) {
     GlintState& b = m_button;
+    // Quirk "two sets of defaults": not those of initialiseProperties().
     b.ButtonType = bag.readInteger("BTYPE", kStyleCommon);
     b.Caption = bag.readText("TX", "");
     b.Enabled = bag.readBoolean("ENAB", true);
@@ -51,7 +54,7 @@ void GlintDesign::readProperties(const PropertyBag& bag) {
     m_surface.setMousePointer(static_cast<std::int16_t>(bag.readInteger("MPTR", 0)));
     m_surface.setMouseIcon(bag.readText("MICON", {}));
     b.PictureNormal = bag.readText("PICN", {});
-    // Setting this picture marks "PICO"; saved forms hold it under "PICH".
+    // Quirk "PICH and PICO": setting this picture marks "PICO"; saved forms hold it under "PICH".
     b.PictureOver = bag.readText("PICH", {});
     b.UseMaskColor = bag.readBoolean("UMCOL", true);
     b.SoftBevel = bag.readBoolean("SOFT", false);
@@ -95,6 +98,7 @@ void GlintDesign::writeProperties(PropertyBag& bag) const {
 
 void GlintDesign::setBackColor(ColourReference value) {
     m_button.BackColor = value;
+    // Quirk "late palette": hovering colours are taken along only at design time.
     if (!m_surface.isUserMode()) m_button.BackOver = value;
     recalcColours();
     redrawCurrent();
@@ -102,6 +106,8 @@ void GlintDesign::setBackColor(ColourReference value) {
 }
 
 void GlintDesign::setBackOver(ColourReference value) {
+    // Quirk "late palette": it is not made anew here, nor for the other colours of hovering, the
+    // mask, the bevel and the style.
     m_button.BackOver = value;
     redrawCurrent();
     mark("BCOLO");
@@ -223,11 +229,13 @@ void GlintDesign::setPictureNormal(const PictureReference& value) {
 void GlintDesign::setPictureOver(const PictureReference& value) {
     m_button.PictureOver = value;
     if (m_button.IsOver) redrawCurrent();
+    // Quirk "PICH and PICO": hosts know it by this key.
     mark("PICO");
 }
 
 void GlintDesign::setPicturePosition(std::int32_t value) {
     m_button.PicturePosition = value;
+    // Quirk "marked before the layout": all other marks come last.
     mark("PICPOS");
     layOut(m_button, m_surface);
     redrawCurrent();

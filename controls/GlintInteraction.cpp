@@ -33,7 +33,7 @@ void GlintInteraction::mouseMove(const GlintMouse& mouse) {
         redraw(kStateUp, false);
         return;
     }
-    // The timer does not run while the left button is held, so this repeats on every move then.
+    // Quirk "MouseIn at every move": the timer does not run while the left button is held.
     if (!m_pointer.isOverTimerRunning()) m_events.raiseMouseIn();
     if (mouse.button == 0 && !m_button.IsOver) {
         m_pointer.runOverTimer(true);
@@ -41,7 +41,8 @@ void GlintInteraction::mouseMove(const GlintMouse& mouse) {
         redraw(kStateUp, true);
         m_events.raiseMouseOver();
     } else if (mouse.button == kMouseLeft) {
-        // Pressed, but in the colours of hovering.
+        // Pressed, but in the colours of hovering. Quirk "click that forgets the hover": when the
+        // move has been drawn the button is not "over" any more.
         m_button.IsOver = true;
         redraw(kStatePressed, false);
         m_button.IsOver = false;
@@ -87,6 +88,7 @@ void GlintInteraction::keyDown(std::int16_t keyCode, std::int16_t shift) {
 void GlintInteraction::keyUp(std::int16_t keyCode, std::int16_t shift) {
     m_events.raiseKeyUp(keyCode, shift);
     if (keyCode != kSpace || m_button.LastKeyDown != kSpace) return;
+    // Quirk "space on a disabled button": only a click asks whether it is enabled.
     toggle();
     redraw(kStateUp, false);
     m_events.raiseClick();
@@ -102,6 +104,7 @@ void GlintInteraction::gotFocus() {
 }
 
 void GlintInteraction::lostFocus() {
+    // Quirk "space that Tab takes away": it is drawn again as it was, pressed.
     m_button.HasFocus = false;
     redraw(m_button.currentState, true);
 }
@@ -131,6 +134,7 @@ void GlintInteraction::redraw(int state, bool flag) {
 }
 
 void GlintInteraction::toggle() {
+    // Quirk "unmarked toggle": only the host's setting is a change of the form.
     if (m_button.CheckBoxBehaviour) m_button.Value = !m_button.Value;
 }
 

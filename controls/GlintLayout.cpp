@@ -28,7 +28,8 @@ GlintRect captionBounds(int picturePosition, GlintSize client, GlintSize picture
 
 GlintSize captionShift(int picturePosition, GlintSize client, GlintSize picture,
                        const GlintRect& measured) {
-    // The halves are cut towards zero, and taken of the edges rather than of width and height.
+    // Quirk "centred by the far edges": halves, cut towards zero, of the edges rather than of width
+    // and height. Quirk "two pixels right and below": the margin before the caption is in them.
     const int dx = (client.width - measured.right) / 2;
     const int dy = (client.height - measured.bottom) / 2;
     switch (picturePosition) {

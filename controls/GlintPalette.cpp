@@ -132,7 +132,8 @@ Colour ShiftColour(Colour colour, int delta, BlueShift blue, Bevel bevel) {
     Channels channels = split(colour);
     channels.red += d;
     channels.green += d;
-    // Scaled, blue alone moves in proportion to itself: warm and cold faces stay what they are.
+    // Quirk "scaled blue": it alone moves in proportion to itself, so that warm and cold faces stay
+    // what they are.
     channels.blue += blue == BlueShift::Scaled ? channels.blue * d / 192 : d;
     for (int* channel : {&channels.red, &channels.green, &channels.blue}) {
         if (d > 0) *channel = std::min(*channel, 255);

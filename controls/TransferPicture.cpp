@@ -26,7 +26,7 @@ void copy(const Source& from, const Target& to) {
 }
 
 void copyGrey(const Source& from, const Target& to) {
-    // Red is rounded by itself before the sum is formed.
+    // Quirk "red rounded first": by itself, before the sum is formed.
     const int red = roundToNearest(*from.red * 0.3);
     const int grey = roundToNearest(red + *from.green * 0.59 + *from.blue * 0.11);
     *to.blue = *to.green = *to.red = static_cast<std::uint8_t>(grey);

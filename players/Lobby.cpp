@@ -159,9 +159,11 @@ void Lobby::deletePlayer(const ListedPlayer& player) {
 
 void Lobby::refuse(ListChange why) {
     if (why == ListChange::NameTaken) {
+        // Quirk "information called Error": the box has the icon of an information.
         m_ports.boxes.show({"Error", "That name is already in the Player List!"});
         return;
     }
+    // Quirk "full list": one player more than 16 bits can count.
     m_ports.boxes.show(
         {"Full Player List", "There are " + std::to_string(PlayerFile::kMostPlayers) +
                                  " players in the Player List.\r\nNo more can be added."});
@@ -178,7 +180,7 @@ void Lobby::refuseOutdated(const ListedPlayer& player) {
 }
 
 void Lobby::optScreenSize_Click(int index) {
-    // Stored when a battle starts.
+    // Quirk "size stored late": when a battle starts, while rounds and fading are stored here.
     if (!m_gate.run([&] { m_shared.ScreenSize = index; })) m_ports.view.showOptions();
 }
 
@@ -220,6 +222,7 @@ void Lobby::quit() {
     const MessageBox question{"Confirm", "Are you sure you wish to quit?", BoxIcon::Question,
                               BoxButtons::YesNo};
     if (m_ports.boxes.show(question) != BoxAnswer::Yes) return;
+    // Quirk "rare goodbye": in the first sixth of a minute. Always, it would wear off.
     if (secondsOf(m_ports.clock.now()) < 10) m_ports.sounds.PlaySound("thatsall");
     m_gate.shut();
     m_ports.view.leaveProgram();

@@ -20,7 +20,8 @@ class Pairing {
     /// A double-click on a name of the list.
     void choose(const std::string& name);
 
-    /// A double-click on a chosen name: only player 1 can be taken back.
+    /// A double-click on a chosen name. Quirk "only player 1 unselects": player 2 goes with the
+    /// box, or into battle at once.
     void labelPlayerName_DblClick() { m_name[1].clear(); }
 
     /// The box plays the computer, or nobody.

@@ -31,6 +31,7 @@ PlayerFile::PlayerFile(FileSystem& files, std::string fileName)
 /// `holds` is what a list that is too long does: "holds" or "would hold".
 int PlayerFile::countIn(std::int64_t length, const char* holds) const {
     const std::int64_t count = (length + kLength / 2) / kLength;
+    // Quirk "full list": a longer one is an error.
     if (count > kMostPlayers) {
         throw FileError{PlayerFileName + ' ' + holds + " more than " +
                         std::to_string(kMostPlayers) + " players, which is too many."};
@@ -147,6 +148,7 @@ std::string PlayerFile::ranked(std::span<const int> recordNumbers) {
     for (const int number : recordNumbers) {
         readRecord(number);
         ++place;
+        // Quirk "rank is the row": those who have none are counted, too.
         CurrentRecord.Ranking = CurrentRecord.SetsPlayed >= 1 ? place : std::int16_t{0};
         const auto record = packRecord(CurrentRecord);
         list.append(record.data(), record.size());
@@ -154,7 +156,7 @@ std::string PlayerFile::ranked(std::span<const int> recordNumbers) {
     return list;
 }
 
-/// Adds what an older temporary file has beyond this list.
+/// Quirk "leftover records": adds what an older temporary file has beyond this list.
 void PlayerFile::addLeftover(std::string& list) {
     const auto TempFileHandle = m_files.openLeftover(m_tempFileName);
     if (!TempFileHandle) return;
@@ -188,6 +190,7 @@ ListChange PlayerFile::addPlayer(std::string_view name) {
     Session session{*this, Session::Access::ReadingWillDo};
     if (NameAlreadyExists(name)) return ListChange::NameTaken;
     wantChanges();
+    // Quirk "full list": records are counted in 16 bits.
     if (PlayerCount == kMostPlayers) return ListChange::ListFull;
     CurrentRecord = {};
     setName(CurrentRecord, name);
@@ -205,6 +208,7 @@ bool PlayerFile::stillHolds(const ListedPlayer& player) {
 
 ListChange PlayerFile::renamePlayer(const ListedPlayer& player, std::string_view name) {
     Session session{*this, Session::Access::ReadingWillDo};
+    // Quirk "same name refused": the player's own name is one that is there.
     if (NameAlreadyExists(name)) return ListChange::NameTaken;
     wantChanges();
     if (!stillHolds(player)) return ListChange::Outdated;

@@ -36,6 +36,8 @@ std::vector<int> rankingOrder(PlayerFile& file) {
     std::vector<std::pair<std::string, int>> keys;
     for (int number = 1; number <= file.PlayerCount; ++number) {
         file.readRecord(number);
+        // Quirk "ranked by text": who loses much has "1000.78", which comes after the "0999.99" of
+        // those who have never played.
         keys.emplace_back(formatKey(rankingKey(file.CurrentRecord)), number);
     }
     // Equal texts stay in the order of the list: the record number decides.
@@ -49,7 +51,8 @@ std::vector<int> rankingOrder(PlayerFile& file) {
 }  // namespace
 
 void countSet(PlayerRecord& record, int setScore, bool won) {
-    // The sum of all scores so far. Beyond 32,767 it turns negative and, like none, counts as 1.
+    // The sum of all scores so far. Quirk "first average": none counts as 1.
+    // Quirk "collapsing average": beyond 32,767 it turns negative and counts as 1, too.
     const int scores = std::max<int>(1, wrapped(record.SetsPlayed * record.AverageScore));
     record.SetsPlayed = wrapped(record.SetsPlayed + 1);
     record.AverageScore = wrapped((scores + setScore) / std::max<int>(1, record.SetsPlayed));
@@ -76,6 +79,7 @@ std::string formatKey(float key) {
 void RecordSetResults(PlayerFile& file, const basSkylob& shared) {
     PlayerFile::Session session{file};
     countSetOf(file, shared);
+    // Quirk "unranked alone": there is nobody to be better than.
     if (file.PlayerCount != 1) file.rewrite(rankingOrder(file));
     session.close();
 }

@@ -7,6 +7,7 @@ int SetScore(const basSkylob& shared, int side) {
 }
 
 int setWinner(const basSkylob& shared) {
+    // Quirk "tie for side 2": somebody has to win.
     return SetScore(shared, 1) > SetScore(shared, 2) ? 1 : 2;
 }
 

@@ -14,6 +14,7 @@ std::string versionLabel(std::string_view version) {
     std::string label = "Version w";
     while (true) {
         const std::string_view part = version.substr(0, version.find('.'));
+        // Quirk "hidden zeros": a part that is 0 has no digits left.
         label += part.substr(std::min(part.find_first_not_of('0'), part.size()));
         if (part.size() == version.size()) return label;
         label += '.';
@@ -39,6 +40,7 @@ std::string welcomeMessage(std::string_view overview) {
 
 void greet(const Clock& clock, SoundPlayer& sounds) {
     const int second = secondsOf(clock.now());
+    // Quirk "greeting after a fade": only in the first twenty seconds of a minute.
     if (second < 10) {
         sounds.PlaySound("whatsup");
     } else if (second < 20) {

@@ -33,6 +33,7 @@ void enable(GlintButton& button, bool enabled) {
 
 frmPlayGame::frmPlayGame(const QtScreenPorts& screen, const BattlePorts& ports)
     : QtScreen{{.name = QStringLiteral("frmPlayGame"),
+                // Quirk "blank at the ends": captions have one at the front.
                 .caption = QStringLiteral(" Skylob - Battlefield"),
                 .size = layoutForScreenSize(screen.shared.ScreenSize).screen},
                screen},
@@ -48,7 +49,7 @@ frmPlayGame::frmPlayGame(const QtScreenPorts& screen, const BattlePorts& ports)
     connectControls();
     addShortcuts();
     setTabOrder();
-    showPanel(m_battle.panel());
+    frmPlayGame::showPanel(m_battle.panel());
 }
 
 void frmPlayGame::makeSidePanels() {
@@ -86,6 +87,7 @@ void frmPlayGame::makeButtons() {
     if (!m_layout.shootHasCaption) {
         cmdShoot->design().setCaption({});
         cmdShoot->design().setPictureNormal("shell " + std::to_string(m_layout.shootPicture));
+        // Quirk "blank at the ends": one on either side.
         cmdShoot->setToolTip(tr(" Shoot your Artillery Piece "));
     }
     cmdQuit = buttons.make(QStringLiteral("cmdQuit"), m_layout.cmdQuit);

@@ -59,8 +59,8 @@ class frmPlayGame : public QtScreen, private BattleView {
     void makeSidePanels();
     void makeButtons();
     void makeOptions();
-    QCheckBox* makeBox(const char* name, const QString& caption, const QRect& place,
-                       QWidget* strip);
+    static QCheckBox* makeBox(const char* name, const QString& caption, const QRect& place,
+                              QWidget* strip);
     void connectControls();
     void addShortcuts();
     void setTabOrder();

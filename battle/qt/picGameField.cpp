@@ -71,6 +71,7 @@ bool picGameField::event(QEvent* event) {
     if (event->type() != QEvent::ToolTip) return QWidget::event(event);
     const auto* help = static_cast<QHelpEvent*>(event);
     if (const int side = pieceAt(help->pos()); side != 0) {
+        // Quirk "blank at the ends": tool tips have one on either side.
         QToolTip::showText(help->globalPos(), tr(" Click here to shoot "), this,
                            logical(m_picture.pieceArea(side)).toAlignedRect());
     } else {

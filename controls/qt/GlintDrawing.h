@@ -10,7 +10,7 @@ namespace skylob {
 /// What one drawing of a button goes by, counted in device pixels from the button's first.
 struct GlintDrawing {
     /// The canvas must outlive the drawing.
-    explicit GlintDrawing(const GlintCanvas& canvas);
+    explicit GlintDrawing(const GlintCanvas& of);
 
     const GlintCanvas& canvas;
     const GlintState& button;

@@ -3,6 +3,7 @@
 #include <QJsonObject>
 #include <QSet>
 #include <QString>
+#include <utility>
 
 #include "controls/PropertyBag.h"
 
@@ -28,7 +29,8 @@ class QtPropertyBagFile {
 
       private:
         friend class QtPropertyBagFile;
-        Bag(QtPropertyBagFile& file, const QString& control) : m_file{file}, m_control{control} {}
+        Bag(QtPropertyBagFile& file, QString control)
+            : m_file{file}, m_control{std::move(control)} {}
         QJsonValue find(std::string_view key) const;
         void write(std::string_view key, const QJsonValue& value);
         void report(std::string_view key, const char* wanted) const;

@@ -22,7 +22,7 @@ namespace {
 QFont printerFont() {
     QFont font;
     font.setPointSize(11);
-    // Set twice, always in this order: the second one prints.
+    // Quirk "font set twice": always in this order, and the second one prints.
     font.setFamily(QStringLiteral("Courier"));
     font.setFamily(QStringLiteral("Arial"));
     return font;

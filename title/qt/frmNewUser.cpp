@@ -64,7 +64,7 @@ void frmNewUser::cmdContinue_Click() {
     leave();
 }
 
-/// Closed by its frame or with Esc, it saves nothing.
+/// Quirk "only an answer counts": closed by its frame or with Esc, it saves nothing.
 void frmNewUser::askedToClose() {
     leave();
 }

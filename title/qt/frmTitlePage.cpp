@@ -30,7 +30,7 @@ void addLabel(const char* name, const QString& text, const char* role, const QRe
 
 }  // namespace
 
-// The page has no caption; without the blank the toolkit would put in one.
+// Quirk "page without a caption": without the blank the toolkit would put in one.
 frmTitlePage::frmTitlePage(const QtScreenPorts& ports, const Clock& clock, SoundPlayer& sounds,
                            LinkOpener& links, MessageBoxes& boxes)
     : QtScreen{{.name = QStringLiteral("frmTitlePage"),
@@ -68,7 +68,7 @@ void frmTitlePage::cmdContinue_Click() {
     if (title::wantsWelcome(m_settings)) emit newUserCame();
     leave(
         [this] {
-            // The greeting is the end of the fade; without one nothing is said.
+            // Quirk "greeting after a fade": without one nothing is said.
             if (m_shared.FadeActive) title::greet(m_clock, m_sounds);
             emit continued();
         },
