@@ -33,8 +33,7 @@ TEST(MeteorPath, FallsByItsSlopeUntilItHitsOrLeaves) {
         {550, {from(1), .9999}, .9, 0, {2, 980}, false, 4},
         {550, {.9999, 0}, 0, 0, {998, 118}, false, 4},
         {550, {from(13), 0}, .9, 0, {14, 900}, false, 4},
-        {550, {from(14), 0}, .9, 971, {986, 900}, false, 975},
-    };
+        {550, {from(14), 0}, .9, 971, {986, 900}, false, 975}};
     for (const auto& [peak, script, rest, points, end, hits, draws] : rows) {
         field.PeakX = peak;
         ScriptedRandom random{script, rest};

@@ -84,7 +84,7 @@ TEST(FlyShell, ShowsAYellowShellAtEveryStepAndLeavesATrailOnDemand) {
             const FieldPoint landed = flyShell({side, 300, 75, side == 1 ? 100 : 900, 100, 0},
                                                kFlat, trail, stage.animation, 77);
             EXPECT_EQ(landed, (FieldPoint{side == 1 ? 711 : 289, 89}));
-            EXPECT_EQ(stage.pacer.counts, std::vector<std::int32_t>(147, 77));
+            ASSERT_EQ(stage.pacer.counts, std::vector<std::int32_t>(147, 77));
             const Colour left = trail == Trail::None ? kCyan : side == 1 ? kRed : kMagenta;
             EXPECT_EQ(std::vector(atTenth.begin() + 8, atTenth.begin() + 11),
                       (std::vector{kCyan, kYellow, left}));
@@ -117,8 +117,7 @@ TEST(Explosion, GrowsInYellowAndWhiteAndLeavesABlackDot) {
         const int reach = holds == 42 ? 11 : 3;  // of a dot 23 or 7 wide
         EXPECT_EQ(stage.picture.pixel(500 + reach, y), kBlack);
         EXPECT_EQ(stage.picture.pixel(500 + reach + 1, y), kCyan);
-        // No spark is left.
-        EXPECT_EQ(std::ranges::count(pixelsOf(stage.picture), 0xFFFFFFFFu), 0);
+        EXPECT_EQ(std::ranges::count(pixelsOf(stage.picture), 0xFFFFFFFFu), 0);  // no spark
         EXPECT_EQ(landingSound(landing), sound);
     }
     EXPECT_EQ(landingSound(OutOfBounds), "outofbounds");
