@@ -4,117 +4,107 @@
 
 namespace skylob::test {
 
-TEST(ScrollBars, KeepToTheirRangesAndClickOnEveryChange) {
-    StartedRig rig;
-    rig.aims().setSpeed(1, 1000);
-    rig.aims().setSpeed(2, 99);
-    rig.aims().setAngle(1, 9);
-    rig.aims().setAngle(2, 91);
-    const auto& side = rig.panel().side;
-    EXPECT_EQ(side[1].labelSpeed + side[1].labelAngle, "Speed: 999Angle:   10");
-    EXPECT_EQ(side[2].labelSpeed + side[2].labelAngle, "Speed: 100Angle:   90");
-    EXPECT_TRUE(rig.log.empty());  // the sound is off
-    rig.options().chkSound_Click(true);
-    rig.options().setGameSpeed(100);  // is 99 already
-    rig.options().setGameSpeed(0);
-    EXPECT_EQ(rig.panel().labelGameSpeed, "Game Speed: 1");
-    for (int time = 1; time <= 2; ++time) rig.aims().setSpeed(1, 301);
-    rig.aims().setAngle(2, 74);
-    EXPECT_EQ(rig.log, (Log{"sound click", "sound click", "sound click"}));
+struct BattleControls : testing::Test, StartedRig {};
+
+TEST_F(BattleControls, BarsKeepToTheirRangesAndClickOnEveryChange) {
+    aim(1, {1000, 9});
+    aim(2, {99, 91});
+    EXPECT_EQ(labels(1), "Speed: 999, Angle:   10, Men Left: 100");
+    EXPECT_EQ(labels(2), "Speed: 100, Angle:   90, Men Left: 100");
+    EXPECT_EQ(log, Log{});  // the sound is off
+    options().chkSound_Click(true);
+    options().setGameSpeed(100);  // is 99 already
+    options().setGameSpeed(0);
+    EXPECT_EQ(panel().labelGameSpeed, "Game Speed: 1");
+    for (int time = 1; time <= 2; ++time) aims().setSpeed(1, 301);
+    aims().setAngle(2, 74);
+    EXPECT_EQ(log, (Log{"sound click", "sound click", "sound click"}));
 }
 
-TEST(Boxes, GoBackWhenTheyAreClickedAtTheWrongTime) {
-    StartedRig rig;
-    const BattlePanel before = rig.panel();
-    rig.view.onShowField = [&] {
-        const BattlePanel during = rig.panel();
-        const int shown = rig.view.panelsShown;
-        rig.options().chkSound_Click(true);
-        rig.options().chkMeteors_Click(false);
-        EXPECT_EQ(rig.view.panelsShown, shown + 2);  // the same again, for the boxes to follow
-        EXPECT_TRUE(rig.panel() == during);
+TEST_F(BattleControls, BoxesGoBackWhenTheyAreClickedAtTheWrongTime) {
+    const BattlePanel before = panel();
+    view.onShowField = [&] {
+        const BattlePanel during = panel();
+        const int shown = view.panelsShown;
+        options().chkSound_Click(true);
+        options().chkMeteors_Click(false);
+        EXPECT_EQ(view.panelsShown, shown + 2);  // the same again, for the boxes to follow
+        EXPECT_TRUE(panel() == during);
     };
-    rig.battle.cmdShoot_Click();
-    rig.view.onShowField = {};
-    EXPECT_TRUE(!rig.state().SoundOn && rig.state().chkMeteors);
-    const int shown = rig.view.panelsShown;
-    rig.aims().setSpeed(1, 300);  // where it is
-    EXPECT_EQ(rig.view.panelsShown, shown);
-    EXPECT_FALSE(rig.panel() == before);  // it is the other side's turn
+    battle.cmdShoot_Click();
+    view.onShowField = {};
+    EXPECT_EQ(ticked(), "TML");
+    const int shown = view.panelsShown;
+    aims().setSpeed(1, 300);  // where it is
+    EXPECT_EQ(view.panelsShown, shown);
+    EXPECT_FALSE(panel() == before);  // it is the other side's turn
 }
 
-TEST(EveryHandler, MarksTheTimeAsTheLastActivityAndShowsItsEffect) {
-    StartedRig rig;
+TEST_F(BattleControls, MarkTheTimeAsTheLastActivityAndShowTheirEffect) {
     const std::function<void()> handlers[] = {
-        [&] { rig.aims().setSpeed(1, 500); },
-        [&] { rig.aims().setAngle(1, 50); },
-        [&] { rig.options().setGameSpeed(42); },
-        [&] { rig.options().chkSound_Click(true); },
-        [&] { rig.options().chkTrajectory_Click(false); },
-        [&] { rig.options().chkMeteors_Click(false); },
-        [&] { rig.options().chkLightning_Click(false); },
-        [&] { rig.options().chkWind_Click(true); },
-        [&] { rig.battle.cmdShoot_Click(); },  // the next human turn begins
+        [&] { aims().setSpeed(1, 500); },
+        [&] { aims().setAngle(1, 50); },
+        [&] { options().setGameSpeed(42); },
+        [&] { options().chkSound_Click(true); },
+        [&] { options().chkTrajectory_Click(false); },
+        [&] { options().chkMeteors_Click(false); },
+        [&] { options().chkLightning_Click(false); },
+        [&] { options().chkWind_Click(true); },
+        [&] { battle.cmdShoot_Click(); },  // the next human turn begins
     };
-    rig.random.script({0});  // the strongest wind
+    random.script({0});  // the strongest wind
     for (const auto& handler : handlers) {
-        rig.clock.time += std::chrono::seconds{1};
-        rig.view.panelsShown = 0;
+        clock.time += std::chrono::seconds{1};
+        view.panelsShown = 0;
         handler();
-        EXPECT_GT(rig.view.panelsShown, 0) << &handler - handlers;
-        EXPECT_EQ(rig.state().TurnStartTime, rig.clock.time) << &handler - handlers;
+        EXPECT_GT(view.panelsShown, 0) << &handler - handlers;
+        EXPECT_EQ(state().TurnStartTime, clock.time) << &handler - handlers;
     }
 }
 
-TEST(Wind, IsDrawnUntilItIsStrongEnough) {
-    struct Row {
-        std::deque<double> r;
-        int wind;
-        std::string caption;
-    };
+TEST_F(BattleControls, WindIsDrawnUntilItIsStrongEnough) {
     // 79 values from -39: r = (wind + 39 + 0.5) / 79.
     const auto draw = [](int wind) { return (wind + 39.5) / 79; };
-    for (const Row& row : {Row{{draw(-23)}, -23, "Wind  <--23"}, Row{{draw(17)}, 17, "Wind  17-->"},
-                           Row{{draw(0), draw(5), draw(-5), draw(6)}, 6, "Wind  6-->"},
-                           Row{{draw(-6)}, -6, "Wind  <--6"}, Row{{0.0}, -39, "Wind  <--39"},
-                           Row{{0.9999}, 39, "Wind  39-->"}}) {
-        StartedRig rig;
-        const int before = rig.random.draws();
-        rig.random.script(row.r);
-        rig.options().chkWind_Click(true);
-        EXPECT_EQ(rig.state().Wind, row.wind);
-        EXPECT_EQ(rig.panel().chkWindCaption, row.caption);
-        EXPECT_EQ(rig.random.draws() - before, static_cast<int>(row.r.size()));
-        rig.options().chkWind_Click(false);
-        EXPECT_EQ(rig.state().Wind, 0);
-        EXPECT_EQ(rig.panel().chkWindCaption, "Wind");
+    const std::tuple<std::deque<double>, int, std::string> rows[] = {
+        {{draw(-23)}, -23, "Wind  <--23"},
+        {{draw(17)}, 17, "Wind  17-->"},
+        {{draw(0), draw(5), draw(-5), draw(6)}, 6, "Wind  6-->"},
+        {{draw(-6)}, -6, "Wind  <--6"},
+        {{0.0}, -39, "Wind  <--39"},
+        {{0.9999}, 39, "Wind  39-->"}};
+    for (const auto& [r, wind, caption] : rows) {
+        const int before = random.draws();
+        random.script(r);
+        options().chkWind_Click(true);
+        EXPECT_EQ(std::pair(state().Wind, panel().chkWindCaption), std::pair(wind, caption));
+        EXPECT_EQ(random.draws() - before, static_cast<int>(r.size()));
+        options().chkWind_Click(false);
+        EXPECT_EQ(std::pair(state().Wind, panel().chkWindCaption),
+                  std::pair(0, std::string{"Wind"}));
     }
 }
 
-TEST(Timers, FollowTheirBoxesInTheirOwnWay) {
-    StartedRig rig;
-    EXPECT_TRUE(rig.bothTimersRun());
-    rig.options().chkMeteors_Click(false);  // their timer goes on: the lightning box is ticked
-    rig.view.onShowField = [&] {
-        EXPECT_TRUE(rig.panel().timerMeteors);  // a shot stops only timers with ticked boxes
-        EXPECT_FALSE(rig.panel().timerLightning);
-    };
-    rig.battle.cmdShoot_Click();
-    rig.view.onShowField = {};
-    EXPECT_TRUE(rig.bothTimersRun());
-    rig.options().chkLightning_Click(false);
-    EXPECT_FALSE(rig.panel().timerLightning);
-    rig.options().chkMeteors_Click(true);
-    EXPECT_FALSE(rig.panel().timerMeteors);
-    rig.battle.cmdShoot_Click();  // the next turn starts timers in the same way
-    EXPECT_TRUE(rig.panel().timerMeteors && !rig.panel().timerLightning);
-    rig.options().chkLightning_Click(true);
-    EXPECT_TRUE(rig.bothTimersRun());
-    rig.options().chkLightning_Click(false);
-    rig.options().chkMeteors_Click(false);
-    rig.battle.cmdShoot_Click();
-    EXPECT_FALSE(rig.panel().timerMeteors || rig.panel().timerLightning);
-    EXPECT_EQ(std::count(rig.log.begin(), rig.log.end(), "yield"), 6);
+TEST_F(BattleControls, TimersFollowTheirBoxesInTheirOwnWay) {
+    EXPECT_EQ(timers(), "ML");
+    options().chkMeteors_Click(false);  // their timer goes on: the lightning box is ticked
+    // A shot stops only timers with ticked boxes.
+    view.onShowField = [&] { EXPECT_EQ(timers(), "M"); };
+    battle.cmdShoot_Click();
+    view.onShowField = {};
+    EXPECT_EQ(timers(), "ML");
+    options().chkLightning_Click(false);
+    EXPECT_FALSE(panel().timerLightning);
+    options().chkMeteors_Click(true);
+    EXPECT_EQ(timers(), "");
+    battle.cmdShoot_Click();  // the next turn starts timers in the same way
+    EXPECT_EQ(timers(), "M");
+    options().chkLightning_Click(true);
+    EXPECT_EQ(timers(), "ML");
+    options().chkLightning_Click(false);
+    options().chkMeteors_Click(false);
+    battle.cmdShoot_Click();
+    EXPECT_EQ(timers(), "");
+    EXPECT_EQ(std::ranges::count(log, "yield"), 6);
 }
 
 TEST(Quit, AsksOnlyBetweenTheFirstRoundAndTheLast) {
@@ -124,26 +114,23 @@ TEST(Quit, AsksOnlyBetweenTheFirstRoundAndTheLast) {
         if (round == 2) rig.boxes.answers = {BoxAnswer::Yes};
         rig.battle.cmdQuit_Click();
         EXPECT_EQ(rig.boxes.shown.size(), round == 2 ? 1u : 0u);
-        EXPECT_TRUE(rig.view.isClosed() && rig.view.inputHeld && !rig.shared.SetOver);
+        EXPECT_EQ((std::array{rig.view.isClosed(), rig.view.inputHeld, rig.shared.SetOver}),
+                  (std::array{true, true, false}));
     }
 }
 
-TEST(Quit, StaysOnNo) {
-    StartedRig rig;
-    rig.shoot({100, 90});
-    rig.boxes.answers = {BoxAnswer::No};
-    rig.options().chkSound_Click(true);
-    rig.clock.time += std::chrono::seconds{99};
-    rig.boxes.onShow = [&] {
-        EXPECT_FALSE(rig.panel().timerMeteors);
-        EXPECT_FALSE(rig.panel().timerLightning);
-    };
-    rig.battle.cmdQuit_Click();
-    EXPECT_EQ(rig.boxes.shown, Log{"Skylob: Are you sure you want to quit this set? (?) Yes/no"});
-    EXPECT_EQ(rig.state().TurnStartTime, rig.clock.time);
-    EXPECT_FALSE(rig.view.isClosed());
-    EXPECT_EQ(rig.settings.get("SoundSetting", ""), "0");
-    EXPECT_TRUE(rig.bothTimersRun() && rig.panel().commandsEnabled);
+TEST_F(BattleControls, QuitStaysOnNo) {
+    shoot({100, 90});
+    boxes.answers = {BoxAnswer::No};
+    options().chkSound_Click(true);
+    clock.time += std::chrono::seconds{99};
+    boxes.onShow = [&] { EXPECT_EQ(timers(), ""); };
+    battle.cmdQuit_Click();
+    EXPECT_EQ(boxes.shown, Log{"Skylob: Are you sure you want to quit this set? (?) Yes/no"});
+    EXPECT_EQ(state().TurnStartTime, clock.time);
+    EXPECT_EQ((std::array{view.isClosed(), panel().commandsEnabled}), (std::array{false, true}));
+    EXPECT_EQ(settings.get("SoundSetting", ""), "0");
+    EXPECT_EQ(timers(), "ML");
 }
 
 TEST(Quit, SavesTheOptionsAndAsksAboutAChangedSpeed) {
@@ -160,23 +147,21 @@ TEST(Quit, SavesTheOptionsAndAsksAboutAChangedSpeed) {
         EXPECT_EQ(rig.boxes.shown,
                   (Log{"Game Speed Setting: I notice you've changed the game speed setting.\r\n\r\n"
                        "Would you like to keep this speed setting from now on? (?) Yes/no"}));
-        EXPECT_EQ(rig.settings.get("GameSpeed", ""), keep == BoxAnswer::Yes ? "42" : "99");
-        std::string saved;
+        std::string saved = rig.settings.get("GameSpeed", "");
         for (const char* option : {"Sound", "Trajectory", "Meteors", "Lightning", "Wind"})
-            saved += rig.settings.get(std::string{option} + "Setting", "none");
-        EXPECT_EQ(saved, "10011");
+            saved += " " + rig.settings.get(std::string{option} + "Setting", "none");
+        EXPECT_EQ(saved, keep == BoxAnswer::Yes ? "42 1 0 0 1 1" : "99 1 0 0 1 1");
     }
 }
 
-TEST(Quit, LetsNoSecondCommandInAtItsYield) {
-    StartedRig rig;
-    rig.pacer.onYield = [&] {
-        rig.battle.cmdQuit_Click();
-        rig.battle.cmdShoot_Click();
+TEST_F(BattleControls, QuitLetsNoSecondCommandInAtItsYield) {
+    pacer.onYield = [&] {
+        battle.cmdQuit_Click();
+        battle.cmdShoot_Click();
     };
-    rig.battle.cmdQuit_Click();
-    EXPECT_EQ(rig.log, (Log{"yield", "close"}));
-    EXPECT_TRUE(rig.battle.shots().empty());
+    battle.cmdQuit_Click();
+    EXPECT_EQ(log, (Log{"yield", "close"}));
+    EXPECT_EQ(battle.shots().size(), 0u);
 }
 
 TEST(Options, AreRestoredWithTheirDefaults) {
@@ -187,10 +172,9 @@ TEST(Options, AreRestoredWithTheirDefaults) {
     BattleRig rig;
     rig.settings = {};
     rig.start();
-    EXPECT_EQ(rig.panel().labelGameSpeed, "Game Speed: 50");
-    EXPECT_TRUE(rig.state().SoundOn && rig.state().ShowTrajectory);
-    EXPECT_TRUE(rig.panel().chkMeteors && rig.panel().chkLightning && !rig.panel().chkWind);
-    EXPECT_EQ(rig.state().Wind, 0);
+    EXPECT_EQ(rig.panel().labelGameSpeed + ", " + rig.ticked(), "Game Speed: 50, STML");
+    EXPECT_EQ((std::array{rig.state().SoundOn, rig.state().ShowTrajectory, rig.state().Wind != 0}),
+              (std::array{true, true, false}));
     rig.battle.cmdQuit_Click();  // 50 instead of nothing is no change of speed
     EXPECT_EQ(rig.settings.get("GameSpeed", "none"), "none");
 }

@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <sstream>
-
 #include "tests/support/SkyRig.h"
 
 namespace skylob::test {
@@ -12,96 +10,74 @@ constexpr Aim kMiss{100, 75}, kSelfHit{100, 90}, kOutOfBounds{999, 45};
 constexpr Aim kDirectHitBy[] = {{381, 80}, {390, 80}};  // sides 1 and 2
 constexpr Aim kNearMissBy[] = {{379, 80}, {392, 80}};   // 10 and 9 columns beside the piece
 
-TEST(FirstShooter, IsDrawnBetweenTwoPeople) {
-    for (const auto& [r, side] : {std::pair{0.1, 1}, std::pair{0.9, 2}}) {
-        BattleRig rig;
-        rig.random.script({r});
-        rig.start();
-        EXPECT_EQ(rig.state().Shooter, side);
-    }
-}
+struct BattleTurns : testing::Test, StartedRig {};
+struct BattleShots : testing::Test, SkyRig {};
 
-TEST(StartRound, SetsUpBothSides) {
-    StartedRig rig;
-    EXPECT_EQ(rig.state().penWidth, 2);  // of the ground's lines
+TEST_F(BattleTurns, StartWithBothSidesSetUp) {
+    EXPECT_EQ(state().penWidth, 2);  // of the ground's lines
     for (const int side : {1, 2}) {
-        EXPECT_EQ(rig.panel().side[side].labelSpeed, "Speed: 300");
-        EXPECT_EQ(rig.panel().side[side].labelAngle, "Angle:   75");
-        EXPECT_EQ(rig.panel().side[side].labelMenLeft, "Men Left: 100");
-        EXPECT_EQ(rig.panel().side[side].enabled, side == 1);
+        EXPECT_EQ(labels(side), "Speed: 300, Angle:   75, Men Left: 100");
+        EXPECT_EQ(panel().side[side].enabled, side == 1);
     }
-    EXPECT_EQ(rig.panel().labelRoundNumber, "Round 1 of 5");
-    EXPECT_TRUE(rig.panel().commandsEnabled && !rig.view.inputHeld);
-    BattleRig narrow;
-    narrow.view.width = 800;
-    narrow.view.onShowField = [&] { EXPECT_TRUE(narrow.view.inputHeld); };
-    narrow.shared.RoundsWon = narrow.shared.TotalKills = narrow.shared.RoundShots = {3, 9};
-    narrow.start();
-    EXPECT_EQ(narrow.state().penWidth, 1);
-    const PerSide<int> none{0, 0};  // of the set before
-    EXPECT_EQ(narrow.shared.RoundsWon, none);
-    EXPECT_EQ(narrow.shared.TotalKills, none);
-    EXPECT_EQ(narrow.shared.RoundShots, none);
-    rig.start();  // as when a box closes over the battle; it would draw side 2
-    EXPECT_EQ(rig.state().Shooter, 1);
+    EXPECT_EQ(panel().labelRoundNumber, "Round 1 of 5");
+    EXPECT_EQ((std::array{panel().commandsEnabled, view.inputHeld}), (std::array{true, false}));
+    start();  // as when a box closes over the battle; it would draw side 2
+    EXPECT_EQ(state().Shooter, 1);
+    for (const auto& [r, side] : {std::pair{0.1, 1}, std::pair{0.9, 2}}) {
+        BattleRig narrow;
+        narrow.view.width = 800;
+        narrow.view.onShowField = [&narrow] { EXPECT_TRUE(narrow.view.inputHeld); };
+        // What the set before has left.
+        narrow.shared.RoundsWon = narrow.shared.TotalKills = narrow.shared.RoundShots = {3, 9};
+        narrow.random.script({r});
+        narrow.start();
+        EXPECT_EQ(narrow.state().penWidth, 1);
+        EXPECT_EQ(narrow.tally(), "1:" + std::to_string(side) + " 100-100 0-0 0-0 0-0 0-0");
+    }
 }
 
-TEST(Miss, CostsTheShooterDesertersAndPassesTheTurn) {
-    StartedRig rig;
-    rig.random.script({0.999});
-    rig.shoot(kMiss);
-    EXPECT_EQ(rig.state().MenLeft, (PerSide<int>{85, 100}));
-    EXPECT_EQ(rig.state().Shooter, 2);
-    EXPECT_TRUE(rig.panel().side[2].enabled && !rig.panel().side[1].enabled);
-    EXPECT_EQ(rig.panel().side[1].labelMenLeft, "Men Left: 85");
-    EXPECT_EQ(rig.panel().side[1].menLeft, 85);
-    rig.random.script({0});
-    rig.shoot(kOutOfBounds);
-    EXPECT_EQ(rig.state().MenLeft, (PerSide<int>{85, 99}));
-    EXPECT_EQ(rig.shared.RoundShots, (PerSide<int>{1, 1}));
-    EXPECT_EQ(rig.shared.RoundKills, (PerSide<int>{0, 0}));
+TEST_F(BattleTurns, AreCountedForBothSides) {
+    struct Step {
+        double r;
+        Aim aim;
+        std::string tally;  // round:shooter, men, shots, kills, all kills, wins
+    };
+    const Step steps[] = {
+        {.999, kMiss, "1:2 85-100 1-0 0-0 0-0 0-0"},  // of 100 men 0 to 15 desert
+        {0, kOutOfBounds, "1:1 85-99 1-1 0-0 0-0 0-0"},
+        // The loser, with all its men credited, opens the next round, which starts afresh.
+        {.5, kDirectHitBy[0], "2:2 100-100 0-0 0-0 99-0 1-0"},
+        {.5, kDirectHitBy[1], "3:1 100-100 0-0 0-0 99-100 1-1"},
+        {.5, kSelfHit, "4:1 100-100 0-0 0-0 99-200 1-2"},
+        {.5, kNearMissBy[0], "4:2 92-91 1-0 9-0 108-200 1-2"},  // 101 / 11 = 9.18
+        {.5, kMiss, "4:1 92-83 1-1 9-0 108-200 1-2"}};
+    for (const Step& step : steps) {
+        random.script({step.r});
+        shoot(step.aim);
+        EXPECT_EQ(tally(), step.tally);
+        for (const int side : {1, 2}) {
+            const SidePanel& shown = panel().side[side];
+            EXPECT_EQ(shown.enabled, side == state().Shooter);
+            EXPECT_EQ(shown.menLeft, state().MenLeft[side]);
+            EXPECT_EQ(shown.labelMenLeft, "Men Left: " + std::to_string(shown.menLeft));
+        }
+    }
 }
 
-TEST(DirectHit, CreditsTheEnemysMenAndLeavesThem) {
-    StartedRig rig;
-    rig.shoot(kMiss);  // 8 desert
-    rig.shoot(kMiss);
-    rig.shoot(kDirectHitBy[0]);
-    EXPECT_EQ(rig.shared.TotalKills, (PerSide<int>{92, 0}));
-    EXPECT_EQ(rig.shared.RoundsWon, (PerSide<int>{1, 0}));
-    // The loser opens the next round, for which everything of the round starts afresh.
-    EXPECT_EQ(rig.state().Shooter, 2);
-    EXPECT_EQ(rig.state().RoundNumber, 2);
-    EXPECT_EQ(rig.state().MenLeft, (PerSide<int>{100, 100}));
-    EXPECT_EQ(rig.shared.RoundKills, (PerSide<int>{0, 0}));
-    EXPECT_EQ(rig.shared.RoundShots, (PerSide<int>{0, 0}));
-    rig.shoot(kDirectHitBy[1]);
-    EXPECT_EQ(rig.shared.TotalKills, (PerSide<int>{92, 100}));
-    EXPECT_EQ(rig.state().Shooter, 1);
-    rig.shoot(kSelfHit);  // credits the opponent
-    EXPECT_EQ(rig.shared.TotalKills, (PerSide<int>{92, 200}));
-    EXPECT_EQ(rig.shared.RoundsWon, (PerSide<int>{1, 2}));
-    EXPECT_EQ(rig.state().Shooter, 1);
-}
-
-TEST(NearMiss, KillsSomeOfTheTargetAndExplodesOnIt) {
-    SkyRig rig;
-    const Colour ground = rig.picture().pixel(853, 26);
-    rig.shoot(kNearMissBy[0]);
-    EXPECT_EQ(rig.battle.shots()[0].landedAt, (FieldPoint{853, 28}));
-    EXPECT_EQ(rig.picture().pixel(853, 26), ground);
-    EXPECT_EQ(rig.picture().pixel(863, 26), kBlack);         // the dot that a blast leaves
-    EXPECT_EQ(rig.state().MenLeft, (PerSide<int>{92, 91}));  // 101 / 11 = 9.18
-    rig.shoot(kMiss);
-    EXPECT_EQ(rig.shared.RoundKills, (PerSide<int>{9, 0}));
-    EXPECT_EQ(rig.state().MenLeft, (PerSide<int>{92, 83}));
+TEST_F(BattleShots, ExplodeOnATargetThatTheyNearlyMiss) {
+    const Colour ground = picture().pixel(853, 26);
+    shoot(kNearMissBy[0]);
+    EXPECT_EQ(battle.shots()[0].landedAt, (FieldPoint{853, 28}));
+    EXPECT_EQ(picture().pixel(853, 26), ground);
+    EXPECT_EQ(picture().pixel(863, 26), kBlack);  // the dot that a blast leaves
 }
 
 TEST(SideWithoutMen, LosesAtTheStartOfItsTurnOrByANearMiss) {
     for (const bool beside : {false, true}) {
         StartedRig rig;
         for (int shot = 1; shot <= 25; ++shot) rig.shoot(kMiss);
-        EXPECT_EQ(rig.state().MenLeft, (PerSide<int>{0, 4}));  // 13 times 8, but never below 0
+        // 13 times 8, but never below 0.
+        EXPECT_EQ(rig.tally(), "1:2 0-4 13-12 0-0 0-0 0-0");
         rig.boxes.answers = {BoxAnswer::Ok};
         rig.boxes.onShow = [&] { EXPECT_EQ(rig.panel().side[2].labelMenLeft, "Men Left: 0"); };
         rig.shoot(beside ? kNearMissBy[1] : kMiss);
@@ -109,64 +85,60 @@ TEST(SideWithoutMen, LosesAtTheStartOfItsTurnOrByANearMiss) {
             "Ann loses this round!: Ann-\r\n\r\nYou can't shoot because you have no men "
             "left! (!)"};
         EXPECT_EQ(rig.boxes.shown, beside ? Log{} : box);
-        EXPECT_EQ(rig.shared.RoundsWon, (PerSide<int>{0, 1}));
-        EXPECT_EQ(rig.shared.TotalKills, (PerSide<int>{0, 0}));  // deserters are nobody's kills
-        EXPECT_EQ(rig.state().Shooter, 1);
+        // Deserters are nobody's kills.
+        EXPECT_EQ(rig.tally(), "2:1 100-100 0-0 0-0 0-0 0-1");
     }
 }
 
-TEST(Shot, DisablesEverythingAndHoldsInput) {
-    StartedRig rig;
-    rig.options().chkSound_Click(true);
+TEST_F(BattleTurns, DisableEverythingAndHoldInputDuringAShot) {
+    options().chkSound_Click(true);
     bool seen = false;
-    rig.view.onShowField = [&] {
+    view.onShowField = [&] {
         seen = true;
-        EXPECT_FALSE(rig.panel().commandsEnabled || rig.panel().side[1].enabled);
-        EXPECT_FALSE(rig.panel().timerMeteors || rig.panel().timerLightning);
-        EXPECT_TRUE(rig.view.inputHeld);
+        EXPECT_EQ((std::array{panel().commandsEnabled, panel().side[1].enabled, view.inputHeld}),
+                  (std::array{false, false, true}));
+        EXPECT_EQ(timers(), "");
         // Clicks that come through all the same do nothing.
-        rig.battle.FieldPiece_Click();
-        rig.battle.cmdQuit_Click();
+        battle.FieldPiece_Click();
+        battle.cmdQuit_Click();
     };
-    rig.battle.cmdShoot_Click();
+    battle.cmdShoot_Click();
     EXPECT_TRUE(seen);
-    EXPECT_EQ(rig.log, (Log{"sound shot", "sound explosion", "release input"}));
-    EXPECT_EQ(rig.battle.shots().size(), 1u);
-    EXPECT_TRUE(rig.bothTimersRun());
+    EXPECT_EQ(log, (Log{"sound shot", "sound explosion", "release input"}));
+    EXPECT_EQ(battle.shots().size(), 1u);
+    EXPECT_EQ(timers(), "ML");
 }
 
-TEST(Shot, IsPacedByTheGameSpeedAndTracedOnDemand) {
-    SkyRig rig;
-    rig.options().setGameSpeed(60);
-    rig.options().chkTrajectory_Click(false);
-    rig.fire(kOutOfBounds);
-    EXPECT_EQ(rig.pacer.counts.at(1), 19'500'001);
+TEST_F(BattleShots, ArePacedByTheGameSpeedAndTracedOnDemand) {
+    options().setGameSpeed(60);
+    options().chkTrajectory_Click(false);
+    fire(kOutOfBounds);
+    EXPECT_EQ(pacer.counts.at(1), 19'500'001);
     // The muzzle is 8 above the ground.
-    EXPECT_EQ(rig.picture().pixel(163, 113), kBlack);
-    rig.options().chkTrajectory_Click(true);
-    rig.fire(kOutOfBounds);
-    EXPECT_NE(rig.picture().pixel(863, 36), kBlack);
-    rig.fire(kMiss);
-    EXPECT_EQ(rig.pacer.counts.at(1), 19'500'001);  // of the explosion
+    EXPECT_EQ(picture().pixel(163, 113), kBlack);
+    options().chkTrajectory_Click(true);
+    fire(kOutOfBounds);
+    EXPECT_NE(picture().pixel(863, 36), kBlack);
+    fire(kMiss);
+    EXPECT_EQ(pacer.counts.at(1), 19'500'001);  // of the explosion
 }
 
-TEST(Stars, HaveTheWidthThatTheRoundBeforeLeftThePenAt) {
-    SkyRig rig;
+TEST_F(BattleShots, LeaveStarsOfTheWidthThatTheRoundBeforeLeftThePenAt) {
     const auto expectWidth = [&](int width) {
-        const auto& star = rig.state().field.stars.at(400);
-        const auto shown = rig.pixels();
-        EXPECT_EQ(rig.picture().pixel(star.x + 1, star.y - 1) == star.colour, width == 2);
-        rig.shoot(kMiss);  // leaves the pen at 1
-        rig.battle.redrawField();
-        EXPECT_TRUE(rig.pixels() == shown);
+        const auto& star = state().field.stars.at(400);
+        const auto shown = pixels();
+        EXPECT_EQ(picture().pixel(star.x + 1, star.y - 1) == star.colour, width == 2);
+        shoot(kMiss);  // leaves the pen at 1
+        battle.redrawField();
+        EXPECT_TRUE(pixels() == shown);
     };
-    rig.battle.redrawField();  // with the pen still at the ground's width
+    battle.redrawField();  // with the pen still at the ground's width
     expectWidth(1);
-    rig.shoot(kSelfHit);
+    shoot(kSelfHit);
     expectWidth(1);
-    rig.shoot(kSelfHit);
-    rig.boxes.answers = {BoxAnswer::Ok};
-    while (rig.state().RoundNumber == 3) rig.shoot({999, 75});  // out of bounds, over the top
+    shoot(kSelfHit);
+    boxes.answers = {BoxAnswer::Ok};
+    while (state().RoundNumber == 3) shoot({999, 75});  // out of bounds, over the top
     expectWidth(2);
 }
 
@@ -175,8 +147,7 @@ TEST(LastRound, EndsTheSet) {
     rig.shoot(kDirectHitBy[0]);
     EXPECT_EQ(rig.log, (Log{"wait 1000", "summary Round", "hourglass", "wait 1000", "summary Set",
                             "close"}));
-    EXPECT_TRUE(rig.shared.SetOver);
-    EXPECT_EQ(rig.shared.Winner, 1);
+    EXPECT_EQ(std::pair(rig.shared.SetOver, rig.shared.Winner), std::pair(true, 1));
     EXPECT_EQ(rig.settings.get("MeteorsSetting", "none"), "none");  // only leaving saves them
 }
 
@@ -191,10 +162,10 @@ TEST(ComputersTurn, PausesFiresAndQueuesTheNextTurn) {
     EXPECT_EQ(rig.log, (Log{"sound click", "sound shot", "sound explosion", "wait 1000",
                             "sound click", "sound click", "sound click", "sound click", "yield",
                             "wait 250", "sound shot", "sound explosion", "queue"}));
-    EXPECT_TRUE(!rig.panel().commandsEnabled && rig.view.inputHeld);
+    const std::pair before{rig.panel().commandsEnabled, rig.view.inputHeld};
+    EXPECT_EQ(before, std::pair(false, true));
     rig.view.runQueue();
-    EXPECT_TRUE(rig.panel().commandsEnabled);
-    EXPECT_EQ(rig.state().Shooter, 1);
+    EXPECT_EQ(std::pair(rig.panel().commandsEnabled, rig.state().Shooter), std::pair(true, 1));
 }
 
 TEST(WholeSet, AgainstTheComputerIsPinned) {
@@ -202,8 +173,7 @@ TEST(WholeSet, AgainstTheComputerIsPinned) {
     // out by a second program that shares no code with this one.
     basSkylob players;
     players.PlayerName = {"Ann", "Computer"};
-    players.NumRounds = 5;
-    players.SkillLevel = 5;
+    players.NumRounds = players.SkillLevel = 5;
     MemorySettings settings;
     settings.save("WindSetting", "1");
     HeadlessBattle set{players, 7, settings};

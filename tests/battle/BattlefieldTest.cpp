@@ -17,31 +17,25 @@ static Battlefield generated(std::uint64_t seed, int round = 1, int rounds = 10)
 }
 
 TEST(RandomInt, AppliesItsBoundsAsWritten) {
-    struct Row {
-        int low, high;
-        double r;
-        int expected;
-    };
     const double almostOne = 1 - 0x1p-53;
-    for (const Row& row : {Row{1, 13, 0, 1}, Row{1, 13, almostOne, 13}, Row{-1, 0, 0.4999, -1},
-                           Row{-1, 0, 0.5, 0}, Row{1, 0, almostOne, 1}, Row{-1, -4, 0, -1},
-                           Row{-1, -4, almostOne, -3}, Row{-4, -7, 0.5, -5}}) {
-        ScriptedRandom random{{row.r}};
-        EXPECT_EQ(RandomInt(random, row.low, row.high), row.expected)
-            << row.low << ".." << row.high << " at " << row.r;
+    const std::tuple<int, int, double, int> rows[] = {
+        {1, 13, 0, 1},        {1, 13, almostOne, 13}, {-1, 0, 0.4999, -1},     {-1, 0, 0.5, 0},
+        {1, 0, almostOne, 1}, {-1, -4, 0, -1},        {-1, -4, almostOne, -3}, {-4, -7, 0.5, -5}};
+    for (const auto& [low, high, r, expected] : rows) {
+        ScriptedRandom random{{r}};
+        EXPECT_EQ(RandomInt(random, low, high), expected) << low << ".." << high << " at " << r;
     }
 }
 
 TEST(SlopeStep, HasAFixedRangeForEachKind) {
-    const double r[] = {0, 0.25, 0.5, 0.75, 0.999};
-    const int expected[7][5] = {{4, 5, 6, 7, 7},     {1, 2, 3, 4, 4},    {-1, 0, 1, 2, 3},
-                                {-1, -1, 0, 1, 1},   {-3, -2, -1, 0, 1}, {-1, -2, -2, -3, -3},
-                                {-4, -5, -5, -6, -6}};
+    const std::vector<int> expected[7] = {
+        {4, 5, 6, 7, 7},    {1, 2, 3, 4, 4},      {-1, 0, 1, 2, 3},    {-1, -1, 0, 1, 1},
+        {-3, -2, -1, 0, 1}, {-1, -2, -2, -3, -3}, {-4, -5, -5, -6, -6}};
     for (int kind = 0; kind < 7; ++kind) {
-        for (int i = 0; i < 5; ++i) {
-            ScriptedRandom random{{r[i]}};
-            EXPECT_EQ(SlopeStep(random, kind), expected[kind][i]) << "kind " << kind;
-        }
+        ScriptedRandom random{{0, 0.25, 0.5, 0.75, 0.999}};
+        std::vector<int> steps(5);
+        for (int& step : steps) step = SlopeStep(random, kind);
+        EXPECT_EQ(steps, expected[kind]) << "kind " << kind;
     }
 }
 
@@ -104,30 +98,25 @@ TEST(DrawBattlefield, ShowsSkyMoonGroundAndPieces) {
     picture.resize(1000, 1000, 1);  // a pixel is a unit
     FieldPicture::PieceImage white{24, 46, std::vector<std::uint32_t>(24 * 46, 0xFFFFFFFF)};
     for (const int side : {1, 2}) picture.setPieceImage(side, white);
+    const auto expectAt = [&](Colour colour, const std::vector<std::pair<int, int>>& places) {
+        for (const auto& [x, y] : places) EXPECT_EQ(picture.pixel(x, y), colour) << x << " " << y;
+    };
     field.starWidth = 2;
     drawBattlefield(field, picture, 2);
-    EXPECT_EQ(picture.pixel(701, 899), kRed);
+    expectAt(kRed, {{701, 899}});
     field.starWidth = 1;
     drawBattlefield(field, picture, 1);
-
-    EXPECT_EQ(picture.pixel(700, 900), kRed);
-    EXPECT_EQ(picture.pixel(700, 899), kBlack);
-    EXPECT_EQ(picture.pixel(261, 600), kCyan);
-    EXPECT_EQ(picture.pixel(294, 600), kCyan);
-    EXPECT_EQ(picture.pixel(296, 600), kBlack);  // 335 - 40 is where the shadow begins
-    EXPECT_EQ(picture.pixel(259, 600), kBlack);
+    expectAt(kRed, {{700, 900}});
+    expectAt(kCyan, {{261, 600}, {294, 600}});  // 335 - 40 is where the shadow begins
+    expectAt(kBlack, {{700, 899}, {296, 600}, {259, 600}, {87, 230}});
     for (const int x : {1, 2, 500, 501, 999, 1000}) {
-        EXPECT_EQ(picture.pixel(x, 1), field.groundColour) << x;
-        EXPECT_EQ(picture.pixel(x, 200), field.groundColour) << x;
-        EXPECT_EQ(picture.pixel(x, 201), kBlack) << x;
+        expectAt(field.groundColour, {{x, 1}, {x, 200}});
+        expectAt(kBlack, {{x, 201}});
     }
     // From 12 units left of the column, and from 30 above the ground 46 downwards.
     EXPECT_EQ(picture.pieceArea(1), (PixelRect{87, 770, 24, 46}));
-    EXPECT_EQ(picture.pixel(88, 230), kWhite);
-    EXPECT_EQ(picture.pixel(111, 185), kWhite);
-    EXPECT_EQ(picture.pixel(87, 230), kBlack);
-    EXPECT_EQ(picture.pixel(111, 184), field.groundColour);
-    EXPECT_EQ(picture.pixel(888, 230), kWhite);
+    expectAt(kWhite, {{88, 230}, {111, 185}, {888, 230}});
+    expectAt(field.groundColour, {{111, 184}});
 }
 
 }  // namespace skylob::test

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/SkyRig.h"
+
 namespace skylob::test {
 
 constexpr Colour kTan = Colour::fromBgr(0x0087D0);
@@ -14,10 +16,8 @@ static FieldPicture pictureOf(int width, int height, int dotScale = 1) {
 
 /// How many device pixels of the screen picture are not black.
 static int litPixels(const FieldPicture& picture) {
-    int lit = 0;
-    for (int i = 0; i < picture.width() * picture.height(); ++i)
-        lit += picture.screenPixels()[i] != 0xFF000000u;
-    return lit;
+    const auto isLit = [](std::uint32_t pixel) { return pixel != 0xFF000000u; };
+    return static_cast<int>(std::ranges::count_if(pixelsOf(picture), isLit));
 }
 
 TEST(FieldPicture, MapsTheFieldsCornersToItsOwn) {
@@ -33,15 +33,13 @@ TEST(FieldPicture, MapsTheFieldsCornersToItsOwn) {
 }
 
 TEST(FieldPicture, DrawsDotsOfThePensWidth) {
-    struct Row {
-        int dotScale, penWidth, pixels;
-    };
     // Pixel centres within the circle of that diameter, counted on squared paper.
-    for (const Row& row : {Row{1, 1, 1}, Row{1, 2, 4}, Row{1, 3, 9}, Row{1, 4, 12}, Row{1, 6, 32},
-                           Row{2, 1, 4}, Row{2, 2, 12}, Row{4, 1, 16}}) {
-        FieldPicture picture = pictureOf(100, 100, row.dotScale);
-        picture.setPoint(500, 500, kYellow, row.penWidth);
-        EXPECT_EQ(litPixels(picture), row.pixels) << row.dotScale << " x " << row.penWidth;
+    const int rows[][3] = {{1, 1, 1},  {1, 2, 4}, {1, 3, 9},  {1, 4, 12},
+                           {1, 6, 32}, {2, 1, 4}, {2, 2, 12}, {4, 1, 16}};
+    for (const auto& [dotScale, penWidth, pixels] : rows) {
+        FieldPicture picture = pictureOf(100, 100, dotScale);
+        picture.setPoint(500, 500, kYellow, penWidth);
+        EXPECT_EQ(litPixels(picture), pixels) << dotScale << " x " << penWidth;
     }
 }
 
@@ -84,12 +82,11 @@ TEST(FieldPicture, KeepsOnlyWhatIsDrawnPersistentlyAndLaysPiecesOverIt) {
 TEST(FieldPicture, PutsBackExactlyWhatItLifted) {
     FieldPicture picture = pictureOf(200, 200, 2);
     picture.setPassingPoint(503, 500, kCyan, 2);  // covers the dot below only in part
-    const std::vector<std::uint32_t> before(picture.screenPixels(),
-                                            picture.screenPixels() + 200 * 200);
+    const auto before = pixelsOf(picture);
     const auto lifted = picture.liftPoint(500, 500);
     picture.setPassingPoint(500, 500, kYellow);
     picture.putBack(lifted);
-    EXPECT_TRUE(std::equal(before.begin(), before.end(), picture.screenPixels()));
+    EXPECT_TRUE(pixelsOf(picture) == before);
     EXPECT_GT(litPixels(picture), 0);
 
     picture.refresh();  // and nothing at all where the whole picture is a new one

@@ -16,41 +16,31 @@ TEST(MeteorPath, FallsByItsSlopeUntilItHitsOrLeaves) {
     Battlefield field;
     field.TerrainHeight.fill(100);
     field.TerrainHeight[2] = 400;
-    struct Row {
-        int peak;
-        std::deque<double> script;  // column, height, direction, slope, steps
-        double rest;
-        std::size_t points;
-        FieldPoint end;
-        bool hits;
-        int draws;
-    };
-    for (const Row& row : {
-             // 2 a step from 900 to 114, the first height within 15 of the ground.
-             Row{550, {from(500), 0}, 0, 392, {893, 114}, true, 397},
-             Row{950, {from(500), 0, 0, 0, .9}, 0, 417, {918, 115}, true, 422},
-             Row{550, {from(500), .999}, .9, 485, {14, 999}, false, 490},
-             Row{550, {from(500), 0, .4, .9}, 0, 485, {986, 414}, false, 490},
-             // Near the sides the direction is not drawn.
-             Row{550, {from(99), 0}, .9, 886, {986, 900}, false, 890},
-             Row{550, {from(901), 0}, .9, 886, {14, 900}, false, 890},
-             Row{550, {from(100), 0}, .9, 85, {14, 900}, false, 90},
-             Row{550, {from(900), 0, 0}, .9, 85, {986, 900}, false, 90},
-             // Those from the sides, and their neighbours, are gone at once, even below ground.
-             Row{550, {0, 0}, 0, 0, {2, 118}, false, 4},
-             Row{550, {from(1), .9999}, .9, 0, {2, 980}, false, 4},
-             Row{550, {.9999, 0}, 0, 0, {998, 118}, false, 4},
-             Row{550, {from(13), 0}, .9, 0, {14, 900}, false, 4},
-             Row{550, {from(14), 0}, .9, 971, {986, 900}, false, 975},
-         }) {
-        SCOPED_TRACE(testing::Message() << row.end.x << " " << row.points);
-        field.PeakX = row.peak;
-        ScriptedRandom random{row.script, row.rest};
+    // Peak; r for column, height, direction, slope, steps, and the rest; points, end, hit, draws.
+    const std::tuple<int, std::deque<double>, double, std::size_t, FieldPoint, bool, int> rows[] = {
+        // 2 a step from 900 to 114, the first height within 15 of the ground.
+        {550, {from(500), 0}, 0, 392, {893, 114}, true, 397},
+        {950, {from(500), 0, 0, 0, .9}, 0, 417, {918, 115}, true, 422},
+        {550, {from(500), .999}, .9, 485, {14, 999}, false, 490},
+        {550, {from(500), 0, .4, .9}, 0, 485, {986, 414}, false, 490},
+        // Near the sides the direction is not drawn.
+        {550, {from(99), 0}, .9, 886, {986, 900}, false, 890},
+        {550, {from(901), 0}, .9, 886, {14, 900}, false, 890},
+        {550, {from(100), 0}, .9, 85, {14, 900}, false, 90},
+        {550, {from(900), 0, 0}, .9, 85, {986, 900}, false, 90},
+        // Those from the sides, and their neighbours, are gone at once, even below ground.
+        {550, {0, 0}, 0, 0, {2, 118}, false, 4},
+        {550, {from(1), .9999}, .9, 0, {2, 980}, false, 4},
+        {550, {.9999, 0}, 0, 0, {998, 118}, false, 4},
+        {550, {from(13), 0}, .9, 0, {14, 900}, false, 4},
+        {550, {from(14), 0}, .9, 971, {986, 900}, false, 975}};
+    for (const auto& [peak, script, rest, points, end, hits, draws] : rows) {
+        field.PeakX = peak;
+        ScriptedRandom random{script, rest};
         const MeteorPath path = meteorPath(field, random);
-        EXPECT_EQ(path.points.size(), row.points);
-        EXPECT_EQ(path.end, row.end);
-        EXPECT_EQ(path.hitsGround, row.hits);
-        EXPECT_EQ(random.draws(), row.draws);
+        EXPECT_EQ((std::tuple{path.points.size(), path.end.x, path.end.y, path.hitsGround,
+                              random.draws()}),
+                  (std::tuple{points, end.x, end.y, hits, draws}));
     }
 }
 
@@ -74,15 +64,14 @@ TEST(MeteorPath, KeepsItsBoundsTenThousandTimes) {
     EXPECT_GT(hits, 1000);
 }
 
-TEST(Meteors, ComeOnceInTwentyTicksAtThePaceOfTheGameSpeed) {
-    SkyRig rig;
-    rig.random.script({.05});
-    rig.battle.timerMeteors_Timer();
-    EXPECT_EQ(rig.yields(), 0);
-    rig.random.script({.0499});
-    rig.battle.timerMeteors_Timer();  // level at 950 from column 500 to 15, as the rig's chance is
-    EXPECT_EQ(rig.yields(), 485);
-    EXPECT_EQ(rig.pacer.counts, std::vector<std::int32_t>(485, 15'000));
+struct Falling : testing::Test, SkyRig {};
+
+TEST_F(Falling, BeginsOnceInTwentyTicksAtThePaceOfTheGameSpeed) {
+    begin(kMeteor, {.05});
+    EXPECT_EQ(yields(), 0);
+    begin(kMeteor, {.0499});  // level at 950 from column 500 to 15, as the rig's chance is
+    EXPECT_EQ(yields(), 485);
+    EXPECT_EQ(pacer.counts, std::vector<std::int32_t>(485, 15'000));
     EXPECT_EQ(meteorDelayCount(1), 1'485'000);
     EXPECT_EQ(meteorDelayCount(2'000'000'000), 0);
     EXPECT_EQ(meteorDelayCount(-2'000'000'000), 2'147'483'647);
@@ -119,45 +108,37 @@ TEST(Meteors, FlickerAndPutTheSkyBack) {
     EXPECT_EQ(rig.pacer.counts.at(50), 150'000);
 }
 
-TEST(Meteors, ExplodeWhereTheyComeDownWithoutASound) {
-    SkyRig rig;
-    rig.options().chkSound_Click(true);
-    rig.passTime();
+TEST_F(Falling, EndsInAnExplosionWithoutASound) {
+    options().chkSound_Click(true);
+    passTime();
     // From column 600 at 900 to the left, over the mountain, 2 a step: 120 in column 210, where
     // the ground is 105 high.
     std::deque<double> script(5 + 390, 0.0);
     script[1] = from(600);
     script[3] = .5;
-    rig.random.script(script);
     std::vector<Colour> impact;
-    rig.view.onShowField = [&] { impact.push_back(rig.picture().pixel(210, 120)); };
-    rig.battle.timerMeteors_Timer();
-    EXPECT_EQ(rig.pacer.counts, std::vector<std::int32_t>(10, 1));  // the explosion's
-    EXPECT_EQ(rig.yields(), 389);
+    view.onShowField = [&] { impact.push_back(picture().pixel(210, 120)); };
+    begin(kMeteor, script);
+    EXPECT_EQ(pacer.counts, std::vector<std::int32_t>(10, 1));  // the explosion's
+    EXPECT_EQ(yields(), 389);
     EXPECT_EQ(impact.at(391), kWhite);
     EXPECT_EQ(impact.back(), kBlack);
-    EXPECT_EQ(rig.state().MenLeft, (PerSide<int>{100, 100}));
-    EXPECT_EQ(rig.events(), Log{});
-    rig.passTime();
-    rig.random.script(script);
-    rig.atYield(9, [&] { rig.options().chkMeteors_Click(false); });
-    rig.battle.timerMeteors_Timer();
-    EXPECT_EQ(rig.pacer.counts.size(), 9u);  // interrupted, it does not explode
+    EXPECT_EQ(state().MenLeft, (PerSide<int>{100, 100}));
+    EXPECT_EQ(events(), Log{});
+    passTime();
+    atYield(9, [&] { options().chkMeteors_Click(false); });
+    begin(kMeteor, script);
+    EXPECT_EQ(pacer.counts.size(), 9u);  // interrupted, it does not explode
 }
 
-TEST(Meteors, HoldTheLightningTimerIfItsBoxIsTicked) {
+TEST_F(Falling, HoldsTheLightningTimerIfItsBoxIsTicked) {
     for (const bool lightning : {true, false}) {
-        SkyRig rig;
-        rig.options().chkLightning_Click(lightning);
-        rig.passTime();
-        rig.random.script({0});
-        rig.view.onShowField = [&] {
-            EXPECT_FALSE(rig.panel().timerLightning);
-            EXPECT_TRUE(rig.panel().timerMeteors);
-        };
-        rig.battle.timerMeteors_Timer();
-        EXPECT_EQ(rig.panel().timerLightning, lightning);
-        EXPECT_TRUE(rig.panel().timerMeteors);
+        options().chkLightning_Click(lightning);
+        passTime();
+        view.onShowField = [&] { EXPECT_EQ(timers(), "M"); };
+        begin(kMeteor);
+        view.onShowField = {};
+        EXPECT_EQ(timers(), lightning ? "ML" : "M");
     }
 }
 

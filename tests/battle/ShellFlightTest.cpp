@@ -2,25 +2,23 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 #include "battle/Explosion.h"
-#include "tests/support/BattleRig.h"
+#include "tests/support/SkyRig.h"
 
 namespace skylob::test {
 
-static Battlefield flatField() {
+const Battlefield kFlat = [] {
     Battlefield field;
     field.TerrainHeight.fill(100);
     return field;
-}
+}();
 
 TEST(ShellFlight, FliesTheTabledPaths) {
     // Over flat ground of height 100; worked out by a second program without shared code.
     struct Row {
         int side, pieceX, speed, angle, wind;
         FieldPoint landing;
-        int positions;
+        std::size_t positions;
         FieldPoint tenth, fiftieth;  // 0, 0 where the flight was over by then
     };
     for (const Row& row : {
@@ -35,15 +33,14 @@ TEST(ShellFlight, FliesTheTabledPaths) {
              Row{1, 700, 150, 45, 0, {996, 99}, 55, {749, 147}, {968, 124}},
          }) {
         SCOPED_TRACE(testing::Message() << row.landing.x << ", " << row.landing.y);
-        const Battlefield field = flatField();
         ShellFlight flight{{row.side, row.speed, row.angle, row.pieceX, 100, row.wind}};
         std::vector<FieldPoint> path{flight.position()};
-        while (isFlying(path.back(), field)) {
+        while (isFlying(path.back(), kFlat)) {
             flight.advance();
             path.push_back(flight.position());
         }
         EXPECT_EQ(path.back(), row.landing);
-        EXPECT_EQ(path.size(), static_cast<std::size_t>(row.positions));
+        EXPECT_EQ(path.size(), row.positions);
         EXPECT_EQ(path.at(9), row.tenth);
         EXPECT_EQ(path.size() < 50 ? FieldPoint{} : path[49], row.fiftieth);
     }
@@ -54,48 +51,25 @@ TEST(ShellFlight, FliesTheTabledPaths) {
 
 TEST(Landing, IsDecidedByTheColumnAlone) {
     using enum Landing;
-    struct Row {
-        int x, shooterX, targetX;
-        Landing expected;
-    };
-    for (const Row& row : {
-             Row{4, 300, 4, OutOfBounds},   Row{5, 300, 5, DirectHit},
-             Row{995, 991, 300, SelfHit},   Row{996, 996, 300, OutOfBounds},
-             Row{0, 300, 700, OutOfBounds}, Row{1001, 300, 700, OutOfBounds},
-             Row{304, 300, 700, SelfHit},   Row{296, 300, 700, SelfHit},
-             Row{305, 300, 700, Miss},      Row{295, 300, 700, Miss},
-             Row{705, 300, 700, DirectHit}, Row{695, 300, 700, DirectHit},
-             Row{706, 300, 700, NearMiss},  Row{713, 300, 700, NearMiss},
-             Row{687, 300, 700, NearMiss},  Row{714, 300, 700, Miss},
-             Row{686, 300, 700, Miss},      Row{504, 500, 504, SelfHit},
-             Row{505, 500, 505, DirectHit},
-         }) {
-        EXPECT_EQ(classifyLanding(row.x, row.shooterX, row.targetX), row.expected)
-            << row.x << " from " << row.shooterX << " to " << row.targetX;
-    }
+    const std::tuple<int, int, int, Landing> rows[] = {
+        {4, 300, 4, OutOfBounds},     {5, 300, 5, DirectHit},        {995, 991, 300, SelfHit},
+        {996, 996, 300, OutOfBounds}, {504, 500, 504, SelfHit},      {505, 500, 505, DirectHit},
+        {0, 300, 700, OutOfBounds},   {1001, 300, 700, OutOfBounds}, {304, 300, 700, SelfHit},
+        {296, 300, 700, SelfHit},     {305, 300, 700, Miss},         {295, 300, 700, Miss},
+        {705, 300, 700, DirectHit},   {695, 300, 700, DirectHit},    {706, 300, 700, NearMiss},
+        {713, 300, 700, NearMiss},    {687, 300, 700, NearMiss},     {714, 300, 700, Miss},
+        {686, 300, 700, Miss}};
+    for (const auto& [x, from, to, expected] : rows)
+        EXPECT_EQ(classifyLanding(x, from, to), expected) << x << " from " << from << " to " << to;
 }
 
 TEST(NearMiss, KillsTheFewerTheFartherHalvesToEven) {
-    struct Row {
-        int men, distance, kills;
-    };
-    for (const Row& row :
-         {Row{100, 6, 14}, Row{100, 7, 13}, Row{100, 13, 7}, Row{87, 9, 9}, Row{1, 6, 0},
-          Row{0, 13, 0}, Row{3, 7, 0}, Row{11, 7, 2}, Row{19, 7, 2}, Row{27, 7, 4}, Row{94, 9, 10}})
-        EXPECT_EQ(nearMissKills(row.men, row.distance), row.kills)
-            << row.men << "/" << row.distance;
+    const int rows[][3] = {{100, 6, 14}, {100, 7, 13}, {100, 13, 7}, {87, 9, 9},
+                           {1, 6, 0},    {0, 13, 0},   {3, 7, 0},    {11, 7, 2},
+                           {19, 7, 2},   {27, 7, 4},   {94, 9, 10}};
+    for (const auto& [men, distance, kills] : rows)
+        EXPECT_EQ(nearMissKills(men, distance), kills) << men << "/" << distance;
 }
-
-/// A picture with a pixel for each unit, and everything that moves on it recorded.
-struct AnimatedField {
-    AnimatedField() { picture.resize(1000, 1000, 1); }
-
-    Log log;
-    FieldPicture picture;
-    RecordingView view{log};
-    RecordingPacer pacer{log};
-    FieldAnimation animation{picture, view, pacer};
-};
 
 TEST(FlyShell, ShowsAYellowShellAtEveryStepAndLeavesATrailOnDemand) {
     for (const int side : {1, 2}) {
@@ -108,13 +82,12 @@ TEST(FlyShell, ShowsAYellowShellAtEveryStepAndLeavesATrailOnDemand) {
                 atTenth.push_back(stage.picture.pixel(tenth.x, tenth.y));
             };
             const FieldPoint landed = flyShell({side, 300, 75, side == 1 ? 100 : 900, 100, 0},
-                                               flatField(), trail, stage.animation, 77);
+                                               kFlat, trail, stage.animation, 77);
             EXPECT_EQ(landed, (FieldPoint{side == 1 ? 711 : 289, 89}));
-            EXPECT_EQ(stage.pacer.counts, std::vector<std::int32_t>(147, 77));
-            EXPECT_EQ(atTenth.at(8), kCyan);
-            EXPECT_EQ(atTenth.at(9), kYellow);
+            ASSERT_EQ(stage.pacer.counts, std::vector<std::int32_t>(147, 77));
             const Colour left = trail == Trail::None ? kCyan : side == 1 ? kRed : kMagenta;
-            EXPECT_EQ(atTenth.at(10), left);
+            EXPECT_EQ(std::vector(atTenth.begin() + 8, atTenth.begin() + 11),
+                      (std::vector{kCyan, kYellow, left}));
             EXPECT_EQ(stage.picture.pixel(landed.x, landed.y), kBlack);
             stage.picture.refresh();
             EXPECT_EQ(stage.picture.pixel(tenth.x, tenth.y), kCyan);  // no trail was persistent
@@ -123,34 +96,31 @@ TEST(FlyShell, ShowsAYellowShellAtEveryStepAndLeavesATrailOnDemand) {
 }
 
 TEST(Explosion, GrowsInYellowAndWhiteAndLeavesABlackDot) {
-    struct Row {
-        Landing landing;
-        std::size_t holds;
-        int y;
-        std::string_view sound;
-    };
-    for (const Row& row :
-         {Row{Landing::DirectHit, 42, 516, "bullseye"}, Row{Landing::SelfHit, 42, 516, "bullseye"},
-          Row{Landing::NearMiss, 10, 500, "nearmiss"}, Row{Landing::Miss, 10, 500, "explosion"}}) {
-        SCOPED_TRACE(row.sound);
+    using enum Landing;
+    const std::tuple<Landing, std::size_t, int, std::string> rows[] = {
+        {DirectHit, 42, 516, "bullseye"},
+        {SelfHit, 42, 516, "bullseye"},
+        {NearMiss, 10, 500, "nearmiss"},
+        {Miss, 10, 500, "explosion"}};
+    for (const auto& row : rows) {
+        const auto& [landing, holds, yOfRow, sound] = row;
+        const int y = yOfRow;
+        SCOPED_TRACE(sound);
         AnimatedField stage;
-        stage.picture.filledCircle(500, row.y, 60, kCyan);
+        stage.picture.filledCircle(500, y, 60, kCyan);
         std::vector<Colour> centre;
-        stage.view.onShowField = [&] { centre.push_back(stage.picture.pixel(500, row.y)); };
-        animateExplosion({500, 500}, row.landing, stage.animation, 9);
-        EXPECT_EQ(stage.pacer.counts, std::vector<std::int32_t>(row.holds, 9));
-        EXPECT_EQ(centre.at(0), kYellow);
-        EXPECT_EQ(centre.at(1), kWhite);
-        EXPECT_EQ(centre.at(row.holds - 2), kYellow);
-        EXPECT_EQ(centre.back(), kBlack);
-        const int reach = row.holds == 42 ? 11 : 3;  // of a dot 23 or 7 wide
-        EXPECT_EQ(stage.picture.pixel(500 + reach, row.y), kBlack);
-        EXPECT_EQ(stage.picture.pixel(500 + reach + 1, row.y), kCyan);
-        const auto* pixels = stage.picture.screenPixels();
-        EXPECT_EQ(std::count(pixels, pixels + 1'000'000, 0xFFFFFFFFu), 0);  // no spark is left
-        EXPECT_EQ(landingSound(row.landing), row.sound);
+        stage.view.onShowField = [&] { centre.push_back(stage.picture.pixel(500, y)); };
+        animateExplosion({500, 500}, landing, stage.animation, 9);
+        EXPECT_EQ(stage.pacer.counts, std::vector<std::int32_t>(holds, 9));
+        EXPECT_EQ((std::vector{centre.at(0), centre.at(1), centre.at(holds - 2), centre.back()}),
+                  (std::vector{kYellow, kWhite, kYellow, kBlack}));
+        const int reach = holds == 42 ? 11 : 3;  // of a dot 23 or 7 wide
+        EXPECT_EQ(stage.picture.pixel(500 + reach, y), kBlack);
+        EXPECT_EQ(stage.picture.pixel(500 + reach + 1, y), kCyan);
+        EXPECT_EQ(std::ranges::count(pixelsOf(stage.picture), 0xFFFFFFFFu), 0);  // no spark
+        EXPECT_EQ(landingSound(landing), sound);
     }
-    EXPECT_EQ(landingSound(Landing::OutOfBounds), "outofbounds");
+    EXPECT_EQ(landingSound(OutOfBounds), "outofbounds");
 }
 
 }  // namespace skylob::test

@@ -7,29 +7,23 @@
 namespace skylob::test {
 
 TEST(WhoMayAct, IsOneTable) {
+    using enum Deed;
     using enum Phase;
-    struct Row {
-        Deed deed;
-        const char *alone, *duringAnEffect;  // a letter a phase: now, later (after the effect)
-    };
-    for (const Row& row : {
-             Row{Deed::Aim, "-nnn-n", "-nnn-n"},
-             Row{Deed::Shoot, "--n---", "--l---"},
-             Row{Deed::Quit, "--n---", "--l---"},
-             Row{Deed::ChangeOption, "--nn--", "--nn--"},
-             Row{Deed::ClickEffectBox, "--nn--", "--ll--"},
-             Row{Deed::BeginEffect, "--n---", "------"},
-         }) {
-        std::string verdicts[2];
-        for (const Phase phase : {Setup, Turn, Waiting, Asking, Shot, Left})
-            for (const bool effect : {false, true})
-                verdicts[effect] += "-nl"[static_cast<int>(verdictOn(row.deed, phase, effect))];
-        EXPECT_EQ(verdicts[0], row.alone) << static_cast<int>(row.deed);
-        EXPECT_EQ(verdicts[1], row.duringAnEffect) << static_cast<int>(row.deed);
-    }
+    std::string verdicts;  // a letter a phase, without and during an effect: now, later (after it)
+    for (const Deed deed : {Deed::Aim, Shoot, Quit, ChangeOption, ClickEffectBox, BeginEffect})
+        for (const bool effect : {false, true}) {
+            verdicts += effect ? '/' : ' ';
+            for (const Phase phase : {Setup, Turn, Waiting, Asking, Shot, Left})
+                verdicts += "-nl"[static_cast<int>(verdictOn(deed, phase, effect))];
+        }
+    EXPECT_EQ(
+        verdicts,
+        " -nnn-n/-nnn-n --n---/--l--- --n---/--l--- --nn--/--nn-- --nn--/--ll-- --n---/------");
     // A shot may have ended the turn by the time that those behind it come.
-    EXPECT_TRUE(isStillWanted(Deed::Quit, Waiting) && isStillWanted(Deed::ClickEffectBox, Shot));
-    EXPECT_FALSE(isStillWanted(Deed::Quit, Shot) || isStillWanted(Deed::Shoot, Left));
+    EXPECT_TRUE(isStillWanted(Quit, Waiting));
+    EXPECT_TRUE(isStillWanted(ClickEffectBox, Shot));
+    EXPECT_FALSE(isStillWanted(Quit, Shot));
+    EXPECT_FALSE(isStillWanted(Shoot, Left));
 }
 
 }  // namespace skylob::test

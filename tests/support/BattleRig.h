@@ -1,5 +1,7 @@
 #pragma once
 
+#include <sstream>
+
 #include "battle/HeadlessBattle.h"
 #include "tests/support/Fakes.h"
 
@@ -58,17 +60,43 @@ struct BattleRig {
         fire(aim);
         view.runQueue();
     }
-    void fire(const Aim& aim) {
-        aims().setSpeed(state().Shooter, aim.speed);
-        aims().setAngle(state().Shooter, aim.angle);
+    void fire(const Aim& at) {
+        aim(state().Shooter, at);
         battle.cmdShoot_Click();
+    }
+    void aim(int side, const Aim& at) {
+        aims().setSpeed(side, at.speed);
+        aims().setAngle(side, at.angle);
     }
 
     Aims& aims() { return battle.aims(); }
     BattleOptions& options() { return battle.options(); }
     const BattlePanel& panel() const { return battle.panel(); }
     const BattleState& state() const { return battle.state(); }
-    bool bothTimersRun() const { return panel().timerMeteors && panel().timerLightning; }
+    /// Those that run: "ML", "M", "L" or "".
+    std::string timers() const {
+        return std::string(panel().timerMeteors, 'M') + std::string(panel().timerLightning, 'L');
+    }
+    /// The panel's boxes that are ticked, by their first letters: "STMLW".
+    std::string ticked() const {
+        const BattlePanel& of = panel();
+        return std::string(of.chkSound, 'S') + std::string(of.chkTrajectory, 'T') +
+               std::string(of.chkMeteors, 'M') + std::string(of.chkLightning, 'L') +
+               std::string(of.chkWind, 'W');
+    }
+    std::string labels(int side) const {
+        const SidePanel& of = panel().side[side];
+        return of.labelSpeed + ", " + of.labelAngle + ", " + of.labelMenLeft;
+    }
+    /// Round and shooter; each side's men, then shots and kills of the round; total kills, wins.
+    std::string tally() const {
+        std::ostringstream text;
+        text << state().RoundNumber << ':' << state().Shooter;
+        for (const PerSide<int>& of : {state().MenLeft, shared.RoundShots, shared.RoundKills,
+                                       shared.TotalKills, shared.RoundsWon})
+            text << ' ' << of[1] << '-' << of[2];
+        return text.str();
+    }
 
     Log log;
     basSkylob shared;

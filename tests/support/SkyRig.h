@@ -10,24 +10,32 @@ inline std::vector<std::uint32_t> pixelsOf(const FieldPicture& shown) {
     return {shown.screenPixels(), shown.screenPixels() + shown.width() * shown.height()};
 }
 inline long yellowPixels(const FieldPicture& shown) {
-    return std::count(shown.screenPixels(), shown.screenPixels() + shown.width() * shown.height(),
-                      0xFFFFFF00u);
+    return std::ranges::count(pixelsOf(shown), 0xFFFFFF00u);
 }
 
-/// A sky over the field of the BattleRig, without a battle.
-struct BareSky {
-    BareSky() { generateBattlefield(state.field, random, 1, 5); }
+/// A picture with a pixel for each unit, and everything that moves on it recorded.
+struct AnimatedField {
+    AnimatedField() { picture.resize(1000, 1000, 1); }
 
     Log log;
-    ScriptedRandom random{{}, 0.5};
+    FieldPicture picture;
     RecordingView view{log};
     RecordingPacer pacer{log};
-    BattleState state;
-    FieldPicture picture;
     FieldAnimation animation{picture, view, pacer};
+};
+
+/// A sky over the field of the BattleRig, without a battle.
+struct BareSky : AnimatedField {
+    BareSky() { generateBattlefield(state.field, random, 1, 5); }
+
+    ScriptedRandom random{{}, 0.5};
+    BattleState state;
     AmbientEffect effect{pacer};
     Sky sky{state, animation, random, effect};
 };
+
+using Effect = void (Battle::*)();
+constexpr Effect kMeteor = &Battle::timerMeteors_Timer, kStorm = &Battle::timerLightning_Timer;
 
 /// A battle that waits for side 1 with meteors and lightning on and without sound, on the field of
 /// the BattleRig; a pixel is a unit. Twelve seconds have gone by.
@@ -42,8 +50,12 @@ struct SkyRig : StartedRig {
         clock.time += std::chrono::seconds{12};
         log.clear();
     }
+    /// Ticks that timer. Chance is in favour of the effect, the rest as the rig has it.
+    void begin(Effect tick, std::deque<double> chance = {0}) {
+        random.script(std::move(chance));
+        (battle.*tick)();
+    }
     FieldPicture& picture() { return battle.picture(); }
-
     std::vector<std::uint32_t> pixels() { return pixelsOf(picture()); }
 
     /// Runs `action` once, at the yield of that number, 1 or more, from now on.
@@ -62,7 +74,7 @@ struct SkyRig : StartedRig {
         std::erase(events, "yield");
         return events;
     }
-    std::ptrdiff_t yields() const { return std::count(log.begin(), log.end(), "yield"); }
+    std::ptrdiff_t yields() const { return std::ranges::count(log, "yield"); }
 };
 
 }  // namespace skylob::test
