@@ -127,7 +127,8 @@ TEST_P(KilledRecording, LeavesEveryPlayerOnceAndEveryRecordWhole) {
     RecordSetResults(file, shared);
     const Time::duration oneRecording = Time::now() - before;
     std::mt19937 chance{2026};
-    for (int kills = 0, sets = 0; (kills < (GetParam() ? 100 : 300) || sets < 30) && !HasFailure(); ++kills) {
+    for (int kills = 0, sets = 0; (kills < (GetParam() ? 100 : 300) || sets < 30) && !HasFailure();
+         ++kills) {
         start([this] {
             for (;;) RecordSetResults(file, shared);
         });

@@ -167,27 +167,23 @@ TEST_F(LobbyTest, RunsOneCommandAtATime) {
              {&Lobby::optScreenSize_Click, &Lobby::optRounds_Click, &Lobby::optFormFade_Click})
             (lobby.*option)(1);
     };
-    const auto with = [](const std::string& pairing, Log before, const Log& after) {
-        before.insert(before.end(), {pairing, "options", "options", "options"});
-        before.insert(before.end(), after.begin(), after.end());
-        return before;
-    };
-    const std::string nobody = "|| Player 1 |";
+    const std::string o = "options", nobody = "|| Player 1 |";
     boxes.onShow = everything;
     boxes.answers = {BoxAnswer::Yes};
     lobby.cmdDelete_Click(row(1, "Ann"));
-    EXPECT_EQ(events(), with(nobody, {"box Confirm"}, {nobody, "grid Bob Cyd", "highlight 0"}));
+    EXPECT_EQ(events(),
+              (Log{"box Confirm", nobody, o, o, o, nobody, "grid Bob Cyd", "highlight 0"}));
     boxes.entries = {"Dan"};
     lobby.cmdAdd_Click();
-    EXPECT_EQ(events(), with(nobody, {kAskNew}, {"grid Bob Cyd Dan"}));
+    EXPECT_EQ(events(), (Log{kAskNew, nobody, o, o, o, "grid Bob Cyd Dan"}));
     EXPECT_THROW(lobby.cmdQuit_Click(), std::logic_error);  // an error is no end of it all
     lobby.chkComputer_Click(true);
     events();
     lobby.grid_DblClick(row(2, "Cyd"));
     const std::string pair = "Cyd|Computer| Double-click to UNselect |computer";
-    EXPECT_EQ(events(), with(pair, {pair, "skill"}, {"battle"}));
+    EXPECT_EQ(events(), (Log{pair, "skill", pair, o, o, o, "battle"}));
     std::exchange(boxes.onShow, {})();
-    EXPECT_EQ(events(), with(pair, {}, {}));
+    EXPECT_EQ(events(), (Log{pair, o, o, o}));
     EXPECT_EQ(shared.NumRounds, 10);
     EXPECT_TRUE(links.targets.empty());
 

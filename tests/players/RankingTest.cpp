@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "players/Windows1252.h"
 #include "tests/support/PlayersRig.h"
 
 namespace skylob::test {
@@ -10,10 +9,6 @@ namespace skylob::test {
 static PlayerRecord played(int sets, int won, int average) {
     using Number = std::int16_t;
     return {PlayerRecord::blankName(), Number(sets), Number(won), Number(average)};
-}
-
-TEST(Windows1252, GoesOnAfterACharacterCutShort) {
-    EXPECT_EQ(toWindows1252("\xC3Z\xE2\x82Y"), "?Z??Y");
 }
 
 TEST(RankingKey, IsTheTabledOne) {

@@ -31,19 +31,13 @@ struct World : PlayersRig {
 struct LobbyScreen : World {
     explicit LobbyScreen(const std::string& list) {
         put(list);
-        form = std::make_unique<frmGetPlayers>(
-            screenPorts, frmGetPlayersPorts{file, clock, boxes, sounds, links});
-        QObject::connect(form.get(), &frmGetPlayers::computerChallenged,
-                         [this] { ++skillQuestions; });
-        form->show();
-        (void)QTest::qWaitForWindowActive(form.get());
-        grid = child<QTableView>("grid");
-        rows = grid->viewport();
+        form.show();
+        (void)QTest::qWaitForWindowActive(&form);
     }
 
     template <typename Widget>
     Widget* child(const char* name) const {
-        return form->findChild<Widget*>(name);
+        return form.findChild<Widget*>(name);
     }
     /// The names of the chosen players that can be seen.
     std::string chosen() const {
@@ -62,10 +56,9 @@ struct LobbyScreen : World {
         QTest::mouseDClick(rows, Qt::LeftButton, {}, {40, 10});
     }
 
-    int skillQuestions = 0;
-    std::unique_ptr<frmGetPlayers> form;
-    QTableView* grid = nullptr;
-    QWidget* rows = nullptr;
+    frmGetPlayers form{screenPorts, {file, clock, boxes, sounds, links}};
+    QTableView* const grid = child<QTableView>("grid");
+    QWidget* const rows = grid->viewport();
 };
 
 using namespace std::string_literals;
@@ -95,7 +88,8 @@ class frmGetPlayersTest : public QObject {
 
     void pairsByMouseAndByKeyboard() {
         LobbyScreen screen{record("Ann") + record("Bob")};
-        QSignalSpy battle{screen.form.get(), &frmGetPlayers::battleChosen};
+        QSignalSpy battle{&screen.form, &frmGetPlayers::battleChosen};
+        QSignalSpy skill{&screen.form, &frmGetPlayers::computerChallenged};
         QWidget* const header = screen.grid->horizontalHeader()->viewport();
         QTest::mouseDClick(header, Qt::LeftButton, {}, {40, 10});
         auto* const first = screen.child<QLabel>("labelPlayerName(1)");
@@ -108,13 +102,13 @@ class frmGetPlayersTest : public QObject {
         chosen += screen.chosen() + '-';
         QTest::mouseDClick(first, Qt::LeftButton);
         QCOMPARE(chosen + screen.chosen(), "-Ann--Ann-"s);
-        QTest::keyClick(screen.form.get(), Qt::Key_C, Qt::AltModifier);
+        QTest::keyClick(&screen.form, Qt::Key_C, Qt::AltModifier);
         QCOMPARE(battle.count(), 0);
         for (const auto key : {Qt::Key_Down, Qt::Key_Enter}) screen.press(screen.grid, key);
         QCOMPARE(battle.count(), 1);
-        QCOMPARE(screen.skillQuestions, 1);
+        QCOMPARE(skill.count(), 1);
         QCOMPARE(screen.shared.PlayerName[1], "Bob"s);
-        QVERIFY(!screen.form->isVisible());
+        QVERIFY(!screen.form.isVisible());
     }
 
     void storesOptionsAndRefusesToFade() {
@@ -152,24 +146,24 @@ class frmGetPlayersTest : public QObject {
 
     void leavesOnlyWhenConfirmed() {
         LobbyScreen screen{record("Ann")};
-        QSignalSpy left{screen.form.get(), &frmGetPlayers::programLeft};
+        QSignalSpy left{&screen.form, &frmGetPlayers::programLeft};
         screen.boxes.answers = {BoxAnswer::No, BoxAnswer::Yes};
-        screen.form->close();
-        QVERIFY(screen.form->isVisible());
-        QTest::keyClick(screen.form.get(), Qt::Key_Escape);
+        screen.form.close();
+        QVERIFY(screen.form.isVisible());
+        QTest::keyClick(&screen.form, Qt::Key_Escape);
         QCOMPARE(left.count(), 1);
-        QVERIFY(!screen.form->isVisible());
+        QVERIFY(!screen.form.isVisible());
     }
 
     void actsOnNothingBehindAModalWindow() {
         const QtModalGuard guard;
         LobbyScreen screen{record("Ann") + record("Bob")};
-        QSignalSpy help{screen.form.get(), &frmGetPlayers::helpWanted};
+        QSignalSpy help{&screen.form, &frmGetPlayers::helpWanted};
         auto* const cmdHelp = screen.child<GlintButton>("cmdHelp");
         const auto useScreen = [&] {
             QTest::keyClick(screen.grid, Qt::Key_Down);
             // As the toolkit sends them while it takes the screen for the active window.
-            for (auto* shortcut : screen.form->findChildren<QShortcut*>()) {
+            for (auto* shortcut : screen.form.findChildren<QShortcut*>()) {
                 QT_IGNORE_DEPRECATIONS(QShortcutEvent event(shortcut->key(), shortcut->id());)
                 QCoreApplication::sendEvent(shortcut, &event);
             }
@@ -187,7 +181,7 @@ class frmGetPlayersTest : public QObject {
         QVERIFY(QTest::qWaitForWindowActive(&modal));
         useScreen();
         QSignalSpy activated{qApp, &QGuiApplication::focusWindowChanged};
-        screen.form->activateWindow();  // as a click on it does on some desktops
+        screen.form.activateWindow();  // as a click on it does on some desktops
         QTRY_COMPARE(activated.count(), 2);
         QVERIFY(modal.isActiveWindow());
         QCOMPARE(screen.log, Log{});
