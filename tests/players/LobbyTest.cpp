@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "players/Ranking.h"
-#include "tests/support/Fakes.h"
 #include "tests/support/PlayersRig.h"
 
 namespace skylob::test {
@@ -11,80 +10,54 @@ namespace skylob::test {
 static const std::string kAskNew = "ask Add a New Player to the List ";
 static const std::string kAskRename = "ask Change the Highlighted Player's Name ";
 
-struct RecordingLobbyView : LobbyView {
-    explicit RecordingLobbyView(Log& events) : log{events} {}
-
+struct LobbyTest : testing::Test, PlayersRig, LobbyView {
     void fillGrid(std::vector<PlayerRecord> records) override {
-        std::string names = "grid";
-        for (const PlayerRecord& record : records) names += ' ' + nameOf(record);
-        log.push_back(names);
+        log.push_back("grid");
+        for (const PlayerRecord& record : records) log.back() += ' ' + nameOf(record);
     }
     void highlightRow(int row) override { log.push_back("highlight " + std::to_string(row)); }
     void showPairing(const Pairing& pairing) override {
-        log.push_back(pairing.labelPlayerName(1) + '|' + pairing.labelPlayerName(2) + '|' +
-                      std::string{pairing.frameCaption(1)} + '|' +
-                      (pairing.chkComputer() ? "computer" : ""));
+        log.push_back(pairing.labelPlayerName(1) + '|' + pairing.labelPlayerName(2) + '|');
+        log.back().append(pairing.frameCaption(1)) += pairing.chkComputer() ? "|computer" : "|";
     }
     void showOptions() override { log.push_back("options"); }
     bool canFade() override { return fades; }
     void chooseSkillLevel() override {
         log.push_back("skill");
-        if (onSkill) onSkill();
+        if (boxes.onShow) boxes.onShow();
     }
     void leaveForBattle() override { log.push_back("battle"); }
     void leaveProgram() override { log.push_back("leave"); }
 
-    Log& log;
+    static ListedPlayer row(int number, const char* name) {
+        return {number, unpackRecord(record(name))};
+    }
+
     bool fades = false;
-    std::function<void()> onSkill;
-};
-
-struct LobbyTest : testing::Test, PlayersRig {
-    /// What has happened since the last look.
-    Log events() { return std::exchange(log, {}); }
-
-    Log log;
-    HandSetClock clock;
-    QueuedBoxes boxes{log};
-    MemorySettings settings;
-    RecordingSounds sounds{log};
-    RecordingLinks links;
-    RecordingLobbyView view{log};
-    LobbyPorts ports{file, clock, boxes, settings, sounds, links, view};
+    LobbyPorts ports{file, clock, boxes, settings, sounds, links, *this};
     Lobby lobby{shared, ports};
 };
 
-static ListedPlayer row(int number, std::string_view name) {
-    ListedPlayer player{number, {}};
-    setName(player.record, name);
-    return player;
-}
-
 TEST_F(LobbyTest, PairsByDoubleClicks) {
-    const auto click = [this](const char* name) { lobby.grid_DblClick(row(1, name)); };
     const std::string nobody = "|| Player 1 |", computer = "|Computer| Player 1 |computer";
     const std::string onlyAnn = "Ann|| Double-click to UNselect |";
-    click("Ann");
-    click("Ann");
-    EXPECT_EQ(events(), (Log{onlyAnn, onlyAnn}));
+    for (int i = 0; i < 2; ++i) lobby.grid_DblClick(row(1, "Ann"));
     lobby.labelPlayerName_DblClick();
     lobby.chkComputer_Click(true);
     lobby.labelPlayerName_DblClick();
     lobby.chkComputer_Click(false);
-    click("Computer");
-    EXPECT_EQ(events(), (Log{nobody, computer, computer, nobody, computer}));
+    lobby.grid_DblClick(row(1, "Computer"));
+    EXPECT_EQ(events(), (Log{onlyAnn, onlyAnn, nobody, computer, computer, nobody, computer}));
     settings.save("ScreenSize", "3");
     lobby.optScreenSize_Click(1);
     EXPECT_EQ(settings.get("ScreenSize", ""), "3");
-    click("Ann");
+    lobby.grid_DblClick(row(1, "Ann"));
     EXPECT_EQ(events(),
               (Log{"Ann|Computer| Double-click to UNselect |computer", "skill", "battle"}));
     EXPECT_EQ(shared.PlayerName, (PerSide<std::string>{"Ann", "Computer"}));
     EXPECT_EQ(settings.get("ScreenSize", ""), "1");
-
-    Lobby next{shared, ports};
-    next.grid_DblClick(row(1, "Ann"));
-    next.grid_DblClick(row(2, "ann"));  // two people need no skill level
+    Lobby next{shared, ports};  // two people need no skill level
+    for (const char* name : {"Ann", "ann"}) next.grid_DblClick(row(1, name));
     EXPECT_EQ(events(), (Log{onlyAnn, "Ann|ann| Double-click to UNselect |", "battle"}));
     EXPECT_EQ(shared.PlayerName, (PerSide<std::string>{"Ann", "ann"}));
 }
@@ -92,29 +65,26 @@ TEST_F(LobbyTest, PairsByDoubleClicks) {
 TEST_F(LobbyTest, TakesOptionsOverOnceAndStoresThem) {
     const auto options = [this] {
         return std::to_string(shared.NumRounds) + " (" + settings.get("NumRounds", "") +
-               "), size " + std::to_string(shared.ScreenSize) +
-               (shared.FadeStatus ? ", fades" : ", no fading") + " (" +
-               settings.get("FadeStatus", "") + ")";
+               "), size " + std::to_string(shared.ScreenSize) + ", fades " +
+               std::to_string(shared.FadeStatus) + " (" + settings.get("FadeStatus", "") + ")";
     };
     settings.save("NumRounds", "3");
     settings.save("ScreenSize", "1");
     settings.save("FadeStatus", "True");
     boxes.answers = {BoxAnswer::Ok, BoxAnswer::Ok};
-    lobby.Form_Activate();
-    lobby.Form_Activate();
+    for (int i = 0; i < 2; ++i) lobby.Form_Activate();
     EXPECT_EQ(events(), (Log{"options", "|| Player 1 |", "grid", "box Empty Player List"}));
-    EXPECT_EQ(options(), "20 (3), size 1, fades (True)");
+    EXPECT_EQ(options(), "20 (3), size 1, fades 1 (True)");
     lobby.optRounds_Click(1);
-    EXPECT_EQ(options(), "5 (1), size 1, fades (True)");
-
+    EXPECT_EQ(options(), "5 (1), size 1, fades 1 (True)");
     lobby.optFormFade_Click(1);
     EXPECT_EQ(events(), (Log{"options", "box Skylob"}));
-    EXPECT_EQ(options(), "5 (1), size 1, no fading (False)");
-    view.fades = true;
+    EXPECT_EQ(options(), "5 (1), size 1, fades 0 (False)");
+    fades = true;
     lobby.optFormFade_Click(1);
-    EXPECT_EQ(options(), "5 (1), size 1, fades (True)");
+    EXPECT_EQ(options(), "5 (1), size 1, fades 1 (True)");
     lobby.optFormFade_Click(2);
-    EXPECT_EQ(options(), "5 (1), size 1, no fading (False)");
+    EXPECT_EQ(options(), "5 (1), size 1, fades 0 (False)");
 }
 
 TEST_F(LobbyTest, AddsOnlyNewNames) {
@@ -155,36 +125,29 @@ TEST_F(LobbyTest, RenamesAndDeletesWhoIsHighlighted) {
 }
 
 TEST_F(LobbyTest, OpensAndReadsTheListOnceForEachCommand) {
-    using Work = std::map<std::string, int>;
-    const auto workOf = [this](const std::function<void()>& command) {
-        files.done.clear();
-        command();
-        return files.done;
-    };
-    const auto onceAnd = [](const Work& more) {
-        Work work{{"open Skylob.Data", 1}, {"read Skylob.Data", 1}};
-        work.insert(more.begin(), more.end());
-        return work;
-    };
-    const Work written = onceAnd({{"write Skylob.Data", 1}, {"sync Skylob.Data", 1}});
-    const Work replaced = onceAnd({{"open TempFile.$$$", 1}, {"replace Skylob.Data", 1}});
+    const std::string once = "open Skylob.Data\nread Skylob.Data\n";
+    const std::string written = once + "write Skylob.Data\nsync Skylob.Data\n";
+    const std::string replaced = once + "open TempFile.$$$\nreplace Skylob.Data\n";
+    const std::pair<std::function<void()>, std::string> commands[] = {
+        {[this] { lobby.Form_Activate(); }, once},
+        {[this] { lobby.cmdAdd_Click(); }, written},
+        {[this] { lobby.cmdAdd_Click(); }, once},
+        {[this] { lobby.cmdModify_Click(row(1, "Ann")); }, once},
+        {[this] { lobby.cmdModify_Click(row(1, "Ann")); }, written},
+        {[this] { RecordSetResults(file, shared); }, replaced},
+        {[this] { lobby.cmdDelete_Click(row(1, "Bea")); }, replaced},
+        {[this] { EXPECT_EQ(file.PlayerCount, 1); }, ""},
+        // With the last player the file goes, and filling the grid makes it anew.
+        {[this] { lobby.cmdDelete_Click(row(1, "Bob")); },
+         once + "remove TempFile.$$$\nremove Skylob.Data\n" + once}};
     put(ann);
     boxes.entries = {"Bob", "Bob", "Bob", "Bea"};
     boxes.answers = {BoxAnswer::Ok, BoxAnswer::Ok, BoxAnswer::Yes, BoxAnswer::Yes, BoxAnswer::Ok};
-    EXPECT_EQ(workOf([this] { lobby.Form_Activate(); }), onceAnd({}));
-    EXPECT_EQ(workOf([this] { lobby.cmdAdd_Click(); }), written);
-    EXPECT_EQ(workOf([this] { lobby.cmdAdd_Click(); }), onceAnd({}));
-    EXPECT_EQ(workOf([this] { lobby.cmdModify_Click(row(1, "Ann")); }), onceAnd({}));
-    EXPECT_EQ(workOf([this] { lobby.cmdModify_Click(row(1, "Ann")); }), written);
-    EXPECT_EQ(workOf([this] { RecordSetResults(file, shared); }), replaced);
-    EXPECT_EQ(workOf([this] { lobby.cmdDelete_Click(row(1, "Bea")); }), replaced);
-    EXPECT_EQ(file.PlayerCount, 1);
-    // With the last player the file goes, and filling the grid makes it anew.
-    EXPECT_EQ(workOf([this] { lobby.cmdDelete_Click(row(1, "Bob")); }),
-              (Work{{"open Skylob.Data", 2},
-                    {"read Skylob.Data", 2},
-                    {"remove Skylob.Data", 1},
-                    {"remove TempFile.$$$", 1}}));
+    for (const auto& [command, work] : commands) {
+        files.done.clear();
+        command();
+        EXPECT_EQ(files.done, work);
+    }
     EXPECT_EQ(folder.content(), "Skylob.Data ");
     EXPECT_EQ(log.back(), "highlight 0");
 }
@@ -192,48 +155,41 @@ TEST_F(LobbyTest, OpensAndReadsTheListOnceForEachCommand) {
 TEST_F(LobbyTest, RunsOneCommandAtATime) {
     put(ann + bob + cyd);
     const auto everything = [this] {
-        lobby.Form_Activate();
         lobby.grid_DblClick(row(1, "Ann"));
-        lobby.labelPlayerName_DblClick();
         lobby.chkComputer_Click(true);
-        lobby.cmdAdd_Click();
-        lobby.cmdModify_Click(row(1, "Ann"));
-        lobby.cmdDelete_Click(row(1, "Ann"));
-        lobby.optScreenSize_Click(1);
-        lobby.optRounds_Click(1);
-        lobby.optFormFade_Click(1);
-        lobby.cmdEmailFriend_Click();
-        lobby.cmdQuit_Click();
+        for (const auto command :
+             {&Lobby::Form_Activate, &Lobby::labelPlayerName_DblClick, &Lobby::cmdAdd_Click,
+              &Lobby::cmdEmailFriend_Click, &Lobby::cmdQuit_Click})
+            (lobby.*command)();
+        for (const auto command : {&Lobby::cmdModify_Click, &Lobby::cmdDelete_Click})
+            (lobby.*command)(row(1, "Ann"));
+        for (const auto option :
+             {&Lobby::optScreenSize_Click, &Lobby::optRounds_Click, &Lobby::optFormFade_Click})
+            (lobby.*option)(1);
     };
-    const auto with = [](const std::string& pairing, Log before, const Log& after) {
-        before.insert(before.end(), {pairing, "options", "options", "options"});
-        before.insert(before.end(), after.begin(), after.end());
-        return before;
-    };
-    const std::string nobody = "|| Player 1 |";
-    boxes.onShow = view.onSkill = everything;
+    const std::string o = "options", nobody = "|| Player 1 |";
+    boxes.onShow = everything;
     boxes.answers = {BoxAnswer::Yes};
     lobby.cmdDelete_Click(row(1, "Ann"));
-    EXPECT_EQ(events(), with(nobody, {"box Confirm"}, {nobody, "grid Bob Cyd", "highlight 0"}));
+    EXPECT_EQ(events(),
+              (Log{"box Confirm", nobody, o, o, o, nobody, "grid Bob Cyd", "highlight 0"}));
     boxes.entries = {"Dan"};
     lobby.cmdAdd_Click();
-    EXPECT_EQ(events(), with(nobody, {kAskNew}, {"grid Bob Cyd Dan"}));
-    boxes.onShow = {};
+    EXPECT_EQ(events(), (Log{kAskNew, nobody, o, o, o, "grid Bob Cyd Dan"}));
     EXPECT_THROW(lobby.cmdQuit_Click(), std::logic_error);  // an error is no end of it all
     lobby.chkComputer_Click(true);
     events();
     lobby.grid_DblClick(row(2, "Cyd"));
     const std::string pair = "Cyd|Computer| Double-click to UNselect |computer";
-    EXPECT_EQ(events(), with(pair, {pair, "skill"}, {"battle"}));
-    everything();
-    EXPECT_EQ(events(), with(pair, {}, {}));
+    EXPECT_EQ(events(), (Log{pair, "skill", pair, o, o, o, "battle"}));
+    std::exchange(boxes.onShow, {})();
+    EXPECT_EQ(events(), (Log{pair, o, o, o}));
     EXPECT_EQ(shared.NumRounds, 10);
     EXPECT_TRUE(links.targets.empty());
 
     Lobby leaving{shared, ports};
     boxes.answers = {BoxAnswer::Yes};
-    leaving.cmdQuit_Click();
-    leaving.cmdQuit_Click();
+    for (int i = 0; i < 2; ++i) leaving.cmdQuit_Click();
     EXPECT_EQ(events(), (Log{"box Confirm", "sound thatsall", "leave"}));
 }
 
@@ -263,8 +219,7 @@ TEST_F(LobbyTest, TouchesNobodyButThePlayerItHasShown) {
 }
 
 TEST_F(LobbyTest, RefusesOnePlayerTooMany) {
-    std::string full;
-    for (int i = 0; i < 32767; ++i) full += ann;
+    const std::string full(29 * 32767, 'x');
     put(full);
     boxes.entries = {"Bob"};
     boxes.answers = {BoxAnswer::Ok};

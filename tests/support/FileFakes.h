@@ -4,7 +4,6 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <map>
 #include <set>
 #include <string>
 
@@ -27,11 +26,10 @@ class TempFolder {
 
     /// The names of what is in it, sorted, each followed by a blank.
     std::string content() const {
-        std::set<std::string> names;
-        for (const auto& entry : std::filesystem::directory_iterator{m_path})
-            names.insert(entry.path().filename());
         std::string list;
-        for (const std::string& name : names) list.append(name).append(" ");
+        const std::filesystem::directory_iterator all{m_path};
+        for (const auto& entry : std::set<std::filesystem::directory_entry>(begin(all), end(all)))
+            list += entry.path().filename().string() + ' ';
         return list;
     }
 
@@ -48,73 +46,59 @@ inline void putBytes(const std::string& path, const std::string& bytes) {
     std::ofstream{path, std::ios::binary | std::ios::trunc} << bytes;
 }
 
-/// The disk, which counts what is done on it, and on which one operation goes wrong. Operations are
-/// named like "write Skylob.Data".
+/// The disk, which lists what is done on it, and on which one operation goes wrong. Operations are
+/// named like "write Skylob.Data", each followed by a line's end in the list.
 class FailingFiles : public FileSystem {
   public:
     using File = std::unique_ptr<RandomAccessFile>;
+    using Name = const std::string&;
 
     std::string failing;
-    mutable std::map<std::string, int> done;
+    mutable std::string done;
 
-    File open(const std::string& name) override {
-        check("open", name);
-        return watched(name, m_disk.open(name));
+    File open(Name name) override { return watched(m_disk.open(check("open", name)), name); }
+    File openForReading(Name name) override {
+        return watched(m_disk.openForReading(check("open", name)), name);
     }
-    File openForReading(const std::string& name) override {
-        check("open", name);
-        return watched(name, m_disk.openForReading(name));
-    }
-    File openLeftover(const std::string& name) override {
-        check("open", name);
-        return m_disk.openLeftover(name);
-    }
-    bool hasFile(const std::string& name) const override { return m_disk.hasFile(name); }
-    void remove(const std::string& name) override {
-        check("remove", name);
-        m_disk.remove(name);
-    }
-    void replace(const std::string& from, const std::string& to) override {
-        check("replace", to);
-        m_disk.replace(from, to);
-    }
-    void replaceContent(const std::string& name, std::string_view bytes,
-                        const std::string& through) override {
-        check("replace", name);
-        m_disk.replaceContent(name, bytes, through);
+    File openLeftover(Name name) override { return m_disk.openLeftover(check("open", name)); }
+    bool hasFile(Name name) const override { return m_disk.hasFile(name); }
+    void remove(Name name) override { m_disk.remove(check("remove", name)); }
+    void replace(Name from, Name to) override { m_disk.replace(from, check("replace", to)); }
+    void replaceContent(Name name, std::string_view bytes, Name through) override {
+        m_disk.replaceContent(check("replace", name), bytes, through);
     }
 
   private:
     struct Watched : RandomAccessFile {
-        Watched(FailingFiles& of, std::string itsName, File real)
-            : files{of}, name{std::move(itsName)}, file{std::move(real)} {}
+        Watched(FailingFiles& of, Name itsName, File real)
+            : files{of}, name{itsName}, file{std::move(real)} {}
+        RandomAccessFile& real(const char* operation) const {
+            files.check(operation, name);
+            return *file;
+        }
         std::int64_t length() const override { return file->length(); }
         bool isWritable() const override { return file->isWritable(); }
         std::string read(std::int64_t offset, std::size_t count) const override {
-            files.check("read", name);
-            return file->read(offset, count);
+            return real("read").read(offset, count);
         }
         void write(std::int64_t offset, std::string_view bytes) override {
-            files.check("write", name);
-            file->write(offset, bytes);
+            real("write").write(offset, bytes);
         }
-        void sync() override {
-            files.check("sync", name);
-            file->sync();
-        }
+        void sync() override { real("sync").sync(); }
 
         FailingFiles& files;
         std::string name;
         File file;
     };
 
-    File watched(const std::string& name, File file) {
+    File watched(File file, Name name) {
         return std::make_unique<Watched>(*this, name, std::move(file));
     }
-    void check(const std::string& operation, const std::string& name) const {
+    Name check(const std::string& operation, Name name) const {
         const auto what = operation + ' ' + std::filesystem::path{name}.filename().string();
-        ++done[what];
+        done += what + '\n';
         if (what == failing) throw FileError{"failed on demand"};
+        return name;
     }
 
     DiskFiles m_disk;

@@ -1,19 +1,9 @@
 #pragma once
 
-#include <ostream>
-
 #include "base/basSkylob.h"
 #include "players/PlayerFile.h"
+#include "tests/support/Fakes.h"
 #include "tests/support/FileFakes.h"
-
-namespace skylob {
-
-inline void PrintTo(ListChange change, std::ostream* out) {
-    constexpr const char* kNames[] = {"Done", "NameTaken", "ListFull", "Outdated"};
-    *out << kNames[static_cast<int>(change)];
-}
-
-}  // namespace skylob
 
 namespace skylob::test {
 
@@ -35,20 +25,19 @@ inline std::string record(const std::string& name, int sets, int won, int averag
     return record(name, figures.append(1, static_cast<char>(spare)));
 }
 
-/// A player list in a folder of its own.
+/// A player list in a folder of its own, and all else that the players' screens work with.
 struct PlayersRig {
     void put(const std::string& list) { putBytes(path, list); }
     std::string bytes() const { return bytesOf(path); }
+    /// What has happened since the last look.
+    Log events() { return std::exchange(log, {}); }
 
     /// A player as the file has it now.
     ListedPlayer listed(int number) const {
-        const auto offset = static_cast<std::size_t>(number - 1) * kRecordLength;
-        return {number, unpackRecord(bytes().substr(offset, kRecordLength))};
+        return {number, unpackRecord(bytes().substr(static_cast<std::size_t>(number - 1) * 29))};
     }
     ListChange add(std::string_view name) { return file.addPlayer(name); }
-    ListChange rename(int number, std::string_view name) {
-        return file.renamePlayer(listed(number), name);
-    }
+    ListChange rename(int number, const char* to) { return file.renamePlayer(listed(number), to); }
     ListChange remove(int number) { return file.deletePlayer(listed(number)); }
 
     const std::string ann = record("Ann"), bob = record("Bob"), cyd = record("Cyd");
@@ -57,6 +46,12 @@ struct PlayersRig {
     FailingFiles files;
     PlayerFile file{files, path};
     basSkylob shared;
+    Log log;
+    HandSetClock clock;
+    QueuedBoxes boxes{log};
+    MemorySettings settings;
+    RecordingSounds sounds{log};
+    RecordingLinks links;
 };
 
 }  // namespace skylob::test

@@ -1,7 +1,5 @@
 #include "players/qt/frmGetPlayers.h"
 
-#include <QAbstractItemModel>
-#include <QAbstractItemView>
 #include <QCompleter>
 #include <QDialog>
 #include <QHeaderView>
@@ -11,7 +9,6 @@
 #include <QScrollBar>
 #include <QShortcut>
 #include <QShortcutEvent>
-#include <QSignalSpy>
 #include <QTableView>
 #include <QTimer>
 #include <QtTest>
@@ -20,21 +17,13 @@
 #include "look/qt/QtShapes.h"
 #include "players/qt/frmGetSkillLevel.h"
 #include "players/qt/frmSummary.h"
-#include "screen/Fade.h"
 #include "screen/qt/QtModalGuard.h"
-#include "tests/support/Fakes.h"
 #include "tests/support/PlayersRig.h"
 
 namespace skylob::test {
 
 /// What all screens of the players share.
 struct World : PlayersRig {
-    Log log;
-    HandSetClock clock;
-    QueuedBoxes boxes{log};
-    MemorySettings settings;
-    RecordingSounds sounds{log};
-    RecordingLinks links;
     const QtShapes shapes{programDrawings()};
     const QtScreenPorts screenPorts{shared, settings, shapes};
 };
@@ -42,37 +31,34 @@ struct World : PlayersRig {
 struct LobbyScreen : World {
     explicit LobbyScreen(const std::string& list) {
         put(list);
-        form = std::make_unique<frmGetPlayers>(
-            screenPorts, frmGetPlayersPorts{file, clock, boxes, sounds, links});
-        QObject::connect(form.get(), &frmGetPlayers::computerChallenged,
-                         [this] { ++skillQuestions; });
-        form->show();
-        (void)QTest::qWaitForWindowActive(form.get());
-        grid = child<QTableView>("grid");
-        rows = grid->viewport();
+        form.show();
+        (void)QTest::qWaitForWindowActive(&form);
     }
 
     template <typename Widget>
     Widget* child(const char* name) const {
-        return form->findChild<Widget*>(name);
+        return form.findChild<Widget*>(name);
     }
     /// The names of the chosen players that can be seen.
-    QString chosen() const {
+    std::string chosen() const {
         QString names;
         for (const char* name : {"labelPlayerName(1)", "labelPlayerName(2)"})
             if (child<QLabel>(name)->isVisible()) names += child<QLabel>(name)->text();
-        return names;
+        return names.toStdString();
     }
     bool isChecked(const char* option) const { return child<QRadioButton>(option)->isChecked(); }
+    static void press(QWidget* widget, Qt::Key key) {
+        widget->setFocus();
+        QTest::keyClick(widget, key);
+    }
     void clickFirstRowTwice() const {
         QTest::mouseClick(rows, Qt::LeftButton, {}, {40, 10});
         QTest::mouseDClick(rows, Qt::LeftButton, {}, {40, 10});
     }
 
-    int skillQuestions = 0;
-    std::unique_ptr<frmGetPlayers> form;
-    QTableView* grid = nullptr;
-    QWidget* rows = nullptr;
+    frmGetPlayers form{screenPorts, {file, clock, boxes, sounds, links}};
+    QTableView* const grid = child<QTableView>("grid");
+    QWidget* const rows = grid->viewport();
 };
 
 using namespace std::string_literals;
@@ -85,7 +71,7 @@ class frmGetPlayersTest : public QObject {
         LobbyScreen screen{record("\xC5sa & <b>Bo</b>", 14, 11, 46, 1) +
                            record("", "\xFF\xFF\0\0\xFF\xFF\xFE\xFF\0"s) +
                            record("WWWWWWWWWWWWWWWWWWWW")};
-        const QAbstractItemModel& table = *screen.grid->model();
+        const auto& table = *screen.grid->model();
         QString cells;
         for (int row = 0; row < table.rowCount(); ++row)
             for (int column = 0; column < 5; ++column)
@@ -102,39 +88,34 @@ class frmGetPlayersTest : public QObject {
 
     void pairsByMouseAndByKeyboard() {
         LobbyScreen screen{record("Ann") + record("Bob")};
-        QSignalSpy battle{screen.form.get(), &frmGetPlayers::battleChosen};
+        QSignalSpy battle{&screen.form, &frmGetPlayers::battleChosen};
+        QSignalSpy skill{&screen.form, &frmGetPlayers::computerChallenged};
         QWidget* const header = screen.grid->horizontalHeader()->viewport();
         QTest::mouseDClick(header, Qt::LeftButton, {}, {40, 10});
-        QCOMPARE(screen.chosen(), QString{});
-        screen.clickFirstRowTwice();
-        QCOMPARE(screen.chosen(), QStringLiteral("Ann"));
         auto* const first = screen.child<QLabel>("labelPlayerName(1)");
-        first->setFocus();
-        QTest::keyClick(first, Qt::Key_Return);
-        QCOMPARE(screen.chosen(), QString{});
-        screen.grid->setFocus();
-        QTest::keyClick(screen.grid, Qt::Key_Return);
-        QCOMPARE(screen.chosen(), QStringLiteral("Ann"));
+        std::string chosen = screen.chosen() + '-';
+        screen.clickFirstRowTwice();
+        chosen += screen.chosen() + '-';
+        screen.press(first, Qt::Key_Return);
+        chosen += screen.chosen() + '-';
+        screen.press(screen.grid, Qt::Key_Return);
+        chosen += screen.chosen() + '-';
         QTest::mouseDClick(first, Qt::LeftButton);
-        QCOMPARE(screen.chosen(), QString{});
-        QTest::keyClick(screen.form.get(), Qt::Key_C, Qt::AltModifier);
+        QCOMPARE(chosen + screen.chosen(), "-Ann--Ann-"s);
+        QTest::keyClick(&screen.form, Qt::Key_C, Qt::AltModifier);
         QCOMPARE(battle.count(), 0);
-        screen.grid->setFocus();
-        QTest::keyClick(screen.grid, Qt::Key_Down);
-        QTest::keyClick(screen.grid, Qt::Key_Enter);
+        for (const auto key : {Qt::Key_Down, Qt::Key_Enter}) screen.press(screen.grid, key);
         QCOMPARE(battle.count(), 1);
-        QCOMPARE(screen.skillQuestions, 1);
+        QCOMPARE(skill.count(), 1);
         QCOMPARE(screen.shared.PlayerName[1], "Bob"s);
-        QVERIFY(!screen.form->isVisible());
+        QVERIFY(!screen.form.isVisible());
     }
 
     void storesOptionsAndRefusesToFade() {
         LobbyScreen screen{record("Ann")};
         QVERIFY(screen.isChecked("optScreenSize(2)"));
         QVERIFY(screen.isChecked("optRounds(2)"));
-        auto* const tenRounds = screen.child<QRadioButton>("optRounds(2)");
-        tenRounds->setFocus();
-        QTest::keyClick(tenRounds, Qt::Key_Down);
+        screen.press(screen.child<QRadioButton>("optRounds(2)"), Qt::Key_Down);
         QVERIFY(screen.isChecked("optRounds(3)"));
         QCOMPARE(screen.settings.get("NumRounds", ""), "3"s);
         QCOMPARE(screen.shared.NumRounds, 20);
@@ -165,24 +146,24 @@ class frmGetPlayersTest : public QObject {
 
     void leavesOnlyWhenConfirmed() {
         LobbyScreen screen{record("Ann")};
-        QSignalSpy left{screen.form.get(), &frmGetPlayers::programLeft};
+        QSignalSpy left{&screen.form, &frmGetPlayers::programLeft};
         screen.boxes.answers = {BoxAnswer::No, BoxAnswer::Yes};
-        screen.form->close();
-        QVERIFY(screen.form->isVisible());
-        QTest::keyClick(screen.form.get(), Qt::Key_Escape);
+        screen.form.close();
+        QVERIFY(screen.form.isVisible());
+        QTest::keyClick(&screen.form, Qt::Key_Escape);
         QCOMPARE(left.count(), 1);
-        QVERIFY(!screen.form->isVisible());
+        QVERIFY(!screen.form.isVisible());
     }
 
     void actsOnNothingBehindAModalWindow() {
         const QtModalGuard guard;
         LobbyScreen screen{record("Ann") + record("Bob")};
-        QSignalSpy help{screen.form.get(), &frmGetPlayers::helpWanted};
+        QSignalSpy help{&screen.form, &frmGetPlayers::helpWanted};
         auto* const cmdHelp = screen.child<GlintButton>("cmdHelp");
         const auto useScreen = [&] {
             QTest::keyClick(screen.grid, Qt::Key_Down);
             // As the toolkit sends them while it takes the screen for the active window.
-            for (auto* shortcut : screen.form->findChildren<QShortcut*>()) {
+            for (auto* shortcut : screen.form.findChildren<QShortcut*>()) {
                 QT_IGNORE_DEPRECATIONS(QShortcutEvent event(shortcut->key(), shortcut->id());)
                 QCoreApplication::sendEvent(shortcut, &event);
             }
@@ -200,14 +181,13 @@ class frmGetPlayersTest : public QObject {
         QVERIFY(QTest::qWaitForWindowActive(&modal));
         useScreen();
         QSignalSpy activated{qApp, &QGuiApplication::focusWindowChanged};
-        screen.form->activateWindow();  // as a click on it does on some desktops
+        screen.form.activateWindow();  // as a click on it does on some desktops
         QTRY_COMPARE(activated.count(), 2);
         QVERIFY(modal.isActiveWindow());
         QCOMPARE(screen.log, Log{});
         QCOMPARE(help.count(), 0);
-        QCOMPARE(screen.chosen(), QString{});
+        QCOMPARE(screen.chosen(), ""s);
         QCOMPARE(screen.grid->currentIndex().row(), 0);
-
         QTest::keyClick(&entry, Qt::Key_O);
         for (const auto key : {Qt::Key_Down, Qt::Key_Return})
             QTest::keyClick(entry.completer()->popup(), key);
@@ -216,7 +196,7 @@ class frmGetPlayersTest : public QObject {
         QTest::mouseClick(cmdHelp, Qt::LeftButton);
         screen.clickFirstRowTwice();
         QCOMPARE(help.count(), 1);
-        QCOMPARE(screen.chosen(), QStringLiteral("Ann"));
+        QCOMPARE(screen.chosen(), "Ann"s);
     }
 
     void takesTheSkillLevel() {
