@@ -23,7 +23,7 @@ class GlintRig : public GlintSurface, public GlintPointer, public GlintEvents {
 
     void paint(int state, bool flag) override {
         note("Redraw ", state, flag ? "" : " plain", button.IsOver ? " over" : "",
-             button.Value ? " on" : "");
+             button.Value ? " on" : "", button.HasFocus ? " focused" : "");
     }
     void propertyChanged(std::string_view key) override { note("mark ", key); }
     bool isUserMode() const override { return userMode; }

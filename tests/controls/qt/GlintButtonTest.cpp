@@ -16,8 +16,9 @@ using namespace skylob;
 namespace {
 
 /// A window with two buttons, the first of which writes its events down.
-struct Form {
+struct Form : QObject {
     Form() {
+        qApp->installEventFilter(this);
         window.setGeometry(100, 100, 300, 200);
         for (GlintButton* button : {&first, &second}) {
             button->design().initialiseProperties();
@@ -38,6 +39,12 @@ struct Form {
         (void)QTest::qWaitForWindowActive(&window);
     }
 
+    /// Counts the ticks of all hover timers.
+    bool eventFilter(QObject* object, QEvent* event) override {
+        const auto* timer = qobject_cast<QTimer*>(object);
+        hoverTicks += event->type() == QEvent::Timer && timer && timer->interval() == 3;
+        return false;
+    }
     template <typename Signal>
     void note(Signal signal, const QString& name) {
         QObject::connect(&first, signal, &window, [this, name] { events << name; });
@@ -74,21 +81,10 @@ struct Form {
 
     const QtShapes shapes{programDrawings()};
     QStringList events;
+    int hoverTicks = 0;
     QWidget window;
     GlintButton first{"cmdFirst", shapes, &window}, second{"cmdSecond", shapes, &window};
     GlintDesign& design = first.design();
-};
-
-/// How often the hover timers of this program have ticked.
-struct HoverTicks : QObject {
-    HoverTicks() { qApp->installEventFilter(this); }
-    bool eventFilter(QObject* object, QEvent* event) override {
-        const auto* timer = qobject_cast<QTimer*>(object);
-        count += event->type() == QEvent::Timer && timer && timer->interval() == 3;
-        return false;
-    }
-
-    int count = 0;
 };
 
 }  // namespace
@@ -155,11 +151,10 @@ class GlintButtonTest : public QObject {
         form.taken();
         form.moveTo(form.first, {20, 20});
         QCOMPARE(form.taken(), "");
-        const HoverTicks ticks;
         form.moveTo(form.first, {80, 20});
         QCOMPARE(form.taken(), "MouseIn MouseOver");
         QVERIFY(form.faceColour() != up);
-        QTRY_VERIFY(ticks.count >= 5);
+        QTRY_VERIFY(form.hoverTicks >= 5);
         QCOMPARE(form.taken(), "");
         QCursor::setPos(form.second.mapToGlobal(QPoint{5, 5}));
         QTRY_COMPARE(form.events, QStringList{"MouseOut"});
