@@ -11,172 +11,148 @@ namespace skylob::test {
 
 /// A form that is one text, "KEY=value;" for each entry. Of fonts it keeps the name alone.
 struct TextBag : PropertyBag {
+    using Key = std::string_view;
+    using Text = const std::string&;
+
     explicit TextBag(std::string form = {}) : text{std::move(form)} {}
 
-    std::string readText(std::string_view key, const std::string& fallback) const override {
+    std::string readText(Key key, Text fallback) const override {
         std::istringstream entries{text};
         for (std::string entry; std::getline(entries, entry, ';');)
             if (entry.starts_with(std::string{key} + "=")) return entry.substr(key.size() + 1);
         return fallback;
     }
-    std::int32_t readInteger(std::string_view key, std::int32_t fallback) const override {
+    int readInteger(Key key, int fallback) const override {
         return std::stoi(readText(key, std::to_string(fallback)));
     }
-    bool readBoolean(std::string_view key, bool fallback) const override {
-        return readInteger(key, fallback) != 0;
-    }
-    GlintFont readFont(std::string_view key, const GlintFont& fallback) const override {
+    bool readBoolean(Key key, bool other) const override { return readInteger(key, other) != 0; }
+    GlintFont readFont(Key key, const GlintFont& fallback) const override {
         return {.name = readText(key, fallback.name)};
     }
-    void writeText(std::string_view key, const std::string& value) override {
-        text += std::string{key} + "=" + value + ";";
-    }
-    void writeInteger(std::string_view key, std::int32_t value) override {
-        writeText(key, std::to_string(value));
-    }
-    void writeBoolean(std::string_view key, bool value) override { writeInteger(key, value); }
-    void writeFont(std::string_view key, const GlintFont& font) override {
-        writeText(key, font.name);
-    }
+    void writeText(Key key, Text value) override { text.append(key).append("=" + value + ";"); }
+    void writeInteger(Key key, int value) override { writeText(key, std::to_string(value)); }
+    void writeBoolean(Key key, bool value) override { writeInteger(key, value); }
+    void writeFont(Key key, const GlintFont& font) override { writeText(key, font.name); }
 
     std::string text;
 };
 
-static std::string written(const GlintRig& rig) {
-    TextBag bag;
-    rig.design.writeProperties(bag);
-    return bag.text;
-}
+struct GlintDesignTest : testing::Test, GlintRig {
+    std::string written() const {
+        TextBag bag;
+        design.writeProperties(bag);
+        return bag.text;
+    }
 
-/// What setting a property sets off on a pressed button that is shown, and the entry that it
-/// changes in the form.
-template <typename Value>
-static std::string effects(void (GlintDesign::*set)(Value),
-                           const std::type_identity_t<Value>& value) {
-    GlintRig rig;
-    rig.button.IsShown = true;
-    rig.button.currentState = 2;
-    std::istringstream before{written(rig)};
-    (rig.design.*set)(value);
-    std::istringstream after{written(rig)};
-    std::string all = rig.taken();
-    for (std::string was, is; std::getline(before, was, ';') && std::getline(after, is, ';');)
-        if (is != was) all += " " + is;
-    return all;
-}
+    /// What setting a property sets off on a button that was pressed.
+    template <typename Value>
+    std::string effects(void (GlintDesign::*set)(Value), const std::type_identity_t<Value>& value) {
+        button.currentState = 2;
+        (design.*set)(value);
+        return taken();
+    }
+};
 
-TEST(GlintDesign, SetsOffItsEffectsInOrder) {
+TEST_F(GlintDesignTest, SetsOffItsEffectsInOrder) {
     using D = GlintDesign;
-    EXPECT_EQ(effects(&D::setBackColor, 1), "palette;Redraw(2, true);mark BCOL; BCOL=1");
-    EXPECT_EQ(effects(&D::setBackOver, 2), "Redraw(2, true);mark BCOLO; BCOLO=2");
-    EXPECT_EQ(effects(&D::setForeColor, 3), "palette;Redraw(2, true);mark FCOL; FCOL=3");
-    EXPECT_EQ(effects(&D::setForeOver, 4), "Redraw(2, true);mark FCOLO; FCOLO=4");
-    EXPECT_EQ(effects(&D::setMaskColor, 5), "Redraw(2, true);mark MCOL; MCOL=5");
-    EXPECT_EQ(effects(&D::setButtonType, 3),
-              "layout;region 12;Redraw(2, true);mark BTYPE; BTYPE=3");
+    button.IsShown = true;
+    EXPECT_EQ(effects(&D::setBackColor, 1), "palette;Redraw 2;mark BCOL;");
+    EXPECT_EQ(effects(&D::setBackOver, 2), "Redraw 2;mark BCOLO;");
+    EXPECT_EQ(effects(&D::setForeColor, 3), "palette;Redraw 2;mark FCOL;");
+    EXPECT_EQ(effects(&D::setForeOver, 4), "Redraw 2;mark FCOLO;");
+    EXPECT_EQ(effects(&D::setMaskColor, 5), "Redraw 2;mark MCOL;");
     EXPECT_EQ(effects(&D::setButtonType, 11),
-              "capture background;layout;region 0;Redraw(2, true);mark BTYPE; BTYPE=11");
-    EXPECT_EQ(effects(&D::setCaption, "&Go"), "access key;layout;Redraw(2, true);mark TX; TX=&Go");
-    EXPECT_EQ(effects(&D::setEnabled, true), "Redraw(0, true);enabled;mark ENAB; ENAB=1");
-    EXPECT_EQ(effects(&D::setFont, {.name = "Sans"}),
-              "font;layout;Redraw(2, true);mark FONT; FONT=Sans");
-    EXPECT_EQ(effects(&D::setFontName, "Sans"), "font;layout;Redraw(2, true); FONT=Sans");
-    EXPECT_EQ(effects(&D::setColorScheme, 3), "palette;Redraw(0, true);mark COLTYPE; COLTYPE=3");
-    EXPECT_EQ(effects(&D::setShowFocusRect, true), "mark FOCUSR; FOCUSR=1");
-    EXPECT_EQ(effects(&D::setMousePointer, 2), "pointer;mark MPTR; MPTR=2");
-    EXPECT_EQ(effects(&D::setMouseIcon, "i"), "icon;mark MICON; MICON=i");
-    EXPECT_EQ(effects(&D::setSoftBevel, true), "Redraw(2, true);mark SOFT; SOFT=1");
-    EXPECT_EQ(effects(&D::setPictureNormal, "p"),
-              "measure;layout;Redraw(2, true);mark PICN; PICN=p");
-    EXPECT_EQ(effects(&D::setPicturePosition, 1), "mark PICPOS;layout;Redraw(2, true); PICPOS=1");
-    EXPECT_EQ(effects(&D::setSpecialEffect, 2), "Redraw(2, true);mark FX; FX=2");
-    EXPECT_EQ(effects(&D::setCheckBoxBehaviour, true), "mark CHECK; CHECK=1");
+              "capture background;layout;region 0;Redraw 2;mark BTYPE;");
+    EXPECT_EQ(effects(&D::setButtonType, 3), "layout;region 12;Redraw 2;mark BTYPE;");
+    EXPECT_EQ(effects(&D::setCaption, "&Go"), "access key;layout;Redraw 2;mark TX;");
+    EXPECT_EQ(effects(&D::setEnabled, true), "Redraw 0;enabled;mark ENAB;");
+    EXPECT_EQ(effects(&D::setFontName, "Serif"), "font;layout;Redraw 2;");
+    EXPECT_EQ(effects(&D::setFont, {.name = "Sans"}), "font;layout;Redraw 2;mark FONT;");
+    EXPECT_EQ(effects(&D::setColorScheme, 3), "palette;Redraw 0;mark COLTYPE;");
+    EXPECT_EQ(effects(&D::setShowFocusRect, true), "mark FOCUSR;");
+    EXPECT_EQ(effects(&D::setMousePointer, 2), "pointer;mark MPTR;");
+    EXPECT_EQ(effects(&D::setMouseIcon, "i"), "icon;mark MICON;");
+    EXPECT_EQ(effects(&D::setSoftBevel, true), "Redraw 2;mark SOFT;");
+    EXPECT_EQ(effects(&D::setPicturePosition, 1), "mark PICPOS;layout;Redraw 2;");
+    EXPECT_EQ(effects(&D::setSpecialEffect, 6), "Redraw 2;mark FX;");
     // These are drawn only where they show.
-    EXPECT_EQ(effects(&D::setUseMaskColor, true), "mark UMCOL; UMCOL=1");
-    EXPECT_EQ(effects(&D::setUseGreyscale, true), "mark NGREY; NGREY=1");
-    EXPECT_EQ(effects(&D::setPictureOver, "x"), "mark PICO; PICH=x");
-    EXPECT_EQ(effects(&D::setValue, true), "mark VALUE; VALUE=1");
-    GlintRig rig;
-    rig.button.PictureNormal = "x";
-    rig.button.IsOver = rig.button.CheckBoxBehaviour = true;
-    rig.button.currentState = 2;
-    rig.design.setUseMaskColor(true);
-    rig.design.setUseGreyscale(true);
-    rig.design.setPictureOver("y");
-    rig.design.setValue(true);
-    EXPECT_EQ(rig.taken(),
-              "Redraw(2, true);mark UMCOL;Redraw(2, true);mark NGREY;"
-              "Redraw(2, true);mark PICO;Redraw(0, true);mark VALUE;");
-    rig.design.setButtonType(11);  // not shown, it has nothing behind it to capture
-    EXPECT_EQ(rig.taken(), "layout;region 0;Redraw(0, true);mark BTYPE;");
-    rig.client = {0, 40};
-    rig.design.setButtonType(14);
-    EXPECT_EQ(rig.taken(), "layout;region 2;mark BTYPE;");
-    rig.design.setFontName("Sans");
-    rig.design.setFontSize(9);
-    rig.design.setFontBold(true);
-    rig.design.setFontItalic(true);
-    rig.design.setFontUnderline(true);
-    EXPECT_EQ(rig.surfaceFont, (GlintFont{"Sans", 9, true, true, true}));
+    EXPECT_EQ(effects(&D::setUseMaskColor, true), "mark UMCOL;");
+    EXPECT_EQ(effects(&D::setUseGreyscale, true), "mark NGREY;");
+    EXPECT_EQ(effects(&D::setPictureOver, "x"), "mark PICO;");
+    EXPECT_EQ(effects(&D::setValue, true), "mark VALUE;");
+    EXPECT_EQ(effects(&D::setPictureNormal, "p"), "measure;layout;Redraw 2 on;mark PICN;");
+    EXPECT_EQ(effects(&D::setCheckBoxBehaviour, true), "mark CHECK;");
+    EXPECT_EQ(written(),
+              "BTYPE=3;TX=&Go;ENAB=1;FONT=Sans;COLTYPE=3;FOCUSR=1;BCOL=1;BCOLO=2;FCOL=3;FCOLO=4;"
+              "MCOL=5;MPTR=2;MICON=i;PICN=p;PICH=x;UMCOL=1;SOFT=1;PICPOS=1;NGREY=1;FX=6;CHECK=1;"
+              "VALUE=1;");
+    button.IsOver = true;
+    EXPECT_EQ(effects(&D::setUseMaskColor, false), "Redraw 2 over on;mark UMCOL;");
+    EXPECT_EQ(effects(&D::setUseGreyscale, false), "Redraw 2 over on;mark NGREY;");
+    EXPECT_EQ(effects(&D::setPictureOver, "y"), "Redraw 2 over on;mark PICO;");
+    EXPECT_EQ(effects(&D::setValue, false), "Redraw 0 over;mark VALUE;");
+    button.IsShown = false;  // it has nothing behind it to capture
+    EXPECT_EQ(effects(&D::setButtonType, 11), "layout;region 0;Redraw 2 over;mark BTYPE;");
+    client = {0, 40};
+    EXPECT_EQ(effects(&D::setButtonType, 14), "layout;region 2;mark BTYPE;");
+    design.setFontName("Serif");
+    design.setFontSize(9);
+    design.setFontBold(true);
+    design.setFontItalic(true);
+    design.setFontUnderline(true);
+    EXPECT_EQ(surfaceFont, (GlintFont{"Serif", 9, true, true, true}));
 }
 
-TEST(GlintDesign, ComesFromItsFormAndGoesBack) {
+TEST_F(GlintDesignTest, ComesFromItsFormAndGoesBack) {
     const std::string form =
         "BTYPE=3;TX=&Go;ENAB=0;FONT=Sans;COLTYPE=2;FOCUSR=0;BCOL=-2147483635;BCOLO=1;FCOL=2;"
         "FCOLO=3;MCOL=4;MPTR=5;MICON=i;PICN=n;PICH=h;UMCOL=0;SOFT=1;PICPOS=4;NGREY=1;FX=2;"
         "CHECK=1;VALUE=1;";
-    GlintRig rig;
-    rig.design.readProperties(TextBag{form});
-    EXPECT_EQ(rig.taken(), "font;pointer;icon;disabled;measure;layout;access key;");
-    EXPECT_EQ(written(rig), form);
-    rig.design.readProperties(TextBag{});
-    EXPECT_EQ(written(rig),
+    design.readProperties(TextBag{form});
+    EXPECT_EQ(taken(), "font;pointer;icon;disabled;measure;layout;access key;");
+    EXPECT_EQ(written(), form);
+    design.readProperties(TextBag{});
+    EXPECT_EQ(written(),
               "BTYPE=2;TX=;ENAB=1;FONT=Ambient;COLTYPE=1;FOCUSR=1;BCOL=12632256;BCOLO=12632256;"
               "FCOL=0;FCOLO=0;MCOL=12632256;MPTR=0;MICON=;PICN=;PICH=;UMCOL=1;SOFT=0;PICPOS=0;"
               "NGREY=0;FX=0;CHECK=0;VALUE=0;");
-    rig.design.readProperties(TextBag{"BCOL=7;FCOL=8;"});  // hovering colours follow
-    EXPECT_EQ(rig.button.BackOver, 7u);
-    EXPECT_EQ(rig.button.ForeOver, 8u);
+    design.readProperties(TextBag{"BCOL=7;FCOL=8;"});  // hovering colours follow
+    EXPECT_EQ(std::pair(button.BackOver, button.ForeOver), std::pair(7u, 8u));
 }
 
-TEST(GlintDesign, TakesHoverColoursAlongOnlyAtDesignTime) {
-    using Colours = std::vector<std::uint32_t>;  // first the faces', then the captions'
-    GlintRig rig;
-    const auto over = [&] { return Colours{rig.button.BackOver, rig.button.ForeOver}; };
-    const auto drawn = [&] {
-        const GlintPalette& palette = rig.button.palette;
-        return Colours{palette.FaceOverColour.bgr(), palette.TextOverColour.bgr(),
-                       palette.MaskRGB.bgr()};
+TEST_F(GlintDesignTest, TakesHoverColoursAlongOnlyAtDesignTime) {
+    const auto over = [this] { return std::vector{button.BackOver, button.ForeOver}; };
+    const auto drawn = [&colours = button.palette] {
+        return std::vector{colours.FaceColour.bgr(), colours.TextColour.bgr(),
+                           colours.FaceOverColour.bgr(), colours.TextOverColour.bgr(),
+                           colours.MaskRGB.bgr()};
     };
-    rig.button.ColorScheme = 2;
-    rig.design.setBackColor(0x111111);
-    rig.design.setForeColor(0x222222);
-    EXPECT_EQ(over(), (Colours{0, 0}));
-    EXPECT_EQ(rig.button.palette.FaceColour.bgr(), 0x111111u);
-    EXPECT_EQ(rig.button.palette.TextColour.bgr(), 0x222222u);
-    rig.userMode = false;
-    rig.design.setBackColor(0x333333);
-    rig.design.setForeColor(0x444444);
-    EXPECT_EQ(over(), (Colours{0x333333, 0x444444}));
-    EXPECT_EQ(drawn(), (Colours{0x333333, 0x444444, 0}));
+    button.ColorScheme = 2;
+    design.setBackColor(0x111111);
+    design.setForeColor(0x222222);
+    EXPECT_EQ(over(), (std::vector{0u, 0u}));
+    userMode = false;
+    EXPECT_EQ(drawn(), (std::vector{0x111111u, 0x222222u, 0u, 0u, 0u}));
+    design.setBackColor(0x333333);
+    design.setForeColor(0x444444);
+    EXPECT_EQ(over(), (std::vector{0x333333u, 0x444444u}));
     // The palette learns of these only when it is made anew.
-    rig.design.setBackOver(0x555555);
-    rig.design.setForeOver(0x777777);
-    rig.design.setMaskColor(0x666666);
-    EXPECT_EQ(drawn(), (Colours{0x333333, 0x444444, 0}));
-    rig.interaction.ambientChanged();
-    EXPECT_EQ(drawn(), (Colours{0x555555, 0x777777, 0x666666}));
+    design.setBackOver(0x555555);
+    design.setForeOver(0x777777);
+    design.setMaskColor(0x666666);
+    EXPECT_EQ(drawn(), (std::vector{0x333333u, 0x444444u, 0x333333u, 0x444444u, 0u}));
+    interaction.ambientChanged();
+    EXPECT_EQ(drawn(), (std::vector{0x333333u, 0x444444u, 0x555555u, 0x777777u, 0x666666u}));
 }
 
-TEST(GlintDesign, PlacesANewButtonBlackOnBlack) {
-    GlintRig rig;
-    rig.design.initialiseProperties();
-    EXPECT_EQ(rig.taken(), "font;palette;layout;");
-    EXPECT_EQ(written(rig),
+TEST_F(GlintDesignTest, PlacesANewButtonBlackOnBlack) {
+    design.initialiseProperties();
+    EXPECT_EQ(taken(), "font;palette;layout;");
+    EXPECT_EQ(written(),
               "BTYPE=14;TX=cmdNew;ENAB=1;FONT=Ambient;COLTYPE=2;FOCUSR=1;BCOL=0;BCOLO=0;FCOL=0;"
               "FCOLO=0;MCOL=12632256;MPTR=0;MICON=;PICN=;PICH=;UMCOL=1;SOFT=0;PICPOS=0;NGREY=0;"
               "FX=0;CHECK=0;VALUE=0;");
-    EXPECT_EQ(rig.button.palette.MaskRGB, kBlack);
+    EXPECT_EQ(button.palette.MaskRGB, kBlack);
 }
 
 TEST(GlintLayout, PlacesCaptionAndPicture) {

@@ -11,20 +11,19 @@ constexpr auto bgr = Colour::fromBgr;
 TEST(ShiftColour, MovesEachChannelAndScalesBlueOnDemand) {
     using enum BlueShift;
     struct Row {
-        std::uint32_t colour;
+        std::uint32_t colour, expected;
         int delta;
         BlueShift blue;
         Bevel bevel;
-        std::uint32_t expected;
     };
     for (const Row& row : {
-             Row{0x102030, 48, Scaled, Bevel::Hard, 0x145060},
-             Row{0x102030, 31, Flat, Bevel::Soft, 0x1F2F3F},   // 15, not 16
-             Row{0x505050, -31, Flat, Bevel::Soft, 0x414141},  // -15, not -16
-             Row{0xFFFFFF, 47, Flat, Bevel::Hard, 0xFFFFFF},
-             Row{0x000000, -64, Flat, Bevel::Hard, 0x000000},
-             Row{0xF01020, 48, Scaled, Bevel::Hard, 0xFF4050},
-             Row{0x0A6464, -48, Scaled, Bevel::Hard, 0x083434},  // 10 - 2.5 cut to 2
+             Row{0x102030, 0x145060, 48, Scaled, Bevel::Hard},
+             Row{0x102030, 0x1F2F3F, 31, Flat, Bevel::Soft},   // 15, not 16
+             Row{0x505050, 0x414141, -31, Flat, Bevel::Soft},  // -15, not -16
+             Row{0xFFFFFF, 0xFFFFFF, 47, Flat, Bevel::Hard},
+             Row{0x000000, 0x000000, -64, Flat, Bevel::Hard},
+             Row{0xF01020, 0xFF4050, 48, Scaled, Bevel::Hard},
+             Row{0x0A6464, 0x083434, -48, Scaled, Bevel::Hard},  // 10 - 2.5 cut to 2
          }) {
         EXPECT_EQ(ShiftColour(bgr(row.colour), row.delta, row.blue, row.bevel), bgr(row.expected))
             << std::hex << row.colour << " by " << std::dec << row.delta;
@@ -58,13 +57,13 @@ TEST(RecalcColours, TakesTheColoursOfTheScheme) {
     grey.ForeOver = 0x040506;
     grey.MaskColor = 0x80000014;
     grey.ColorScheme = 2;  // the button's own colours
-    const GlintPalette own = palette(0xC0C0C0, 0x800000, 0x010203, 0x040506, 0x808080, 0xDFDFDF,
-                                     0xEFEFEF, 0x000000, 0x404040, 0xC0C0C0, 0xFFFFFF, 0xF0F0F0);
-    EXPECT_EQ(RecalcColours(grey, {}), own);
+    EXPECT_EQ(RecalcColours(grey, {}),
+              palette(0xC0C0C0, 0x800000, 0x010203, 0x040506, 0x808080, 0xDFDFDF, 0xEFEFEF,
+                      0x000000, 0x404040, 0xC0C0C0, 0xFFFFFF, 0xF0F0F0));
     grey.SoftBevel = true;
-    const GlintPalette soft = palette(0xC0C0C0, 0x800000, 0x010203, 0x040506, 0xA0A0A0, 0xCFCFCF,
-                                      0xD7D7D7, 0x606060, 0x808080, 0xC0C0C0, 0xFFFFFF, 0xD8D8D8);
-    EXPECT_EQ(RecalcColours(grey, {}), soft);
+    EXPECT_EQ(RecalcColours(grey, {}),
+              palette(0xC0C0C0, 0x800000, 0x010203, 0x040506, 0xA0A0A0, 0xCFCFCF, 0xD7D7D7,
+                      0x606060, 0x808080, 0xC0C0C0, 0xFFFFFF, 0xD8D8D8));
     grey.ButtonType = 3;
     grey.SoftBevel = false;
     grey.BackColor = 0x102030;
@@ -81,10 +80,9 @@ TEST(RecalcColours, TakesTheColoursOfTheScheme) {
         EXPECT_EQ(RecalcColours(grey, {}), fixed);
     }
     grey.ColorScheme = 4;
-    const GlintPalette container =
-        palette(0x302010, 0x302010, 0xF0E0D0, 0xF0E0D0, 0x000000, 0x4F3F2F, 0x5F4F3F, 0x000000,
-                0x800000, 0xD7B0B0, 0xFFFFFF, 0x605040);
-    EXPECT_EQ(RecalcColours(grey, {bgr(0x302010), bgr(0xF0E0D0)}), container);
+    EXPECT_EQ(RecalcColours(grey, {bgr(0x302010), bgr(0xF0E0D0)}),
+              palette(0x302010, 0x302010, 0xF0E0D0, 0xF0E0D0, 0x000000, 0x4F3F2F, 0x5F4F3F,
+                      0x000000, 0x800000, 0xD7B0B0, 0xFFFFFF, 0x605040));
 }
 
 using Bytes = std::vector<std::uint8_t>;  // blue, green, red and so on

@@ -1,10 +1,8 @@
 #pragma once
 
 #include <sstream>
-#include <string>
 #include <type_traits>
 #include <utility>
-#include <vector>
 
 #include "controls/GlintDesign.h"
 #include "controls/GlintInteraction.h"
@@ -17,13 +15,15 @@ inline std::ostream& operator<<(std::ostream& out, const GlintMouse& mouse) {
 }
 
 /// A button of 100 x 40 pixels whose surface, pointer and form write all that happens into one
-/// log. A caption takes 7 pixels for each of its bytes in one line of 10.
+/// log, a drawing with what it showed. A caption takes 7 pixels for each of its bytes in one line
+/// of 10.
 class GlintRig : public GlintSurface, public GlintPointer, public GlintEvents {
   public:
+    using Number = std::int16_t;
+
     void paint(int state, bool flag) override {
-        note("Redraw(", state, flag ? ", true)" : ", false)");
-        drawnOver = button.IsOver;
-        drawnValue = button.Value;
+        note("Redraw ", state, flag ? "" : " plain", button.IsOver ? " over" : "",
+             button.Value ? " on" : "", button.HasFocus ? " focused" : "");
     }
     void propertyChanged(std::string_view key) override { note("mark ", key); }
     bool isUserMode() const override { return userMode; }
@@ -66,11 +66,9 @@ class GlintRig : public GlintSurface, public GlintPointer, public GlintEvents {
     void raiseMouseDown(const GlintMouse& mouse) override { note("MouseDown ", mouse); }
     void raiseMouseMove(const GlintMouse& mouse) override { note("MouseMove ", mouse); }
     void raiseMouseUp(const GlintMouse& mouse) override { note("MouseUp ", mouse); }
-    void raiseKeyPress(std::int16_t key) override { note("KeyPress ", key); }
-    void raiseKeyDown(std::int16_t key, std::int16_t on) override {
-        note("KeyDown ", key, ' ', on);
-    }
-    void raiseKeyUp(std::int16_t key, std::int16_t on) override { note("KeyUp ", key, ' ', on); }
+    void raiseKeyPress(Number key) override { note("KeyPress ", key); }
+    void raiseKeyDown(Number key, Number on) override { note("KeyDown ", key, ' ', on); }
+    void raiseKeyUp(Number key, Number on) override { note("KeyUp ", key, ' ', on); }
     void raiseMouseOver() override { note("MouseOver"); }
     void raiseMouseIn() override { note("MouseIn"); }
     void raiseMouseOut() override { note("MouseOut"); }
@@ -88,8 +86,6 @@ class GlintRig : public GlintSurface, public GlintPointer, public GlintEvents {
 
     GlintState button;
     bool userMode = true, inside = true, timerRuns = false;
-    bool drawnOver = false;   ///< whether the last drawing was one under the pointer
-    bool drawnValue = false;  ///< the field that the last drawing, and what reads it, knew
     GlintSize client{100, 40};
     GlintFont surfaceFont;
     std::int16_t pointerShape = 0;

@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <string>
+#include <valarray>
 
 namespace skylob::test {
 
@@ -23,19 +24,14 @@ TEST(TitleScene, IsTheSameInEveryLoopAndOnEveryMachine) {
                            Row{3.7, "174 4875566 1484701 18026 0 248555529208 1143964"},
                            Row{3.8, "110 1714203 542453 6170 0 95805342328 1005261"},
                            Row{6.45, "111 1727967 568982 6836 0 97666774366 1119875"}}) {
-        const auto spots = TitleScene{}.at(row.seconds);
-        double x = 0, y = 0, radius = 0, ring = 0, colour = 0, alpha = 0, place = 0;
-        for (const TitleSpot& spot : spots) {
-            x += ++place * spot.x;
-            y += place * spot.y;
-            radius += place * spot.radius;
-            ring += place * spot.ringWidth;
-            colour += place * (spot.colour.pixel() & 0xFFFFFF);
-            alpha += place * spot.alpha;
-        }
-        std::string figures = std::to_string(spots.size());
-        for (const double sum : {x, y, radius, ring, colour, alpha})
-            figures.append(" ").append(std::to_string(std::llround(sum)));
+        std::valarray<double> sums(6);
+        double place = 0;
+        for (const auto& [x, y, radius, ring, colour, alpha] : TitleScene{}.at(row.seconds))
+            sums +=
+                ++place * std::valarray<double>{
+                              x, y, radius, ring, double(colour.pixel() & 0xFFFFFF), double(alpha)};
+        std::string figures = std::to_string(std::llround(place));
+        for (const double sum : sums) figures.append(" ").append(std::to_string(std::llround(sum)));
         EXPECT_EQ(figures, row.figures) << row.seconds;
     }
 }

@@ -16,18 +16,17 @@ using namespace skylob;
 namespace {
 
 /// A window with two buttons, the first of which writes its events down.
-struct Form {
+struct Form : QObject {
     Form() {
-        window.setFixedSize(300, 200);
-        window.move(100, 100);
+        qApp->installEventFilter(this);
+        window.setGeometry(100, 100, 300, 200);
         for (GlintButton* button : {&first, &second}) {
             button->design().initialiseProperties();
             button->design().setBackColor(0x735F16);
             button->design().setForeColor(0xFFFFFF);
             button->setGeometry(20, button == &first ? 20 : 100, 100, 40);
         }
-        first.design().setCaption("&First");
-        second.design().setCaption("Second");
+        design.setCaption("&First");
         note(&GlintButton::Click, "Click");
         note(&GlintButton::MouseDown, "MouseDown");
         note(&GlintButton::MouseUp, "MouseUp");
@@ -40,6 +39,12 @@ struct Form {
         (void)QTest::qWaitForWindowActive(&window);
     }
 
+    /// Counts the ticks of all hover timers.
+    bool eventFilter(QObject* object, QEvent* event) override {
+        const auto* timer = qobject_cast<QTimer*>(object);
+        hoverTicks += event->type() == QEvent::Timer && timer && timer->interval() == 3;
+        return false;
+    }
     template <typename Signal>
     void note(Signal signal, const QString& name) {
         QObject::connect(&first, signal, &window, [this, name] { events << name; });
@@ -52,26 +57,34 @@ struct Form {
             QEvent::MouseMove, QPointF{inFirst}, QPointF{QCursor::pos()}, Qt::NoButton, held, {}};
         QApplication::sendEvent(&first, &move);
     }
-    QString taken() { return std::exchange(events, {}).join(' '); }
-    QString pressed(Qt::MouseButton button) {
-        QTest::mousePress(&first, button);
+    /// The events since the last call, in brackets while the button is drawn pressed.
+    QString taken() {
+        const QString all = std::exchange(events, {}).join(' ');
+        return first.state().currentState == kStatePressed ? "(" + all + ")" : all;
+    }
+    /// The same after each action.
+    QString after(QList<QTest::MouseAction> actions, Qt::MouseButton button = Qt::LeftButton,
+                  QPoint place = {}) {
+        QStringList all;
+        for (const auto action : actions) {
+            QTest::mouseEvent(action, &first, button, {}, place);
+            all << taken();
+        }
+        return all.join(", ");
+    }
+    QString after(QTest::KeyAction action, Qt::Key key, Qt::KeyboardModifiers held = {}) {
+        QTest::keyEvent(action, window.focusWidget(), key, held);
         return taken();
     }
-    QString released(Qt::MouseButton button, QPoint place = {}) {
-        QTest::mouseRelease(&first, button, {}, place);
-        return taken();
-    }
-    QString clicked(Qt::MouseButton button) {
-        QTest::mouseClick(&first, button);
-        return taken();
-    }
-    int drawn() const { return first.state().currentState; }
-    QRgb faceColour() { return first.grab().toImage().pixel(50, 35); }
+    QColor colour(int x, int y) { return first.grab().toImage().pixelColor(x, y); }
+    QColor faceColour() { return colour(50, 35); }
 
     const QtShapes shapes{programDrawings()};
     QStringList events;
+    int hoverTicks = 0;
     QWidget window;
     GlintButton first{"cmdFirst", shapes, &window}, second{"cmdSecond", shapes, &window};
+    GlintDesign& design = first.design();
 };
 
 }  // namespace
@@ -79,62 +92,54 @@ struct Form {
 class GlintButtonTest : public QObject {
     Q_OBJECT
 
+    using enum QTest::MouseAction;
+
   private slots:
     void clicksOnceForEachPressAndRelease() {
         Form form;
-        QCOMPARE(form.clicked(Qt::LeftButton), QString{"MouseDown MouseUp Click"});
-        QCOMPARE(form.released(Qt::LeftButton), QString{"MouseUp"});  // the press is used up
-        QCOMPARE(form.clicked(Qt::RightButton), QString{"MouseDown MouseUp"});
+        // After a click the press is used up.
+        QCOMPARE(form.after({MouseClick, MouseRelease}), "MouseDown MouseUp Click, MouseUp");
+        QCOMPARE(form.after({MouseClick}, Qt::RightButton), "MouseDown MouseUp");
         // The second press of a double click arrives as such, and its release ends in a click.
-        QCOMPARE(form.clicked(Qt::LeftButton), QString{"MouseDown MouseUp Click"});
-        QTest::mouseDClick(&form.first, Qt::LeftButton);
-        QCOMPARE(form.released(Qt::LeftButton), QString{"MouseDown MouseUp Click"});
-        QCOMPARE(form.pressed(Qt::LeftButton), QString{"MouseDown"});
+        QCOMPARE(form.after({MouseClick, MouseDClick, MouseRelease}),
+                 "MouseDown MouseUp Click, (MouseDown), MouseUp Click");
+        QCOMPARE(form.after({MousePress}), "(MouseDown)");
         form.moveTo(form.second, {50, 20}, Qt::LeftButton);
-        QCOMPARE(form.drawn(), kStateUp);
-        QCOMPARE(form.released(Qt::LeftButton, {50, 100}), QString{"MouseUp"});  // dragged off
-        form.first.design().setEnabled(false);
-        QCOMPARE(form.clicked(Qt::LeftButton), QString{});
+        QCOMPARE(form.taken(), "");
+        QCOMPARE(form.after({MouseRelease}, Qt::LeftButton, {50, 100}), "MouseUp");  // dragged off
+        form.design.setEnabled(false);
         form.first.press();
-        QCOMPARE(form.taken(), QString{});
+        QCOMPARE(form.after({MouseClick}), "");
     }
 
     void isLetGoWithoutAWordWhenAWindowBlocksItsOwn() {
         Form form;
-        QCOMPARE(form.pressed(Qt::LeftButton), QString{"MouseDown"});
-        QCOMPARE(form.drawn(), kStatePressed);
+        QCOMPARE(form.after({MousePress}), "(MouseDown)");
         QDialog box;
         box.setModal(true);
         box.show();
-        QTRY_COMPARE(form.drawn(), kStateUp);
+        QTRY_COMPARE(form.first.state().currentState, kStateUp);
         box.close();
-        QCOMPARE(form.taken(), QString{});
-        // Of another press, as far as it knows.
-        QCOMPARE(form.released(Qt::LeftButton), QString{"MouseUp"});
+        QCOMPARE(form.taken(), "");
+        QCOMPARE(form.after({MouseRelease}), "MouseUp");  // of another press, as far as it knows
     }
 
     void leavesBackAndForwardAlone() {
         Form form;
-        form.clicked(Qt::LeftButton);
-        QCOMPARE(form.pressed(Qt::LeftButton), QString{"MouseDown"});
-        for (const auto button : {Qt::BackButton, Qt::ForwardButton}) {
-            QTest::mouseClick(&form.first, button);
-            QTest::mouseDClick(&form.first, button);
-        }
-        QCOMPARE(form.drawn(), kStatePressed);
-        QCOMPARE(form.released(Qt::LeftButton), QString{"MouseUp Click"});
-        QCOMPARE(form.pressed(Qt::BackButton), QString{});
-        QCOMPARE(form.drawn(), kStateUp);
-        QCOMPARE(form.pressed(Qt::MiddleButton), QString{"MouseDown"});
-        QCOMPARE(form.drawn(), kStatePressed);
-        QCOMPARE(form.released(Qt::MiddleButton), QString{"MouseUp"});
+        form.after({MouseClick});
+        QCOMPARE(form.after({MousePress}), "(MouseDown)");
+        for (const auto button : {Qt::BackButton, Qt::ForwardButton})
+            QCOMPARE(form.after({MouseClick, MouseDClick}, button), "(), ()");
+        QCOMPARE(form.after({MouseRelease}), "MouseUp Click");
+        QCOMPARE(form.after({MousePress}, Qt::BackButton), "");
+        QCOMPARE(form.after({MousePress, MouseRelease}, Qt::MiddleButton), "(MouseDown), MouseUp");
     }
 
     void hoversUntilThePointerLeaves() {
         Form form;
         form.moveTo(form.second, {5, 5});
-        const QRgb up = form.faceColour();
-        form.first.design().setBackOver(0xFFFFFF);
+        const QColor up = form.faceColour();
+        form.design.setBackOver(0xFFFFFF);
         form.first.hide();
         form.first.show();  // makes the palette anew
         QWidget cover;      // a covered part counts as outside
@@ -145,33 +150,29 @@ class GlintButtonTest : public QObject {
         (void)QTest::qWaitForWindowExposed(&cover);
         form.taken();
         form.moveTo(form.first, {20, 20});
-        QCOMPARE(form.taken(), QString{});
+        QCOMPARE(form.taken(), "");
         form.moveTo(form.first, {80, 20});
-        QCOMPARE(form.taken(), QString{"MouseIn MouseOver"});
+        QCOMPARE(form.taken(), "MouseIn MouseOver");
         QVERIFY(form.faceColour() != up);
-        QTest::qWait(30);
-        QCOMPARE(form.taken(), QString{});
+        QTRY_VERIFY(form.hoverTicks >= 5);
+        QCOMPARE(form.taken(), "");
         QCursor::setPos(form.second.mapToGlobal(QPoint{5, 5}));
-        QTRY_VERIFY(form.events.contains("MouseOut"));
+        QTRY_COMPARE(form.events, QStringList{"MouseOut"});
         QCOMPARE(form.faceColour(), up);
     }
 
     void takesSpaceAndAccessKeyButNotEnter() {
+        using enum QTest::KeyAction;
         Form form;
         form.first.setFocus();
-        QTest::keyClick(&form.first, Qt::Key_Return);
-        QCOMPARE(form.taken(), QString{"KeyPress"});
-        QTest::keyPress(&form.first, Qt::Key_Space);
-        QCOMPARE(form.drawn(), kStatePressed);
-        QTest::keyRelease(&form.first, Qt::Key_Space);
-        QCOMPARE(form.taken(), QString{"KeyPress Click"});
+        QCOMPARE(form.after(Click, Qt::Key_Return), "KeyPress");
+        QCOMPARE(form.after(Press, Qt::Key_Space), "(KeyPress)");
+        QCOMPARE(form.after(Release, Qt::Key_Space), "Click");
         form.second.setFocus();
-        QTest::keyClick(&form.window, Qt::Key_F, Qt::AltModifier);
-        QCOMPARE(form.taken(), QString{"Click"});
-        form.first.design().setCaption("Fi&rst");
-        QTest::keyClick(&form.window, Qt::Key_F, Qt::AltModifier);
-        QTest::keyClick(&form.window, Qt::Key_R, Qt::AltModifier);
-        QCOMPARE(form.taken(), QString{"Click"});
+        QCOMPARE(form.after(Click, Qt::Key_F, Qt::AltModifier), "Click");
+        form.design.setCaption("Fi&rst");
+        QCOMPARE(form.after(Click, Qt::Key_F, Qt::AltModifier), "");
+        QCOMPARE(form.after(Click, Qt::Key_R, Qt::AltModifier), "Click");
     }
 
     void showsItsFocusAndIsCutToItsStyle() {
@@ -189,34 +190,33 @@ class GlintButtonTest : public QObject {
         const QRegion shape = form.first.mask();
         QVERIFY(shape.contains(QPoint{0, 0}));
         QVERIFY(!shape.contains(QPoint{99, 0}));
-        form.first.design().setButtonType(2);
+        form.design.setButtonType(2);
         QVERIFY(form.first.mask().isEmpty());
     }
 
     void showsGlassOverWhatLiesBehind() {
         Form form;
         form.window.setPalette(QPalette{Qt::red});
-        form.first.design().setCaption("");
-        form.first.design().setBackColor(0);
-        form.first.design().setButtonType(11);
+        form.design.setCaption("");
+        form.design.setBackColor(0);
+        form.design.setButtonType(11);
         // Black with an opacity of 96 / 255 over red.
-        QVERIFY(std::abs(qRed(form.faceColour()) - 159) <= 1);
-        QCOMPARE(qGreen(form.faceColour()), 0);
+        QVERIFY(std::abs(form.faceColour().red() - 159) <= 1);
+        QCOMPARE(form.faceColour().green(), 0);
     }
 
     void greysAndBlendsItsPicture() {
         Form form;
-        form.first.design().setCaption("");
-        form.first.design().setPictureNormal("ok 16");  // #E8FDFF at 48, 23
-        const auto middle = [&] { return QColor{form.first.grab().toImage().pixel(48, 23)}; };
-        QCOMPARE(middle(), QColor{0xE8FDFF});
-        form.first.design().setUseGreyscale(true);
-        QCOMPARE(middle(), QColor(247, 247, 247));  // 70 + 149.27 + 28.05
-        form.first.design().setUseGreyscale(false);
-        form.first.design().setEnabled(false);
+        form.design.setCaption("");
+        form.design.setPictureNormal("ok 16");  // #E8FDFF at 48, 23
+        QCOMPARE(form.colour(48, 23), QColor{0xE8FDFF});
+        form.design.setUseGreyscale(true);
+        QCOMPARE(form.colour(48, 23), QColor(247, 247, 247));  // 70 + 149.27 + 28.05
+        form.design.setUseGreyscale(false);
+        form.design.setEnabled(false);
         // The dull face is #0A2B34; two thirds of the picture over it give 158, 183, 187, and the
         // dull face with an opacity of 120 / 255 over that 88, 117, 123.
-        const QColor blended = middle();
+        const QColor blended = form.colour(48, 23);
         QVERIFY(std::abs(blended.red() - 88) <= 1);
         QVERIFY(std::abs(blended.green() - 117) <= 1);
     }
@@ -225,24 +225,24 @@ class GlintButtonTest : public QObject {
         GlintButtonAccessible::install();
         Form form;
         form.first.setToolTip(" Go ");
-        form.first.design().setCaption("&Rock && Roll\nNow");
-        form.first.design().setCheckBoxBehaviour(true);
+        form.design.setCaption("&Rock && Roll\nNow");
+        form.design.setCheckBoxBehaviour(true);
         QAccessibleInterface* reader = QAccessible::queryAccessibleInterface(&form.first);
         QVERIFY(reader);
         QCOMPARE(reader->role(), QAccessible::Button);
-        QCOMPARE(reader->text(QAccessible::Name), QString{"Rock & Roll Now"});
-        QCOMPARE(reader->text(QAccessible::Description), QString{"Go"});
+        QCOMPARE(reader->text(QAccessible::Name), "Rock & Roll Now");
+        QCOMPARE(reader->text(QAccessible::Description), "Go");
         QVERIFY(reader->state().checkable);
         QVERIFY(!reader->state().checked);
         reader->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-        QCOMPARE(form.taken(), QString{"Click"});
+        QCOMPARE(form.taken(), "Click");
         QVERIFY(reader->state().checked);
         form.first.setEnabled(false);  // the widget's own, which leaves the property alone
         QVERIFY(reader->state().disabled);
         QVERIFY(form.first.state().Enabled);
-        form.first.design().setEnabled(true);
+        form.design.setEnabled(true);
         QVERIFY(!reader->state().disabled);
-        form.first.design().setEnabled(false);
+        form.design.setEnabled(false);
         QVERIFY(reader->state().disabled);
     }
 
