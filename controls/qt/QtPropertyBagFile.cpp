@@ -36,7 +36,8 @@ std::optional<GlintFont> font(const QJsonValue& value) {
 
 }  // namespace
 
-QtPropertyBagFile::QtPropertyBagFile(const QByteArray& json, const QString& name) : m_name{name} {
+QtPropertyBagFile::QtPropertyBagFile(const QByteArray& json, QString name)
+    : m_name{std::move(name)} {
     QJsonParseError error{};
     const QJsonDocument document = QJsonDocument::fromJson(json, &error);
     m_controls = document.object();

@@ -41,7 +41,7 @@ class QtPropertyBagFile {
 
     /// Reads the file's bytes; `name` stands for the file in reports. What is no JSON object is
     /// reported and counts as empty.
-    QtPropertyBagFile(const QByteArray& json, const QString& name);
+    QtPropertyBagFile(const QByteArray& json, QString name);
 
     Bag bag(const QString& control) { return Bag{*this, control}; }
 

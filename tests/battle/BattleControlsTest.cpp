@@ -149,7 +149,7 @@ TEST(Quit, SavesTheOptionsAndAsksAboutAChangedSpeed) {
                        "Would you like to keep this speed setting from now on? (?) Yes/no"}));
         std::string saved = rig.settings.get("GameSpeed", "");
         for (const char* option : {"Sound", "Trajectory", "Meteors", "Lightning", "Wind"})
-            saved += " " + rig.settings.get(std::string{option} + "Setting", "none");
+            saved.append(" ").append(rig.settings.get(std::string{option} + "Setting", "none"));
         EXPECT_EQ(saved, keep == BoxAnswer::Yes ? "42 1 0 0 1 1" : "99 1 0 0 1 1");
     }
 }
