@@ -19,4 +19,12 @@ void MemorySettings::save(std::string_view key, std::string_view value) {
     m_values.insert_or_assign(std::string{key}, std::string{value});
 }
 
+std::string MemoryWindows::recall(std::string_view key, std::string_view fallback) const {
+    return m_values.get(key, fallback);
+}
+
+void MemoryWindows::keep(std::string_view key, std::string_view value) {
+    m_values.save(key, value);
+}
+
 }  // namespace skylob

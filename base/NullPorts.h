@@ -9,6 +9,7 @@
 #include "base/Pacer.h"
 #include "base/SettingsStore.h"
 #include "base/SoundPlayer.h"
+#include "base/WindowStore.h"
 
 /// Ports that lead nowhere: for programs that want the rules without a world around them.
 namespace skylob {
@@ -40,7 +41,7 @@ class AgreeingBoxes : public MessageBoxes {
     std::optional<std::string> ask(const InputBox& box) override;
 };
 
-/// Settings that last as long as the object.
+/// Settings and memories that last as long as the object.
 class MemorySettings : public SettingsStore {
   public:
     std::string get(std::string_view key, std::string_view fallback) const override;
@@ -48,6 +49,15 @@ class MemorySettings : public SettingsStore {
 
   private:
     std::map<std::string, std::string, std::less<>> m_values;
+};
+
+class MemoryWindows : public WindowStore {
+  public:
+    std::string recall(std::string_view key, std::string_view fallback) const override;
+    void keep(std::string_view key, std::string_view value) override;
+
+  private:
+    MemorySettings m_values;
 };
 
 }  // namespace skylob

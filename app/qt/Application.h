@@ -16,6 +16,7 @@
 #include "platform/qt/QtLinkOpener.h"
 #include "platform/qt/QtPacer.h"
 #include "platform/qt/QtSettingsStore.h"
+#include "platform/qt/QtWindowStore.h"
 #include "platform/qt/SdlSoundPlayer.h"
 #include "players/PlayerFile.h"
 #include "screen/qt/QtMessageBoxes.h"
@@ -82,13 +83,14 @@ class Application : public QApplication {
     SdlSoundPlayer m_sounds;
     QtMessageBoxes m_boxes;
     QtSettingsStore m_settings;
+    QtWindowStore m_windows;
     const QtShapes m_shapes;
     QtLinkOpener m_links;
     DiskFiles m_files;
     const StringTable m_texts;
     basSkylob m_shared;
     PlayerFile m_playerFile;
-    const QtScreenPorts m_screenPorts{m_shared, m_settings, m_shapes};
+    const QtScreenPorts m_screenPorts{m_shared, m_settings, m_shapes, m_windows};
     QPointer<QtScreen> m_screen;  ///< title page, player list or battle; it may have just left
     QPointer<frmPlayGame> m_battle;
     QPointer<frmManual> m_manual;

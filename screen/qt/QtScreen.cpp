@@ -28,6 +28,7 @@ QtScreen::QtScreen(const QtScreenDesign& design, const QtScreenPorts& ports)
       m_shared{ports.shared},
       m_settings{ports.settings},
       m_shapes{ports.shapes},
+      m_windows{ports.windows},
       m_fade{new QtScreenFade{this, ports.shared, ports.settings}} {
     setObjectName(design.name);
     setWindowTitle(design.caption);

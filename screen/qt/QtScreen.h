@@ -13,6 +13,7 @@ namespace skylob {
 class QtScreenFade;
 class QtShapes;
 class SettingsStore;
+class WindowStore;
 struct basSkylob;
 
 /// What every screen needs; all of it must outlive the screen.
@@ -20,6 +21,7 @@ struct QtScreenPorts {
     basSkylob& shared;
     SettingsStore& settings;
     const QtShapes& shapes;
+    WindowStore& windows;
 };
 
 /// What one screen is to be.
@@ -76,6 +78,7 @@ class QtScreen : public QWidget {
     basSkylob& m_shared;
     SettingsStore& m_settings;
     const QtShapes& m_shapes;
+    WindowStore& m_windows;
 
   private:
     QtScreenFade* m_fade;

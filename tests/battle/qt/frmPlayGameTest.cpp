@@ -44,7 +44,7 @@ struct Screen {
         settings.save("GameSpeed", "99");
         settings.save("SoundSetting", "0");
         form = std::make_unique<frmPlayGame>(
-            QtScreenPorts{shared, settings, shapes},
+            QtScreenPorts{shared, settings, shapes, windows},
             BattlePorts{random, clock, pacer, sounds, boxes, settings});
         form->show();
         form->activateWindow();
@@ -71,6 +71,7 @@ struct Screen {
     SilentSounds sounds;
     test::QueuedBoxes boxes{log};
     MemorySettings settings;
+    MemoryWindows windows;
     std::unique_ptr<frmPlayGame> form;
 };
 

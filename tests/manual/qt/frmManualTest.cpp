@@ -19,6 +19,7 @@ class frmManualTest : public QObject {
     void showsOneTopicAtATime() {
         basSkylob shared;
         MemorySettings settings;
+        MemoryWindows windows;
         const QtShapes shapes{programDrawings()};
         StringTable texts;
         for (const int number : {1000, 1100, 1200, 1300})
@@ -26,7 +27,7 @@ class frmManualTest : public QObject {
         test::Log log;
         test::RecordingLinks links;
         test::QueuedBoxes boxes{log};
-        frmManual manual{{shared, settings, shapes}, texts, links, boxes};
+        frmManual manual{{shared, settings, shapes, windows}, texts, links, boxes};
         manual.show();
         QVERIFY(QTest::qWaitForWindowActive(&manual));
         QCOMPARE(shownBy(manual), "Program Overview|<b>Text 1000</b>\n\n&amp;|1 Program &Overview");

@@ -7,6 +7,7 @@
 #include <QTest>
 
 #include "platform/qt/QtSettingsStore.h"
+#include "platform/qt/QtWindowStore.h"
 #include "tests/support/CapturedErrors.h"
 
 using namespace skylob;
@@ -39,6 +40,12 @@ class SettingsStoreTest : public QObject {
         QVERIFY(file.open(QIODevice::ReadOnly));
         QCOMPARE(file.readAll(), "[Defaults]\nGameSpeed=7\nWindSetting=1\n");
         expectOneLine(errors.text());
+        // What belongs to windows never mixes with the settings.
+        QtWindowStore windows;
+        windows.keep("Volume", "40");
+        QCOMPARE(QtWindowStore{}.recall("Volume", "100"), "40"s);
+        QCOMPARE(windows.recall("GameSpeed", "none"), "none"s);
+        QCOMPARE(store.get("Volume", "none"), "none"s);
     }
 
     void takesDefaultsWhereThereIsNoFile() {

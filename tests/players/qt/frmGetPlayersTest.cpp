@@ -25,7 +25,8 @@ namespace skylob::test {
 /// What all screens of the players share.
 struct World : PlayersRig {
     const QtShapes shapes{programDrawings()};
-    const QtScreenPorts screenPorts{shared, settings, shapes};
+    MemoryWindows windows;
+    const QtScreenPorts screenPorts{shared, settings, shapes, windows};
 };
 
 struct LobbyScreen : World {

@@ -87,7 +87,8 @@ class QtScreenTest : public QObject {
     basSkylob shared;
     MemorySettings settings;
     const QtShapes shapes{programDrawings()};
-    const QtScreenPorts ports{shared, settings, shapes};
+    MemoryWindows windows;
+    const QtScreenPorts ports{shared, settings, shapes, windows};
 };
 
 }  // namespace skylob::test
