@@ -76,6 +76,7 @@ void Battle::chooseFirstShooter() {
 void Battle::GenerateBattlefield() {
     m_view.showCursor(BattleCursor::Hourglass);
     m_view.holdInput();
+    m_animation.scene().clear();
     generateBattlefield(m_state.field, m_ports.random, m_state.RoundNumber, m_shared.NumRounds);
     // Quirk "wide stars": the pen may still be as wide as the ground's lines of the round before.
     m_state.field.starWidth = m_state.penWidth;
@@ -145,6 +146,8 @@ void Battle::FireShell() {
     m_shots.push_back(shot);
     if (m_shared.PlayerName[shot.side] == kComputerName) m_state.LastImpactX = shot.landedAt.x;
     judgeShot(shot, m_shared, m_state);
+    if (isHit(shot.landing))
+        m_animation.scene().wrecked[m_shared.SelfHit ? shot.side : opponentOf(shot.side)] = true;
     Explode(blastOf(shot, m_state), shot.landing);
     FinishShot();
 }

@@ -2,14 +2,6 @@
 
 namespace skylob {
 
-namespace {
-
-bool isHit(Landing landing) {
-    return landing == Landing::DirectHit || landing == Landing::SelfHit;
-}
-
-}  // namespace
-
 std::string_view landingSound(Landing landing) {
     switch (landing) {
         case Landing::OutOfBounds:
@@ -30,8 +22,10 @@ void animateExplosion(FieldPoint at, Landing landing, FieldAnimation& animation,
     const int maximum = isHit(landing) ? 22 : 6;
     const int y = isHit(landing) ? at.y + 16 : at.y;
     FieldPicture& picture = animation.picture();
+    std::optional<FieldScene::Blast>& seen = animation.scene().blast;
     animation.start();
     for (int width = 2; width <= maximum; ++width) {
+        seen = {{at.x, y}, width, maximum, landing};
         for (const Colour colour : {kYellow, kWhite}) {
             picture.setPassingPoint(at.x, y, colour, width);
             animation.hold(delayCount);
@@ -39,6 +33,7 @@ void animateExplosion(FieldPoint at, Landing landing, FieldAnimation& animation,
     }
     // Quirk "no craters": the mark is seen on the screen alone and the ground stays.
     picture.setPassingPoint(at.x, y, kBlack, maximum + 1);
+    seen.reset();
     animation.show();
 }
 

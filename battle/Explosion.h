@@ -4,7 +4,8 @@
 #include <string_view>
 
 #include "battle/FieldAnimation.h"
-#include "battle/ShellFlight.h"
+#include "battle/FieldPoint.h"
+#include "battle/Landing.h"
 
 namespace skylob {
 

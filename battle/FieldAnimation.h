@@ -5,17 +5,22 @@
 #include "base/Pacer.h"
 #include "battle/BattleView.h"
 #include "battle/FieldPicture.h"
+#include "battle/FieldScene.h"
 
 namespace skylob {
 
-/// A picture that moves: what has been drawn is shown and then held for a counted wait. It only
-/// refers to its three parts, which must outlive it.
+/// A picture that moves: what has been drawn is shown and then held for a counted wait. What it is
+/// made of must outlive it.
 class FieldAnimation {
   public:
     FieldAnimation(FieldPicture& picture, BattleView& view, Pacer& pacer)
         : m_picture{picture}, m_view{view}, m_pacer{pacer} {}
 
     FieldPicture& picture() { return m_picture; }
+
+    /// What is happening, for the eyes; to be brought up to date before each hold() and show().
+    FieldScene& scene() { return m_scene; }
+    const FieldScene& scene() const { return m_scene; }
 
     /// To be called before the first hold().
     void start() { m_pacer.startPacing(); }
@@ -32,6 +37,7 @@ class FieldAnimation {
     FieldPicture& m_picture;
     BattleView& m_view;
     Pacer& m_pacer;
+    FieldScene m_scene;
 };
 
 }  // namespace skylob

@@ -3,6 +3,7 @@
 #include "base/basSkylob.h"
 #include "battle/BattleState.h"
 #include "battle/FieldAnimation.h"
+#include "battle/Landing.h"
 #include "battle/ShellFlight.h"
 
 namespace skylob {

@@ -82,10 +82,12 @@ void LightningStorm::strike(int bolts) {
 }
 
 void LightningStorm::draw(const Bolt& bolt) {
+    Bolt& seen = m_sky.animation.scene().bolts.emplace_back();
     for (const FieldPoint& at : bolt) {
         if (m_sky.effect.isInterrupted()) return;
         // Quirk "wide bolts": the pen is as the ground's lines left it, until something explodes.
         m_sky.animation.picture().setPassingPoint(at.x, at.y, kYellow, m_sky.state.penWidth);
+        seen.push_back(at);
         m_sky.animation.show();
         m_sky.effect.serveEvents();
     }
@@ -102,6 +104,7 @@ void LightningStorm::thunder(int bolts) {
 void LightningStorm::clearSky() {
     // Quirk "swept sky": this takes the trails and the marks of impacts, too.
     m_sky.animation.picture().refresh();
+    m_sky.animation.scene().bolts.clear();
     m_sky.animation.show();
 }
 

@@ -74,12 +74,14 @@ void Meteors::streak(const std::vector<FieldPoint>& points) {
         if (RandomInt(m_sky.random, 1, 20) == 10) width = kNarrow + kWide - width;
         const auto sky = picture.liftPoint(at.x, at.y, width);
         picture.setPassingPoint(at.x, at.y, kYellow, width);
+        m_sky.animation.scene().meteor.push_back(at);
         // Asked anew at each point: the game speed bar can be moved meanwhile.
         m_sky.animation.hold(meteorDelayCount(m_shared.GameSpeed));
         const bool goesOn = m_sky.effect.serveEvents();
         picture.putBack(sky);
         if (!goesOn) break;
     }
+    m_sky.animation.scene().meteor.clear();
     m_sky.animation.show();
 }
 

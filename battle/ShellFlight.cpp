@@ -1,7 +1,6 @@
 #include "battle/ShellFlight.h"
 
 #include <cmath>
-#include <cstdlib>
 
 #include "base/Rounding.h"
 
@@ -49,6 +48,8 @@ bool isFlying(FieldPoint at, const Battlefield& field) {
 FieldPoint flyShell(const Launch& launch, const Battlefield& field, Trail trail,
                     FieldAnimation& animation, std::int32_t delayCount) {
     FieldPicture& picture = animation.picture();
+    FieldScene::Flight& seen = animation.scene().flight;
+    seen = {launch.side, true, trail == Trail::Coloured, {}};
     animation.start();
 
     ShellFlight flight{launch};
@@ -58,6 +59,7 @@ FieldPoint flyShell(const Launch& launch, const Battlefield& field, Trail trail,
         const auto background = picture.liftPoint(at.x, at.y);
         picture.setPassingPoint(at.x, at.y, kYellow);
         flight.advance();
+        seen.path.push_back(at);
         animation.hold(delayCount);
         if (trail == Trail::Coloured)
             picture.setPassingPoint(at.x, at.y, trailColour(launch.side));
@@ -66,28 +68,13 @@ FieldPoint flyShell(const Launch& launch, const Battlefield& field, Trail trail,
     } while (isFlying(at, field));
 
     picture.setPassingPoint(at.x, at.y, kBlack);
+    seen.inTheAir = false;
     animation.show();
     return at;
 }
 
 std::int32_t FlightDelayCount(int gameSpeed) {
     return 49'500'001 - 500'000 * gameSpeed;
-}
-
-Landing classifyLanding(int x, int shooterX, int targetX) {
-    // Quirk "narrow field": a shell can hit the ground in the columns left out here.
-    if (x < 5 || x > 995) return Landing::OutOfBounds;
-    // Quirk "spared shooter": at a distance of 5 it is not hit, its target is.
-    if (std::abs(x - shooterX) < 5) return Landing::SelfHit;
-    const int distance = std::abs(x - targetX);
-    if (distance < 6) return Landing::DirectHit;
-    if (distance < 14) return Landing::NearMiss;
-    return Landing::Miss;
-}
-
-int nearMissKills(int menLeft, int distance) {
-    // Quirk "last man standing": of one man left this is never more than 0.
-    return roundToNearest((menLeft + 1.0) / (distance + 1));
 }
 
 }  // namespace skylob

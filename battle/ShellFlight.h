@@ -4,15 +4,9 @@
 
 #include "battle/Battlefield.h"
 #include "battle/FieldAnimation.h"
+#include "battle/FieldPoint.h"
 
 namespace skylob {
-
-/// A point of the field in whole units; a shell in flight may be outside 1..1000.
-struct FieldPoint {
-    std::int32_t x = 0, y = 0;
-
-    bool operator==(const FieldPoint&) const = default;
-};
 
 /// How a shell is fired.
 struct Launch {
@@ -55,13 +49,5 @@ FieldPoint flyShell(const Launch& launch, const Battlefield& field, Trail trail,
 
 /// The counts that a half step of flight lasts at a game speed: 1 at 99.
 std::int32_t FlightDelayCount(int gameSpeed);
-
-enum class Landing { OutOfBounds, SelfHit, DirectHit, NearMiss, Miss };
-
-/// What a shell that came down in column x has done, given the columns of both pieces.
-Landing classifyLanding(int x, int shooterX, int targetX);
-
-/// The men that a near miss kills, `distance` columns beside a piece with `menLeft` men.
-int nearMissKills(int menLeft, int distance);
 
 }  // namespace skylob

@@ -9,14 +9,17 @@ namespace skylob {
 
 /// Where the controls of one side's frame stand in it.
 struct SidePanelLayout {
-    QRect labelSpeed, scrollSpeed, labelAngle, scrollAngle, labelMenLeft, menGauge;
+    QRect labelSpeed, scrollSpeed, labelLastSpeed;
+    QRect labelAngle, scrollAngle, labelLastAngle;
+    QRect labelMenLeft, menGauge, labelLastLanding;
 };
 
 /// Where everything stands on the battle screen, in logical pixels.
 struct frmPlayGameLayout {
     QSize screen;
     QRect field;
-    PerSide<QRect> frame;  ///< the sides' frames; in the same place when only one is shown
+    QRect labelReport, labelScore;  ///< the row below the field
+    PerSide<QRect> frame;           ///< the sides' frames; in the same place when only one is shown
     bool oneFrameAtATime = false;
     SidePanelLayout inFrame;
     QRect labelRoundNumber, cmdShoot, cmdQuit;
@@ -25,7 +28,7 @@ struct frmPlayGameLayout {
     QRect strip;           ///< the frame around the options; what follows is relative to it
     QRect labelGameSpeed, scrollGameSpeed;
     bool gameSpeedInStrip = false;  ///< otherwise the two are relative to the screen, label centred
-    QRect chkSound, chkTrajectory, chkMeteors, chkLightning, chkWind;
+    QRect chkSound, scrollVolume, chkTrajectory, chkMeteors, chkLightning, chkWind, chkEffects;
 };
 
 /// The layout for a screen size: kSmallScreen fits a display of 800 x 600, kNormalScreen one of

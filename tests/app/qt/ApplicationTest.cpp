@@ -43,7 +43,7 @@ class ApplicationTest : public QObject {
         list->findChild<QCheckBox*>("chkComputer")->click();
 
         QWidget* const battle = shown("frmPlayGame");
-        QCOMPARE(battle->pos(), QPoint(2800 - 1012, 900 - 708));
+        QCOMPARE(battle->pos(), QPoint(2800 - 1012, 900 - 732));
         battle->move(100, 50);
         onceModal([battle](QWidget* summary) {
             checkAbove(summary, battle, {304, 180});
