@@ -16,5 +16,6 @@ struct BarRange {
 inline constexpr BarRange kSpeedRange{100, 999, 10};
 inline constexpr BarRange kAngleRange{10, 90, 5};
 inline constexpr BarRange kGameSpeedRange{1, 99, 10};
+inline constexpr BarRange kVolumeRange{0, 100, 10};  ///< in percent
 
 }  // namespace skylob

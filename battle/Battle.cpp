@@ -193,20 +193,34 @@ void Battle::EndSet() {
     m_view.closeBattle();
 }
 
+void Battle::readRules() {
+    m_commands.give(Deed::ReadRules, [this] {
+        setAside();
+        m_view.showRules();
+        takeUp();
+    });
+}
+
+/// The player is busy with something else over the battle.
+void Battle::setAside() {
+    m_ambientClock.stopTimers();
+    m_state.phase = Phase::Asking;
+}
+
+void Battle::takeUp() {
+    m_state.phase = Phase::Waiting;
+    m_desk.markActivity();
+    m_ambientClock.startTimers();
+}
+
 void Battle::cmdQuit_Click() {
     m_commands.give(Deed::Quit, [this] { leave(); });
 }
 
 void Battle::leave() {
     m_desk.markActivity();
-    m_ambientClock.stopTimers();
-    m_state.phase = Phase::Asking;
-    if (!confirmsLeaving(m_state, m_shared, m_ports.boxes)) {
-        m_state.phase = Phase::Waiting;
-        m_desk.markActivity();
-        m_ambientClock.startTimers();
-        return;
-    }
+    setAside();
+    if (!confirmsLeaving(m_state, m_shared, m_ports.boxes)) return takeUp();
     offerToKeepGameSpeed(m_state, m_shared, m_ports.boxes, m_ports.settings);
     // Quirk "saved by leaving": a set that is played to its end saves nothing.
     saveOptions(m_state, m_ports.settings);

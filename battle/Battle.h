@@ -46,6 +46,10 @@ class Battle {
     /// battle.
     void cmdQuit_Click();
 
+    /// The player wants to read the rules: nothing comes over the battle meanwhile. Refused while
+    /// a meteor or a storm is under way.
+    void readRules();
+
     /// The ticks of the screen's timers, which run while the panel says so.
     void timerMeteors_Timer() { m_ambientClock.timerMeteors_Timer(); }
     void timerLightning_Timer() { m_ambientClock.timerLightning_Timer(); }
@@ -86,6 +90,8 @@ class Battle {
     void EndRound();
     void EndSet();
     void leave();
+    void setAside();
+    void takeUp();
 
     basSkylob& m_shared;
     BattlePorts m_ports;

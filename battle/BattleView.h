@@ -39,6 +39,9 @@ class BattleView {
     /// Shows the summary and returns when the user has closed it.
     virtual void showSummary(SummaryKind kind) = 0;
 
+    /// Shows the rules of the game and returns when the player has read them.
+    virtual void showRules() = 0;
+
     /// The set is over or left: the screen goes. The battle that calls this is still in use
     /// until the present event has been handled.
     virtual void closeBattle() = 0;

@@ -21,6 +21,7 @@ class HeadlessView : public BattleView {
     int displayWidth() const override { return 1024; }
     void queue(std::function<void()> task) override { m_tasks.push(std::move(task)); }
     void showSummary(SummaryKind) override {}
+    void showRules() override {}
     void closeBattle() override { m_closed = true; }
 
     /// Runs what has been queued, and what that queues, to the end.

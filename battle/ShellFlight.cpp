@@ -8,12 +8,6 @@ namespace skylob {
 
 namespace {
 
-// Quirk "wide degree": not quite pi / 180, and single precision. Angles act 1.7 % wider than true
-// degrees, and every player's eye is trained on it.
-constexpr double kDegree = 0.017745329f;
-
-constexpr int kMuzzleHeight = 8;  // above the ground under the piece
-
 Colour trailColour(int side) {
     return side == 1 ? kRed : kMagenta;
 }

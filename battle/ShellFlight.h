@@ -8,6 +8,13 @@
 
 namespace skylob {
 
+/// Quirk "wide degree": not quite pi / 180, and single precision. Angles act 1.7 % wider than true
+/// degrees, and every player's eye is trained on it.
+inline constexpr double kDegree = 0.017745329f;
+
+/// Where a shell leaves its piece, above the ground under it.
+inline constexpr int kMuzzleHeight = 8;
+
 /// How a shell is fired.
 struct Launch {
     int side;    ///< 1 fires to the right, 2 to the left

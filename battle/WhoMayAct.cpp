@@ -15,6 +15,7 @@ bool isAllowed(Deed deed, Phase phase) {
         case Deed::Shoot:
         case Deed::Quit:
         case Deed::BeginEffect:
+        case Deed::ReadRules:
             break;
     }
     return phase == Phase::Waiting;
@@ -25,7 +26,8 @@ bool isAllowed(Deed deed, Phase phase) {
 Verdict verdictOn(Deed deed, Phase phase, bool effectIsUnderWay) {
     if (!isAllowed(deed, phase)) return Verdict::No;
     if (!effectIsUnderWay || deed == Deed::Aim || deed == Deed::ChangeOption) return Verdict::Now;
-    return deed == Deed::BeginEffect ? Verdict::No : Verdict::AfterTheEffect;
+    const bool canWait = deed != Deed::BeginEffect && deed != Deed::ReadRules;
+    return canWait ? Verdict::AfterTheEffect : Verdict::No;
 }
 
 bool isStillWanted(Deed deed, Phase phase) {

@@ -20,6 +20,7 @@ enum class Deed {
     ChangeOption,    ///< sound, trajectory, wind, game speed
     ClickEffectBox,  ///< meteors, lightning
     BeginEffect,     ///< a meteor or a storm, by its timer
+    ReadRules,       ///< in the manual
 };
 
 enum class Verdict { No, Now, AfterTheEffect };

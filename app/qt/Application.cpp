@@ -7,6 +7,7 @@
 #include "app/qt/QtProgramEnd.h"
 #include "app/qt/QtProgramTexts.h"
 #include "base/NullPorts.h"
+#include "base/Volume.h"
 #include "battle/qt/frmPlayGame.h"
 #include "controls/qt/GlintButtonAccessible.h"
 #include "manual/qt/frmManual.h"
@@ -27,6 +28,7 @@ enum class Application::Event {
     TitlePageContinued,
     TitlePageClosed,
     HelpWanted,
+    RulesWanted,
     ComputerChallenged,
     PlayersChosen,
     RoundDecided,
@@ -48,6 +50,8 @@ void Application::after(Event event) {
             return endProgram();
         case Event::HelpWanted:
             return showManual();  // beside the player list
+        case Event::RulesWanted:
+            return showRules();  // over the battle
         case Event::ComputerChallenged:
             return showSkillLevel();  // over the player list
         case Event::PlayersChosen:
@@ -72,6 +76,7 @@ Application::Application(int& argc, char** argv, const CommandLine& commandLine)
     GlintButtonAccessible::install();
     QtLinkLabel::installAccessible();
     QtScreen::installAccessible();
+    m_sounds.setVolume(recallVolume(m_windows));
     setApplicationName(QStringLiteral("Skylob"));
     // One screen may close before the next is shown.
     setQuitOnLastWindowClosed(false);
@@ -159,6 +164,11 @@ void Application::showManual() {
     m_manual->activateWindow();
 }
 
+void Application::showRules() {
+    frmManual rules{m_screenPorts, m_texts, m_links, m_boxes, ManualTopic::Rules};
+    showOver(rules);
+}
+
 void Application::showSkillLevel() {
     frmGetSkillLevel question{m_screenPorts};
     centreOnDisplay(question, m_screen);
@@ -169,7 +179,10 @@ void Application::showBattle() {
     m_battle =
         new frmPlayGame{m_screenPorts, {m_random, m_clock, m_pacer, m_sounds, m_boxes, m_settings}};
     on(m_battle.get(), &frmPlayGame::roundDecided, Event::RoundDecided);
+    on(m_battle.get(), &frmPlayGame::rulesWanted, Event::RulesWanted);
     on(m_battle.get(), &frmPlayGame::setDecided, Event::SetDecided);
+    connect(m_battle, &frmPlayGame::volumeChosen, this,
+            [this](int percent) { m_sounds.setVolume(percent); });
     onLeaving(m_battle.get(), &frmPlayGame::battleClosed, Event::BattleLeft);
     show(m_battle);
 }

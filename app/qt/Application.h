@@ -70,6 +70,7 @@ class Application : public QApplication {
     void showNewUser();
     void showPlayerList();
     void showManual();
+    void showRules();
     void showSkillLevel();
     void showBattle();
     void showSummary(SummaryKind kind);

@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QScrollBar>
 
+#include "battle/qt/QtBarInput.h"
 #include "battle/qt/QtMenGauge.h"
 #include "look/qt/QtColour.h"
 
@@ -35,6 +36,7 @@ QScrollBar* makeScrollBar(const QString& name, const BarRange& range, const QRec
     widget->setFocusPolicy(Qt::StrongFocus);
     // A scroll bar takes "right" and "up" for less, as it suits a document; here it sets a value.
     widget->setInvertedControls(false);
+    new QtBarWheel{widget};
     return widget;
 }
 
@@ -55,6 +57,8 @@ QtSidePanel::QtSidePanel(int side, const QString& caption, const SidePanelLayout
     m_menGauge->setGeometry(layout.menGauge);
     m_scrollSpeed->setAccessibleName(tr("Speed"));
     m_scrollAngle->setAccessibleName(tr("Angle"));
+    new QtBarDigits{m_scrollSpeed, kSpeedRange};
+    new QtBarDigits{m_scrollAngle, kAngleRange};
     connect(m_scrollSpeed, &QScrollBar::valueChanged, this,
             [this](int value) { emit speedMoved(this->side(), value); });
     connect(m_scrollAngle, &QScrollBar::valueChanged, this,

@@ -12,7 +12,10 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/Volume.h"
+#include "battle/qt/QtDragAim.h"
 #include "battle/qt/QtEffectTimers.h"
+#include "battle/qt/QtHints.h"
 #include "battle/qt/QtSidePanel.h"
 #include "battle/qt/frmPlayGameLayout.h"
 #include "battle/qt/picGameField.h"
@@ -42,6 +45,7 @@ frmPlayGame::frmPlayGame(const QtScreenPorts& screen, const BattlePorts& ports)
       m_gate{new QtInputGate{this}},
       m_timers{new QtEffectTimers{this, m_battle}},
       m_field{new picGameField{m_battle.picture(), m_shapes, this}} {
+    new QtDragAim{m_field, m_battle};
     m_field->setGeometry(m_layout.field);
     makeSidePanels();
     makeButtons();
@@ -109,6 +113,11 @@ void frmPlayGame::makeOptions() {
     scrollGameSpeed->setAccessibleName(tr("Game speed"));
 
     chkSound = makeBox("chkSound", tr("S&ound"), m_layout.chkSound, strip);
+    scrollVolume =
+        makeScrollBar(QStringLiteral("scrollVolume"), kVolumeRange, m_layout.scrollVolume, strip);
+    scrollVolume->setAccessibleName(tr("Volume"));
+    scrollVolume->setToolTip(tr(" How loud sounds are "));
+    scrollVolume->setValue(recallVolume(m_windows));
     chkTrajectory = makeBox("chkTrajectory", tr("&Trajectory"), m_layout.chkTrajectory, strip);
     chkMeteors = makeBox("chkMeteors", tr("&Meteors"), m_layout.chkMeteors, strip);
     chkLightning = makeBox("chkLightning", tr("&Lightning"), m_layout.chkLightning, strip);
@@ -131,6 +140,7 @@ void frmPlayGame::connectControls() {
         connect(m_side[side], &QtSidePanel::angleMoved, this,
                 [this](int which, int value) { m_battle.aims().setAngle(which, value); });
     }
+    connect(scrollVolume, &QScrollBar::valueChanged, this, &frmPlayGame::volumeChosen);
     BattleOptions& options = m_battle.options();
     connect(scrollGameSpeed, &QScrollBar::valueChanged, this,
             [&options](int value) { options.setGameSpeed(value); });
@@ -156,9 +166,11 @@ void frmPlayGame::addShortcuts() {
     };
     const auto shooterSide = [this] { return m_side[m_battle.state().Shooter]; };
     onKey(Qt::Key_Escape, [this] { m_battle.cmdQuit_Click(); });
+    onKey(Qt::Key_F1, [this] { m_battle.readRules(); });
     onKey(Qt::ALT | Qt::Key_P, [shooterSide] { shooterSide()->scrollSpeed()->setFocus(); });
     onKey(Qt::ALT | Qt::Key_A, [shooterSide] { shooterSide()->scrollAngle()->setFocus(); });
     onKey(Qt::ALT | Qt::Key_G, [this] { scrollGameSpeed->setFocus(); });
+    onKey(Qt::ALT | Qt::Key_V, [this] { scrollVolume->setFocus(); });
     onKey(Qt::ALT | Qt::Key_W, [this] { chkWind->click(); });
     if (!m_layout.shootHasCaption)
         onKey(Qt::ALT | Qt::Key_S, [this] { m_battle.cmdShoot_Click(); });
@@ -173,6 +185,7 @@ void frmPlayGame::setTabOrder() {
                                 cmdQuit,
                                 scrollGameSpeed,
                                 chkSound,
+                                scrollVolume,
                                 chkTrajectory,
                                 chkMeteors,
                                 chkLightning,
@@ -239,10 +252,19 @@ void frmPlayGame::showCommands(const BattlePanel& panel) {
     if (wereEnabled && !panel.commandsEnabled) m_focusStaysOnShoot = cmdShoot->hasFocus();
     for (GlintButton* button : {cmdShoot, cmdQuit}) enable(*button, panel.commandsEnabled);
     for (QWidget* command :
-         std::initializer_list<QWidget*>{labelGameSpeed, scrollGameSpeed, chkSound, chkTrajectory,
-                                         chkMeteors, chkLightning, chkWind})
+         std::initializer_list<QWidget*>{labelGameSpeed, scrollGameSpeed, chkSound, scrollVolume,
+                                         chkTrajectory, chkMeteors, chkLightning, chkWind})
         command->setEnabled(panel.commandsEnabled);
     if (!wereEnabled && panel.commandsEnabled) moveFocusToTurn(panel.turn);
+    showHints(panel);
+}
+
+/// From a new player's first turn to the shot.
+void frmPlayGame::showHints(const BattlePanel& panel) {
+    if (m_hints && !panel.commandsEnabled)
+        m_hints->end();
+    else if (panel.commandsEnabled && QtHints::areWanted(m_windows))
+        m_hints = new QtHints{m_side[panel.turn], cmdShoot, m_layout.labelReport, m_windows};
 }
 
 void frmPlayGame::moveFocusToTurn(int turn) {
@@ -282,8 +304,13 @@ void frmPlayGame::showSummary(SummaryKind kind) {
         emit setDecided();
 }
 
+void frmPlayGame::showRules() {
+    emit rulesWanted();
+}
+
 void frmPlayGame::closeBattle() {
     m_timers->end();
+    keepVolume(m_windows, scrollVolume->value());
     leave([this] { emit battleClosed(); });
 }
 

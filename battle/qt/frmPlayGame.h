@@ -12,6 +12,7 @@ namespace skylob {
 
 class GlintButton;
 class QtEffectTimers;
+class QtHints;
 class QtInputGate;
 class QtSidePanel;
 class picGameField;
@@ -34,6 +35,12 @@ class frmPlayGame : public QtScreen, private BattleView {
     void roundDecided();
     void setDecided();
 
+    /// The receiver is to show the rules of the game, and to return when they have been read.
+    void rulesWanted();
+
+    /// How loud sounds are to be from now on, in percent.
+    void volumeChosen(int percent);
+
     /// The set is over or has been left; the screen is hidden. Receivers must not delete it
     /// before the present event has been handled.
     void battleClosed();
@@ -54,6 +61,7 @@ class frmPlayGame : public QtScreen, private BattleView {
     int displayWidth() const override;
     void queue(std::function<void()> task) override;
     void showSummary(SummaryKind kind) override;
+    void showRules() override;
     void closeBattle() override;
 
     void makeSidePanels();
@@ -66,6 +74,7 @@ class frmPlayGame : public QtScreen, private BattleView {
     void setTabOrder();
     QString caption(int side) const;
     void showCommands(const BattlePanel& panel);
+    void showHints(const BattlePanel& panel);
     void moveFocusToTurn(int turn);
     void fitField();
 
@@ -76,11 +85,12 @@ class frmPlayGame : public QtScreen, private BattleView {
     picGameField* m_field;
     PerSide<QtSidePanel*> m_side;
     QLabel *labelRoundNumber, *labelGameSpeed;
-    QScrollBar* scrollGameSpeed;
+    QScrollBar *scrollGameSpeed, *scrollVolume;
     GlintButton *cmdShoot, *cmdQuit;
     QCheckBox *chkSound, *chkTrajectory, *chkMeteors, *chkLightning, *chkWind;
     int m_displayWidth = 0;  ///< that the field was drawn for
     bool m_focusStaysOnShoot = false;
+    QtHints* m_hints = nullptr;
 };
 
 }  // namespace skylob

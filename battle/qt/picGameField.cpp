@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "battle/qt/QtDragAim.h"
 #include "look/qt/QtShapes.h"
 
 namespace skylob {
@@ -60,11 +61,15 @@ void picGameField::paintEvent(QPaintEvent* event) {
 
 void picGameField::mousePressEvent(QMouseEvent* event) {
     m_pressedPiece = event->button() == Qt::LeftButton ? pieceAt(event->position()) : 0;
+    m_pressedAt = event->position();
 }
 
 void picGameField::mouseReleaseEvent(QMouseEvent* event) {
     const int pressed = std::exchange(m_pressedPiece, 0);
-    if (pressed != 0 && pieceAt(event->position()) == pressed) emit pieceClicked(pressed);
+    const bool wasDragged =
+        (event->position() - m_pressedAt).manhattanLength() > QtDragAim::kClickReach;
+    if (pressed != 0 && !wasDragged && pieceAt(event->position()) == pressed)
+        emit pieceClicked(pressed);
 }
 
 bool picGameField::event(QEvent* event) {
@@ -83,6 +88,15 @@ bool picGameField::event(QEvent* event) {
 QRectF picGameField::logical(const PixelRect& area) const {
     const qreal ratio = devicePixelRatioF();
     return {area.x / ratio, area.y / ratio, area.width / ratio, area.height / ratio};
+}
+
+FieldPoint picGameField::fieldPoint(QPointF position) const {
+    return {qRound(1 + position.x() * 999 / std::max(1, width() - 1)),
+            qRound(1000 - position.y() * 999 / std::max(1, height() - 1))};
+}
+
+QPointF picGameField::widgetPoint(FieldPoint point) const {
+    return {(point.x - 1) * (width() - 1) / 999.0, (1000 - point.y) * (height() - 1) / 999.0};
 }
 
 int picGameField::pieceAt(QPointF position) const {

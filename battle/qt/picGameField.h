@@ -3,6 +3,7 @@
 #include <QWidget>
 
 #include "battle/FieldPicture.h"
+#include "battle/FieldPoint.h"
 
 namespace skylob {
 
@@ -20,6 +21,13 @@ class picGameField : public QWidget {
     /// without pieces afterwards. False when it had that size already and was left alone.
     bool fitPicture();
 
+    /// Whose piece stands at a position of this widget; 0 where there is none.
+    int pieceAt(QPointF position) const;
+
+    /// The point of the field at a position of this widget, and the other way about.
+    FieldPoint fieldPoint(QPointF position) const;
+    QPointF widgetPoint(FieldPoint point) const;
+
     /// Brings what has changed in the picture to the display before it returns.
     void showChanges();
 
@@ -35,11 +43,11 @@ class picGameField : public QWidget {
 
   private:
     QRectF logical(const PixelRect& area) const;
-    int pieceAt(QPointF position) const;
 
     FieldPicture& m_picture;
     const QtShapes& m_shapes;
     int m_pressedPiece = 0;
+    QPointF m_pressedAt;
 };
 
 }  // namespace skylob

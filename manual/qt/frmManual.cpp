@@ -22,6 +22,7 @@ struct Topic {
     int text;  ///< number in the string table
 };
 
+/// In the order of ManualTopic.
 constexpr Topic kTopics[] = {{"Program &Overview", 1000},
                              {"The &Player List", 1100},
                              {"&Rules of a Game", 1200},
@@ -35,7 +36,7 @@ QString captionOf(const QAction& item) {
 }  // namespace
 
 frmManual::frmManual(const QtScreenPorts& ports, const StringTable& texts, LinkOpener& links,
-                     MessageBoxes& boxes)
+                     MessageBoxes& boxes, ManualTopic topic)
     : QtScreen{{.name = QStringLiteral("frmManual"),
                 .caption = QStringLiteral(" Skylob - Help Window"),
                 .size = {720, 540}},
@@ -57,7 +58,7 @@ frmManual::frmManual(const QtScreenPorts& ports, const StringTable& texts, LinkO
     makeMenu();
     makeButtons();
     txtManual->setFocus();
-    menuHelpTopic_Click(0);
+    menuHelpTopic_Click(static_cast<int>(topic));
 }
 
 void frmManual::makeMenu() {

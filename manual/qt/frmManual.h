@@ -14,14 +14,17 @@ namespace skylob {
 
 class GlintButton;
 
-/// The manual: one topic at a time, which can be printed. Other screens go on beside it.
+enum class ManualTopic { Overview, PlayerList, Rules, Strategy };
+
+/// The manual: one topic at a time, which can be printed. Other screens go on beside it,
+/// unless it is shown with showModal().
 class frmManual : public QtScreen {
     Q_OBJECT
 
   public:
     /// `texts` with 1000, 1100, 1200 and 1300. All arguments must outlive the screen.
     frmManual(const QtScreenPorts& ports, const StringTable& texts, LinkOpener& links,
-              MessageBoxes& boxes);
+              MessageBoxes& boxes, ManualTopic topic = ManualTopic::Overview);
 
   signals:
     /// The user has had enough; the screen is hidden. Receivers must not delete it before the

@@ -78,6 +78,7 @@ void SdlSoundDevice::open() {
     if (openAudio()) {
         Mix_AllocateChannels(1);
         m_state = State::Open;
+        setVolume(m_volume);
     } else {
         m_state = State::Missing;
         std::fprintf(stderr, "skylob: no sound: %s\n", SDL_GetError());
@@ -103,6 +104,11 @@ void SdlSoundDevice::play(const QByteArray& waveFile) {
     if (!sound) return;
     Mix_PlayChannel(kTheOneChannel, sound.get(), 0);
     m_sound = std::move(sound);
+}
+
+void SdlSoundDevice::setVolume(int percent) {
+    m_volume = percent;
+    if (isOpen()) Mix_Volume(kTheOneChannel, percent * MIX_MAX_VOLUME / 100);
 }
 
 bool SdlSoundDevice::isPlaying() const {

@@ -29,6 +29,9 @@ class SdlSoundDevice {
     /// open, nor with a file that cannot be played.
     void play(const QByteArray& waveFile);
 
+    /// How loud what plays and what will play is, 0 to 100 percent.
+    void setVolume(int percent);
+
     bool isPlaying() const;
 
   private:
@@ -38,6 +41,7 @@ class SdlSoundDevice {
 
     enum class State { Closed, Open, Missing };
     State m_state = State::Closed;
+    int m_volume = 100;
     std::unique_ptr<Mix_Chunk, FreeChunk> m_sound;
 };
 

@@ -38,6 +38,7 @@ struct SdlSoundPlayer::Desk {
     std::mutex mutex;
     std::condition_variable changed;
     std::optional<QByteArray> next;  ///< the sound to be played
+    int volume = 100;                ///< percent
     bool isPlaying = false;
     bool isClosing = false;  ///< there will be no sounds any more
     bool isServed = false;   ///< the thread runs
@@ -59,6 +60,11 @@ void SdlSoundPlayer::PlaySound(std::string_view name) {
     m_desk->changed.notify_all();
     if (!m_desk->isServed) std::thread{[desk = m_desk] { serve(desk); }}.detach();
     m_desk->isServed = true;
+}
+
+void SdlSoundPlayer::setVolume(int percent) {
+    const std::lock_guard lock{m_desk->mutex};
+    m_desk->volume = percent;
 }
 
 bool SdlSoundPlayer::isPlaying() const {
@@ -86,6 +92,7 @@ void SdlSoundPlayer::serve(const std::shared_ptr<Desk>& desk) {
     for (;;) {
         const auto pause = desk->isPlaying ? kLook : device.isOpen() ? kSilence : kLong;
         const bool wanted = desk->changed.wait_for(lock, pause, isWanted);
+        device.setVolume(desk->volume);
         if (desk->next) {
             unlocked([&] { device.open(); });
             // That may have taken a while: the newest by now.

@@ -25,6 +25,10 @@ class SdlSoundPlayer final : public SoundPlayer {
 
     void PlaySound(std::string_view name) override;
 
+    /// How loud sounds are from now on, one that plays included: 0 to 100 percent, which is what
+    /// it begins with.
+    void setVolume(int percent);
+
     /// True while a sound can be heard, or waits for the device to open.
     bool isPlaying() const;
 

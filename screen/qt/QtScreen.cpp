@@ -34,7 +34,6 @@ QtScreen::QtScreen(const QtScreenDesign& design, const QtScreenPorts& ports)
     setWindowTitle(design.caption);
     applyLook(*this);
     setFixedSize(design.size);
-    if (design.type == Qt::Dialog) setWindowModality(Qt::ApplicationModal);
     if (design.fadesIn) m_fade->load();
 }
 
@@ -43,6 +42,7 @@ void QtScreen::installAccessible() {
 }
 
 void QtScreen::showModal(const QWidget* above) {
+    setWindowModality(Qt::ApplicationModal);
     keepAbove(*this, above);
     QEventLoop loop;
     const QScopedValueRollback waiting{m_modalLoop, &loop};

@@ -119,6 +119,19 @@ TEST(Quit, AsksOnlyBetweenTheFirstRoundAndTheLast) {
     }
 }
 
+TEST_F(BattleControls, NothingComesOverTheBattleWhileTheRulesAreRead) {
+    view.onShowRules = [&] {
+        EXPECT_EQ(timers(), "");
+        clock.time += std::chrono::seconds{99};
+    };
+    log.clear();
+    battle.readRules();
+    EXPECT_EQ(log, Log{"rules"});
+    EXPECT_EQ(timers(), "ML");
+    EXPECT_EQ(state().TurnStartTime, clock.time);
+    EXPECT_TRUE(panel().commandsEnabled);
+}
+
 TEST_F(BattleControls, QuitStaysOnNo) {
     shoot({100, 90});
     boxes.answers = {BoxAnswer::No};

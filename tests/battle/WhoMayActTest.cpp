@@ -10,7 +10,8 @@ TEST(WhoMayAct, IsOneTable) {
     using enum Deed;
     using enum Phase;
     std::string verdicts;  // a letter a phase, without and during an effect: now, later (after it)
-    for (const Deed deed : {Deed::Aim, Shoot, Quit, ChangeOption, ClickEffectBox, BeginEffect})
+    for (const Deed deed :
+         {Deed::Aim, Shoot, Quit, ChangeOption, ClickEffectBox, BeginEffect, ReadRules})
         for (const bool effect : {false, true}) {
             verdicts += effect ? '/' : ' ';
             for (const Phase phase : {Setup, Turn, Waiting, Asking, Shot, Left})
@@ -18,7 +19,8 @@ TEST(WhoMayAct, IsOneTable) {
         }
     EXPECT_EQ(
         verdicts,
-        " -nnn-n/-nnn-n --n---/--l--- --n---/--l--- --nn--/--nn-- --nn--/--ll-- --n---/------");
+        " -nnn-n/-nnn-n --n---/--l--- --n---/--l--- --nn--/--nn-- --nn--/--ll-- --n---/------ "
+        "--n---/------");
     // A shot may have ended the turn by the time that those behind it come.
     EXPECT_TRUE(isStillWanted(Quit, Waiting));
     EXPECT_TRUE(isStillWanted(ClickEffectBox, Shot));

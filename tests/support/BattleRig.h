@@ -27,6 +27,10 @@ struct RecordingView : HeadlessView {
     void showSummary(SummaryKind kind) override {
         log.push_back(kind == SummaryKind::Round ? "summary Round" : "summary Set");
     }
+    void showRules() override {
+        log.push_back("rules");
+        if (onShowRules) onShowRules();
+    }
     void showCursor(BattleCursor cursor) override {
         if (cursor == BattleCursor::Hourglass) log.push_back("hourglass");
     }
@@ -36,7 +40,7 @@ struct RecordingView : HeadlessView {
     }
 
     Log& log;
-    std::function<void()> onShowField;
+    std::function<void()> onShowField, onShowRules;
     bool inputHeld = false;
     int width = 801, panelsShown = 0;
 };

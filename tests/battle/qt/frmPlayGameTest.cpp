@@ -1,5 +1,3 @@
-#include "battle/qt/frmPlayGame.h"
-
 #include <QAbstractButton>
 #include <QCheckBox>
 #include <QDialog>
@@ -14,68 +12,11 @@
 
 #include "battle/qt/picGameField.h"
 #include "controls/qt/GlintButton.h"
-#include "look/qt/QtShapes.h"
 #include "screen/qt/QtMessageBoxes.h"
-#include "tests/support/BattleRig.h"
+#include "tests/support/BattleScreen.h"
 
 using namespace skylob;
-
-namespace {
-
-/// Runs a script at every counted wait, that is while a shell is in the air.
-class InterruptedPacer : public InstantPacer {
-  public:
-    void countedWait(std::int32_t) override {
-        if (duringFlight) duringFlight();
-    }
-    void yieldToEvents() override {
-        QCoreApplication::processEvents();
-        if (atYield) atYield();
-    }
-    std::function<void()> duringFlight, atYield;
-};
-
-/// The battle screen, shown, on the field that chance of 0.5 makes (see test::BattleRig).
-struct Screen {
-    explicit Screen(int size = 2, std::string name = "Ann", std::string opponent = "Bob") {
-        shared.PlayerName = {std::move(name), std::move(opponent)};
-        shared.ScreenSize = size;
-        shared.NumRounds = 5;
-        settings.save("GameSpeed", "99");
-        settings.save("SoundSetting", "0");
-        form = std::make_unique<frmPlayGame>(
-            QtScreenPorts{shared, settings, shapes, windows},
-            BattlePorts{random, clock, pacer, sounds, boxes, settings});
-        form->show();
-        form->activateWindow();
-        (void)QTest::qWaitForWindowActive(form.get());
-    }
-
-    QScrollBar* bar(const char* name) { return form->findChild<QScrollBar*>(name); }
-    QCheckBox* box(const char* name) { return form->findChild<QCheckBox*>(name); }
-    GlintButton* shoot() { return form->findChild<GlintButton*>("cmdShoot"); }
-    picGameField* field() { return form->findChild<picGameField*>(); }
-    bool shows(const QString& text) {
-        for (const QLabel* label : form->findChildren<QLabel*>())
-            if (label->text() == text && label->isVisible()) return true;
-        return false;
-    }
-    std::size_t shots() const { return form->battle().shots().size(); }
-
-    const QtShapes shapes{programDrawings()};
-    test::Log log;
-    basSkylob shared;
-    test::ScriptedRandom random{{0.1}, 0.5};  // the first shooter is side 1
-    test::HandSetClock clock;
-    InterruptedPacer pacer;
-    SilentSounds sounds;
-    test::QueuedBoxes boxes{log};
-    MemorySettings settings;
-    MemoryWindows windows;
-    std::unique_ptr<frmPlayGame> form;
-};
-
-}  // namespace
+using test::Screen;
 
 class frmPlayGameTest : public QObject {
     Q_OBJECT
@@ -206,7 +147,7 @@ class frmPlayGameTest : public QObject {
                     QVERIFY2(widget->sizeHint().width() <= widget->width(), name);
             }
             keys.removeAll({});
-            QCOMPARE(keys.size(), 11);  // S Q O T M L, W P A G, Esc
+            QCOMPARE(keys.size(), 13);  // S Q O T M L, W P A G V, F1, Esc
             QCOMPARE(keys.removeDuplicates(), 0);
             QCOMPARE(screen.shoot()->plainCaption().isEmpty(), size == 1);
             QCOMPARE(screen.shoot()->toolTip(),

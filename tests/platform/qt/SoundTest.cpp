@@ -28,13 +28,24 @@ class Capture {
 
     /// The last frame that is louder than silence.
     qint64 lastLoudFrame() const {
-        QFile file{name};
-        if (!file.open(QIODevice::ReadOnly)) return -1;
-        const QByteArray bytes = file.readAll();
-        const auto* samples = reinterpret_cast<const qint16*>(bytes.constData());
-        qint64 last = bytes.size() / 2 - 1;
-        while (last >= 0 && std::abs(samples[last]) < 300) --last;
+        const QList<qint16> heard = samples();
+        qint64 last = heard.size() - 1;
+        while (last >= 0 && std::abs(heard[last]) < 300) --last;
         return last;
+    }
+
+    int loudest() const {
+        int most = 0;
+        for (const qint16 sample : samples()) most = std::max(most, std::abs(sample));
+        return most;
+    }
+
+    QList<qint16> samples() const {
+        QFile file{name};
+        if (!file.open(QIODevice::ReadOnly)) return {};
+        const QByteArray bytes = file.readAll();
+        const auto* first = reinterpret_cast<const qint16*>(bytes.constData());
+        return {first, first + bytes.size() / 2};
     }
 
     const QTemporaryDir folder;
@@ -72,6 +83,22 @@ class SoundTest : public QObject {
         QTRY_VERIFY(!player.isPlaying());
         QCOMPARE_GT(capture.lastLoudFrame(), kRate);
         QCOMPARE_LT(capture.lastLoudFrame(), 2 * kRate);
+    }
+
+    void onlyAttenuates() {
+        int loudest[] = {0, 0, 0};
+        const int volumes[] = {100, 50, 0};
+        for (int i = 0; i < 3; ++i) {
+            const Capture capture;
+            SdlSoundPlayer player;
+            player.setVolume(volumes[i]);
+            player.PlaySound("shot");
+            QTRY_VERIFY(!player.isPlaying());
+            loudest[i] = capture.loudest();
+        }
+        QCOMPARE_GT(loudest[0], 3000);
+        QVERIFY(std::abs(loudest[0] - 2 * loudest[1]) <= 4);
+        QCOMPARE(loudest[2], 0);
     }
 
     void cutsOffTheSoundThatPlays() {
