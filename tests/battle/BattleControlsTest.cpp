@@ -11,6 +11,8 @@ TEST_F(BattleControls, BarsKeepToTheirRangesAndClickOnEveryChange) {
     aim(2, {99, 91});
     EXPECT_EQ(labels(1), "Speed: 999, Angle:   10, Men Left: 100");
     EXPECT_EQ(labels(2), "Speed: 100, Angle:   90, Men Left: 100");
+    EXPECT_EQ(panel().side[1].scrollSpeed, 999);
+    EXPECT_EQ(panel().side[1].scrollAngle, 10);
     EXPECT_EQ(log, Log{});  // the sound is off
     options().chkSound_Click(true);
     options().setGameSpeed(100);  // is 99 already

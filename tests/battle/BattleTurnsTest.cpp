@@ -26,7 +26,10 @@ TEST_F(BattleTurns, StartWithBothSidesSetUp) {
     for (const auto& [r, side] : {std::pair{0.1, 1}, std::pair{0.9, 2}}) {
         BattleRig narrow;
         narrow.view.width = 800;
-        narrow.view.onShowField = [&narrow] { EXPECT_TRUE(narrow.view.inputHeld); };
+        narrow.view.onShowField = [&narrow] {
+            EXPECT_TRUE(narrow.view.inputHeld);
+            EXPECT_EQ(narrow.panel().labelRoundNumber, "Round 1 of 5");
+        };
         // What the set before has left.
         narrow.shared.RoundsWon = narrow.shared.TotalKills = narrow.shared.RoundShots = {3, 9};
         narrow.random.script({r});

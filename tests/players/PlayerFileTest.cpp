@@ -1,5 +1,6 @@
 #include "players/PlayerFile.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <unistd.h>
@@ -7,6 +8,7 @@
 #include <csignal>
 #include <functional>
 
+#include "platform/DiskFile.h"
 #include "players/Ranking.h"
 #include "players/Windows1252.h"
 #include "tests/support/PlayersRig.h"
@@ -141,6 +143,8 @@ TEST_F(PlayerFileTest, TellsWhatFailedAndChangesNothing) {
         EXPECT_EQ(bytes().substr(0, 29), ann) << failing;
     }
     files.failing.clear();
+    EXPECT_EQ(errorOf([this] { DiskFile::tryToOpen(path, O_WRONLY)->read(0, 1); }),
+              "Could not read " + path + ":\nBad file descriptor");
     std::filesystem::remove(path);
     std::filesystem::create_directory(path);
     const std::string couldNotOpen = "Could not open " + path + ":\nI";
@@ -211,9 +215,9 @@ TEST_F(PlayerFileTest, ReadsAListThatMayOnlyBeRead) {
         EXPECT_EQ(file.readAll().size(), 2U);
         EXPECT_EQ(add("Ann"), ListChange::NameTaken);
         EXPECT_EQ(rename(1, "Bob"), ListChange::NameTaken);
-        EXPECT_EQ(errorOf([this] { add("Cyd"); }),
-                  "Could not open " + path + ":\nPermission denied");
-        EXPECT_THROW(rename(1, "Cyd"), FileError);
+        const std::string refusal = "Could not open " + path + ":\nPermission denied";
+        EXPECT_EQ(errorOf([this] { add("Cyd"); }), refusal);
+        EXPECT_EQ(errorOf([this] { rename(1, "Cyd"); }), refusal);
         EXPECT_THROW(remove(1), FileError);
         EXPECT_THROW(RecordSetResults(file, shared), FileError);
     });

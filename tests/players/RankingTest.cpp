@@ -69,6 +69,7 @@ TEST_F(RecordSetResultsTest, UpdatesBothPlayersAndRanksAll) {
               record("Ann", 1, 1, 104, 1) + record("Bob", 5, 2, 35, 2, 9) +
                   record("Cyd", 2, 1, 10, 3, 7) + record("Eve") + record("Dan", 1, 0, 30, 5));
     EXPECT_EQ(file.PlayerCount, 5);
+    EXPECT_EQ(files.done.find("write"), std::string::npos);  // replaced, and nothing besides
 }
 
 TEST_F(RecordSetResultsTest, KeepsTheOrderOfEqualTextsAndOfAllWhoseNamesDiffer) {
