@@ -40,12 +40,7 @@ TEST_F(BattleTurns, StartWithBothSidesSetUp) {
 }
 
 TEST_F(BattleTurns, AreCountedForBothSides) {
-    struct Step {
-        double r;
-        Aim aim;
-        std::string tally;  // round:shooter, men, shots, kills, all kills, wins
-    };
-    const Step steps[] = {
+    const std::tuple<double, Aim, std::string> steps[] = {
         {.999, kMiss, "1:2 85-100 1-0 0-0 0-0 0-0"},  // of 100 men 0 to 15 desert
         {0, kOutOfBounds, "1:1 85-99 1-1 0-0 0-0 0-0"},
         // The loser, with all its men credited, opens the next round, which starts afresh.
@@ -54,10 +49,10 @@ TEST_F(BattleTurns, AreCountedForBothSides) {
         {.5, kSelfHit, "4:1 100-100 0-0 0-0 99-200 1-2"},
         {.5, kNearMissBy[0], "4:2 92-91 1-0 9-0 108-200 1-2"},  // 101 / 11 = 9.18
         {.5, kMiss, "4:1 92-83 1-1 9-0 108-200 1-2"}};
-    for (const Step& step : steps) {
-        random.script({step.r});
-        shoot(step.aim);
-        EXPECT_EQ(tally(), step.tally);
+    for (const auto& [r, at, after] : steps) {
+        random.script({r});
+        shoot(at);
+        EXPECT_EQ(tally(), after);
         for (const int side : {1, 2}) {
             const SidePanel& shown = panel().side[side];
             EXPECT_EQ(shown.enabled, side == state().Shooter);

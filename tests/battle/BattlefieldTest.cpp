@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <sstream>
-
 #include "base/SeededRandom.h"
 #include "tests/support/Fakes.h"
 

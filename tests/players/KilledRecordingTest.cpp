@@ -121,10 +121,7 @@ struct KilledRecording : testing::TestWithParam<bool>, PlayersRig {
 };
 
 TEST_P(KilledRecording, LeavesEveryPlayerOnceAndEveryRecordWhole) {
-    shared.PlayerName = {"Player 150", "Player 7"};
-    shared.RoundsWon = {4, 1};
-    shared.TotalKills = {300, 90};  // scores of 100 + 28 and 30 + 7
-    shared.Winner = 1;
+    finishSet({"Player 150", "Player 7"}, {4, 1}, {300, 90});  // scores of 100 + 28 and 30 + 7
     std::string list;
     for (int number = 1; number <= 300; ++number)
         list += record("Player " + std::to_string(number));
@@ -148,9 +145,7 @@ TEST_P(KilledRecording, LeavesEveryPlayerOnceAndEveryRecordWhole) {
 }
 
 TEST_P(KilledRecording, LeavesAllOfTheOldListOrAllOfTheNewOneAtEveryStep) {
-    shared.PlayerName = {"Dora", "Bob"};
-    shared.RoundsWon = {4, 1};
-    shared.Winner = 1;
+    finishSet({"Dora", "Bob"}, {4, 1});
     // Dora: (1 + 28) / 1, won: 0973.08; Bob: (1 + 7) / 1, lost: 1001.00, below those without a set
     killEverywhere(ann + bob + cyd + record("Dora"),
                    record("Dora", 1, 1, 29, 1) + ann + cyd + record("Bob", 1, 0, 8, 4),

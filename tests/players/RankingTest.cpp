@@ -44,10 +44,7 @@ TEST(CountSet, KeepsTheAverage) {
 
 struct RecordSetResultsTest : testing::Test, PlayersRig {
     RecordSetResultsTest() {
-        shared.PlayerName = {"Ann", "Bob"};
-        shared.RoundsWon = {3, 2};
-        shared.TotalKills = {248, 131};  // scores of 82 + 21 = 103 and 43 + 14 = 57
-        shared.Winner = 1;
+        finishSet({"Ann", "Bob"}, {3, 2}, {248, 131});  // scores of 82 + 21 and 43 + 14
     }
 
     /// Records the set in a list of these bytes and returns what the list is then.

@@ -13,8 +13,6 @@
 
 using namespace skylob;
 
-namespace {
-
 /// A window with two buttons, the first of which writes its events down.
 struct Form : QObject {
     Form() {
@@ -86,8 +84,6 @@ struct Form : QObject {
     GlintButton first{"cmdFirst", shapes, &window}, second{"cmdSecond", shapes, &window};
     GlintDesign& design = first.design();
 };
-
-}  // namespace
 
 class GlintButtonTest : public QObject {
     Q_OBJECT
