@@ -160,8 +160,7 @@ TEST(ComputersTurn, PausesFiresAndQueuesTheNextTurn) {
     EXPECT_EQ(rig.log, (Log{"sound click", "sound shot", "sound explosion", "wait 1000",
                             "sound click", "sound click", "sound click", "sound click", "yield",
                             "wait 250", "sound shot", "sound explosion", "queue"}));
-    const std::pair before{rig.panel().commandsEnabled, rig.view.inputHeld};
-    EXPECT_EQ(before, std::pair(false, true));
+    EXPECT_EQ(std::pair(rig.panel().commandsEnabled, rig.view.inputHeld), std::pair(false, true));
     rig.view.runQueue();
     EXPECT_EQ(std::pair(rig.panel().commandsEnabled, rig.state().Shooter), std::pair(true, 1));
 }

@@ -92,9 +92,8 @@ TEST_F(GlintDesignTest, SetsOffItsEffectsInOrder) {
     EXPECT_EQ(effects(&D::setButtonType, 14), "layout;region 2;mark BTYPE;");
     design.setFontName("Serif");
     design.setFontSize(9);
-    design.setFontBold(true);
-    design.setFontItalic(true);
-    design.setFontUnderline(true);
+    for (const auto set : {&D::setFontBold, &D::setFontItalic, &D::setFontUnderline})
+        (design.*set)(true);
     EXPECT_EQ(surfaceFont, (GlintFont{"Serif", 9, true, true, true}));
 }
 

@@ -18,8 +18,6 @@
 
 namespace skylob::test {
 
-namespace {
-
 /// The stops between the call that names a temporary file and the one that renames it.
 #ifdef __SANITIZE_ADDRESS__
 constexpr int kMostWholeTemporaries = 4;  // the sanitizer makes a call of its own there
@@ -28,7 +26,7 @@ constexpr int kMostWholeTemporaries = 2;
 #endif
 
 /// From now on this process cannot open files without a name.
-void forbidUnnamedFiles() {
+static void forbidUnnamedFiles() {
     constexpr auto kUnnamed = static_cast<unsigned>(O_TMPFILE & ~O_DIRECTORY);
     sock_filter steps[] = {BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr)),
                            BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, SYS_openat, 0, 3),
@@ -155,7 +153,5 @@ TEST_P(KilledRecording, LeavesAllOfTheOldListOrAllOfTheNewOneAtEveryStep) {
 }
 
 INSTANTIATE_TEST_SUITE_P(OnlyNamedFiles, KilledRecording, testing::Bool());
-
-}  // namespace
 
 }  // namespace skylob::test
