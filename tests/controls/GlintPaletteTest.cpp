@@ -39,7 +39,7 @@ TEST(TranslateColour, LooksUpReferencesOnly) {
 // Palettes in the order of their fields: face, hovering face, text, hovering text; shadow, light,
 // highlight, dark shadow; hot border, hot fill; mask, light face.
 static GlintPalette palette(auto... colours) {
-    return {bgr(colours)...};
+    return {bgr(static_cast<std::uint32_t>(colours))...};
 }
 
 TEST(RecalcColours, TakesTheColoursOfTheScheme) {
