@@ -122,7 +122,8 @@ TEST_F(Falling, EndsInAnExplosionWithoutASound) {
     begin(kMeteor, script);
     EXPECT_EQ(pacer.counts, std::vector<std::int32_t>(10, 1));  // the explosion's
     EXPECT_EQ(yields(), 389);
-    EXPECT_EQ((std::pair{impact.at(391), impact.back()}), (std::pair{kWhite, kBlack}));
+    EXPECT_EQ(impact.at(391), kWhite);
+    EXPECT_EQ(impact.back(), kBlack);
     EXPECT_EQ(state().MenLeft, (PerSide<int>{100, 100}));
     EXPECT_EQ(events(), Log{});
     passTime();
