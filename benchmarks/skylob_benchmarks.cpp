@@ -89,7 +89,7 @@ void headlessSet(benchmark::State& state) {
 class Flight : private HeadlessView {
   public:
     Flight() {
-        const frmPlayGameLayout& layout = layoutForScreenSize(2);
+        const frmPlayGameLayout& layout = layoutForScreenSize(kNormalScreen);
         applyLook(m_window);
         m_window.setFixedSize(layout.screen);
         m_widget.setGeometry(layout.field);
@@ -157,7 +157,7 @@ void buttonRedraw(benchmark::State& state) {
     const QtShapes shapes{programDrawings()};
     GlintButton button{QStringLiteral("cmdShoot"), shapes, nullptr};
     button.design().readProperties(formBags(QStringLiteral("frmPlayGame")).bag("cmdShoot"));
-    button.setFixedSize(layoutForScreenSize(2).cmdShoot.size());
+    button.setFixedSize(layoutForScreenSize(kNormalScreen).cmdShoot.size());
     QImage screen{button.size(), QImage::Format_RGB32};
     for (auto _ : state) button.render(&screen);
 }

@@ -68,7 +68,6 @@ void PlayerFile::openForReading() {
 void PlayerFile::take(std::unique_ptr<RandomAccessFile> file) {
     PlayerCount = countIn(file->length(), "holds");
     hold(file->read(0, static_cast<std::size_t>(offsetOf(PlayerCount + 1))), PlayerCount);
-    m_kept.clear();
     m_written = false;
     PlayerFileHandle = std::move(file);
 }

@@ -230,7 +230,8 @@ void frmPlayGame::showField() {
 void frmPlayGame::showPanel(const BattlePanel& panel) {
     for (const int side : kSides) {
         m_side[side]->showPanel(panel.side[side], panel.turn == side);
-        if (m_layout.oneFrameAtATime) m_side[side]->setVisible(side == std::max(panel.turn, 1));
+        if (m_layout.oneFrameAtATime)
+            m_side[side]->setVisible(side == std::max(panel.turn, kLeftSide));
     }
     labelRoundNumber->setText(QString::fromStdString(panel.labelRoundNumber));
     labelGameSpeed->setText(QString::fromStdString(panel.labelGameSpeed));

@@ -59,7 +59,7 @@ frmGetPlayers::frmGetPlayers(const QtScreenPorts& screen, const frmGetPlayersPor
     connectControls();
     addShortcuts();
     setTabOrder();
-    showPairing(m_lobby.pairing());
+    frmGetPlayers::showPairing(m_lobby.pairing());
 }
 
 void frmGetPlayers::makeButtons() {

@@ -16,7 +16,8 @@ namespace skylob {
 namespace {
 
 struct FreeReply {
-    void operator()(void* reply) const { std::free(reply); }
+    // xcb hands its replies over to be freed; this is what owns them.
+    void operator()(void* reply) const { std::free(reply); }  // NOLINT(*-no-malloc)
 };
 template <typename Reply>
 using Owned = std::unique_ptr<Reply, FreeReply>;

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "app/Main.h"
+#include "app/SingleCopy.h"
 #include "tests/support/Fakes.h"
 #include "tests/support/FileFakes.h"
 
@@ -42,6 +42,15 @@ TEST_F(StartUpTest, RefusesASecondCopyBeforeItTouchesAnything) {
     EXPECT_EQ(folder.content(), "Skylob.Dat ");
     EXPECT_EQ(boxes.shown, Log{"Terminating...: Skylob is already loaded\r\n"
                                "and running on your computer! (!)"});
+}
+
+TEST_F(StartUpTest, TellsASecondCopyFromTheFirstUntilThatIsReleased) {
+    setenv("XDG_RUNTIME_DIR", (folder / "").c_str(), 1);
+    SingleCopy first;
+    for (const Copies expected : {Copies::AnotherOne, Copies::ThisOne}) {
+        EXPECT_EQ(SingleCopy{}.copies(), expected);
+        first.release();
+    }
 }
 
 }  // namespace skylob::test

@@ -20,4 +20,8 @@ TEST(OpenLink, PutsTheSchemeInFrontAndReportsOnlyAFailedCall) {
     EXPECT_EQ(boxes.shown, Log{"Error: Could not establish an internet connection! (!)"});
 }
 
+TEST(AgreeingBoxes, TakeTheEntryThatIsThere) {
+    EXPECT_EQ(AgreeingBoxes{}.ask({"Title", "Prompt", "Entry"}), "Entry");
+}
+
 }  // namespace skylob::test

@@ -26,7 +26,10 @@ TEST_F(BattleTurns, StartWithBothSidesSetUp) {
     for (const auto& [r, side] : {std::pair{0.1, 1}, std::pair{0.9, 2}}) {
         BattleRig narrow;
         narrow.view.width = 800;
-        narrow.view.onShowField = [&narrow] { EXPECT_TRUE(narrow.view.inputHeld); };
+        narrow.view.onShowField = [&narrow] {
+            EXPECT_TRUE(narrow.view.inputHeld);
+            EXPECT_EQ(narrow.panel().labelRoundNumber, "Round 1 of 5");
+        };
         // What the set before has left.
         narrow.shared.RoundsWon = narrow.shared.TotalKills = narrow.shared.RoundShots = {3, 9};
         narrow.random.script({r});
@@ -37,12 +40,7 @@ TEST_F(BattleTurns, StartWithBothSidesSetUp) {
 }
 
 TEST_F(BattleTurns, AreCountedForBothSides) {
-    struct Step {
-        double r;
-        Aim aim;
-        std::string tally;  // round:shooter, men, shots, kills, all kills, wins
-    };
-    const Step steps[] = {
+    const std::tuple<double, Aim, std::string> steps[] = {
         {.999, kMiss, "1:2 85-100 1-0 0-0 0-0 0-0"},  // of 100 men 0 to 15 desert
         {0, kOutOfBounds, "1:1 85-99 1-1 0-0 0-0 0-0"},
         // The loser, with all its men credited, opens the next round, which starts afresh.
@@ -51,10 +49,10 @@ TEST_F(BattleTurns, AreCountedForBothSides) {
         {.5, kSelfHit, "4:1 100-100 0-0 0-0 99-200 1-2"},
         {.5, kNearMissBy[0], "4:2 92-91 1-0 9-0 108-200 1-2"},  // 101 / 11 = 9.18
         {.5, kMiss, "4:1 92-83 1-1 9-0 108-200 1-2"}};
-    for (const Step& step : steps) {
-        random.script({step.r});
-        shoot(step.aim);
-        EXPECT_EQ(tally(), step.tally);
+    for (const auto& [r, at, after] : steps) {
+        random.script({r});
+        shoot(at);
+        EXPECT_EQ(tally(), after);
         for (const int side : {1, 2}) {
             const SidePanel& shown = panel().side[side];
             EXPECT_EQ(shown.enabled, side == state().Shooter);
@@ -162,8 +160,7 @@ TEST(ComputersTurn, PausesFiresAndQueuesTheNextTurn) {
     EXPECT_EQ(rig.log, (Log{"sound click", "sound shot", "sound explosion", "wait 1000",
                             "sound click", "sound click", "sound click", "sound click", "yield",
                             "wait 250", "sound shot", "sound explosion", "queue"}));
-    const std::pair before{rig.panel().commandsEnabled, rig.view.inputHeld};
-    EXPECT_EQ(before, std::pair(false, true));
+    EXPECT_EQ(std::pair(rig.panel().commandsEnabled, rig.view.inputHeld), std::pair(false, true));
     rig.view.runQueue();
     EXPECT_EQ(std::pair(rig.panel().commandsEnabled, rig.state().Shooter), std::pair(true, 1));
 }

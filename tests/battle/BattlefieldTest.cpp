@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <sstream>
-
 #include "base/SeededRandom.h"
 #include "tests/support/Fakes.h"
 
@@ -117,6 +115,10 @@ TEST(DrawBattlefield, ShowsSkyMoonGroundAndPieces) {
     EXPECT_EQ(picture.pieceArea(1), (PixelRect{87, 770, 24, 46}));
     expectAt(kWhite, {{88, 230}, {111, 185}, {888, 230}});
     expectAt(field.groundColour, {{111, 184}});
+    field.MoonOffset = -32;  // as in round 19: the shadow stands 37 units to the left
+    drawBattlefield(field, picture, 1);
+    expectAt(kBlack, {{261, 600}, {302, 600}, {341, 600}});
+    expectAt(kCyan, {{305, 600}, {339, 600}});
 }
 
 }  // namespace skylob::test

@@ -1,5 +1,3 @@
-#include "battle/FieldPicture.h"
-
 #include <gtest/gtest.h>
 
 #include "tests/support/SkyRig.h"

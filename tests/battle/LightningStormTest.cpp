@@ -11,20 +11,18 @@ constexpr auto always = [] { return true; };
 struct Storms : testing::Test, SkyRig {};
 
 TEST(BoltPath, GoesDownInJagsUntilItLeavesOrIsNearTheGround) {
-    const auto beginning = [](const Bolt& bolt, int points) {
-        return Bolt(bolt.begin(), bolt.begin() + points);
-    };
+    const auto beginning = [](const Bolt& bolt) { return Bolt(bolt.begin(), bolt.begin() + 6); };
     Battlefield field;
     field.TerrainHeight.fill(900);
     // Upright, runs of 1 and 2 to the left and of 4 to the right; then leaning to the right, where
     // a run to the left only moves from every third height.
     ScriptedRandom upright{{.4, 0, .4, .3, .4, .9, .5}, .5};
     const Bolt bolt = boltPath({500, 999}, field, upright, always);
-    EXPECT_EQ(beginning(bolt, 6),
+    EXPECT_EQ(beginning(bolt),
               (Bolt{{500, 999}, {499, 998}, {498, 997}, {497, 996}, {498, 995}, {499, 994}}));
     EXPECT_EQ(bolt.back().y, 906);  // the last height more than 5 above the ground
     ScriptedRandom leaning{{.9, .9, .4}, .5};
-    EXPECT_EQ(beginning(boltPath({500, 999}, field, leaning, always), 6),
+    EXPECT_EQ(beginning(boltPath({500, 999}, field, leaning, always)),
               (Bolt{{500, 999}, {499, 998}, {499, 997}, {499, 996}, {498, 995}, {499, 994}}));
 
     field.TerrainHeight.fill(100);
@@ -61,8 +59,10 @@ TEST(BoltPath, KeepsItsBoundsTenThousandTimes) {
         ASSERT_FALSE(bolt.empty());
         FieldPoint before{start.x, start.y + 1};
         for (const FieldPoint& at : bolt) {
-            ASSERT_TRUE(at.x >= 5 && at.x <= 995 && at.y > field.heightAt(at.x) + 5);
-            ASSERT_TRUE(at.y == before.y - 1 && std::abs(at.x - before.x) <= 1);
+            ASSERT_EQ(at.x, std::clamp(at.x, 5, 995));
+            ASSERT_GT(at.y, field.heightAt(at.x) + 5);
+            ASSERT_EQ(at.y, before.y - 1);
+            ASSERT_LE(std::abs(at.x - before.x), 1);
             before = at;
         }
     }

@@ -15,34 +15,27 @@ const Battlefield kFlat = [] {
 
 TEST(ShellFlight, FliesTheTabledPaths) {
     // Over flat ground of height 100; worked out by a second program without shared code.
-    struct Row {
-        int side, pieceX, speed, angle, wind;
-        FieldPoint landing;
-        std::size_t positions;
-        FieldPoint tenth, fiftieth;  // 0, 0 where the flight was over by then
-    };
-    for (const Row& row : {
-             // With the factor in double precision this one comes down in column 826.
-             Row{1, 100, 344, 71, -37, {827, 97}, 164, {147, 246}, {348, 663}},
-             Row{1, 100, 999, 10, 0, {1045, 215}, 20, {546, 168}, {}},
-             Row{1, 100, 300, 90, -6, {63, 93}, 152, {99, 235}, {94, 603}},
-             Row{1, 500, 500, 90, 17, {768, 83}, 252, {502, 325}, {517, 1093}},
-             Row{2, 900, 300, 75, 0, {289, 89}, 147, {864, 230}, {703, 577}},
-             Row{2, 900, 640, 75, 17, {-7, 2294}, 111, {826, 378}, {496, 1381}},
-             Row{2, 100, 800, 85, 0, {0, 1145}, 29, {68, 458}, {}},
-             Row{1, 700, 150, 45, 0, {996, 99}, 55, {749, 147}, {968, 124}},
-         }) {
-        SCOPED_TRACE(testing::Message() << row.landing.x << ", " << row.landing.y);
-        ShellFlight flight{{row.side, row.speed, row.angle, row.pieceX, 100, row.wind}};
+    // Side, speed, angle, column, height, wind; positions, the last, tenth and fiftieth of them:
+    // 0, 0 where the flight was over by then.
+    const std::tuple<Launch, std::size_t, FieldPoint, FieldPoint, FieldPoint> rows[] = {
+        // With the factor in double precision this one comes down in column 826.
+        {{1, 344, 71, 100, 100, -37}, 164, {827, 97}, {147, 246}, {348, 663}},
+        {{1, 999, 10, 100, 100, 0}, 20, {1045, 215}, {546, 168}, {}},
+        {{1, 300, 90, 100, 100, -6}, 152, {63, 93}, {99, 235}, {94, 603}},
+        {{1, 500, 90, 500, 100, 17}, 252, {768, 83}, {502, 325}, {517, 1093}},
+        {{2, 300, 75, 900, 100, 0}, 147, {289, 89}, {864, 230}, {703, 577}},
+        {{2, 640, 75, 900, 100, 17}, 111, {-7, 2294}, {826, 378}, {496, 1381}},
+        {{2, 800, 85, 100, 100, 0}, 29, {0, 1145}, {68, 458}, {}},
+        {{1, 150, 45, 700, 100, 0}, 55, {996, 99}, {749, 147}, {968, 124}}};
+    for (const auto& [launch, positions, landing, tenth, fiftieth] : rows) {
+        SCOPED_TRACE(launch.speed);
+        ShellFlight flight{launch};
         std::vector<FieldPoint> path{flight.position()};
-        while (isFlying(path.back(), kFlat)) {
-            flight.advance();
-            path.push_back(flight.position());
-        }
-        EXPECT_EQ(path.back(), row.landing);
-        EXPECT_EQ(path.size(), row.positions);
-        EXPECT_EQ(path.at(9), row.tenth);
-        EXPECT_EQ(path.size() < 50 ? FieldPoint{} : path[49], row.fiftieth);
+        for (; isFlying(path.back(), kFlat); path.push_back(flight.position())) flight.advance();
+        EXPECT_EQ(path.back(), landing);
+        EXPECT_EQ(path.size(), positions);
+        EXPECT_EQ(path.at(9), tenth);
+        EXPECT_EQ(path.size() < 50 ? FieldPoint{} : path[49], fiftieth);
     }
     ShellFlight flight{{2, 300, 90, 900, 100, 0}};
     for (int step = 0; step < 5; ++step) flight.advance();
@@ -78,9 +71,8 @@ TEST(FlyShell, ShowsAYellowShellAtEveryStepAndLeavesATrailOnDemand) {
             const FieldPoint tenth{side == 1 ? 136 : 864, 230};
             stage.picture.setPoint(tenth.x, tenth.y, kCyan);  // a star on the shell's way
             std::vector<Colour> atTenth;
-            stage.view.onShowField = [&] {
-                atTenth.push_back(stage.picture.pixel(tenth.x, tenth.y));
-            };
+            const auto pixel = [&] { return stage.picture.pixel(tenth.x, tenth.y); };
+            stage.view.onShowField = [&] { atTenth.push_back(pixel()); };
             const FieldPoint landed = flyShell({side, 300, 75, side == 1 ? 100 : 900, 100, 0},
                                                kFlat, trail, stage.animation, 77);
             EXPECT_EQ(landed, (FieldPoint{side == 1 ? 711 : 289, 89}));
@@ -90,7 +82,7 @@ TEST(FlyShell, ShowsAYellowShellAtEveryStepAndLeavesATrailOnDemand) {
                       (std::vector{kCyan, kYellow, left}));
             EXPECT_EQ(stage.picture.pixel(landed.x, landed.y), kBlack);
             stage.picture.refresh();
-            EXPECT_EQ(stage.picture.pixel(tenth.x, tenth.y), kCyan);  // no trail was persistent
+            EXPECT_EQ(pixel(), kCyan);  // no trail was persistent
         }
     }
 }
@@ -102,9 +94,8 @@ TEST(Explosion, GrowsInYellowAndWhiteAndLeavesABlackDot) {
         {SelfHit, 42, 516, "bullseye"},
         {NearMiss, 10, 500, "nearmiss"},
         {Miss, 10, 500, "explosion"}};
-    for (const auto& row : rows) {
-        const auto& [landing, holds, yOfRow, sound] = row;
-        const int y = yOfRow;
+    for (const auto& [landing, holds, yOfDot, sound] : rows) {
+        const int y = yOfDot;
         SCOPED_TRACE(sound);
         AnimatedField stage;
         stage.picture.filledCircle(500, y, 60, kCyan);

@@ -1,9 +1,4 @@
-#include "controls/GlintDesign.h"
-
 #include <gtest/gtest.h>
-
-#include <sstream>
-#include <type_traits>
 
 #include "tests/support/GlintFakes.h"
 
@@ -97,9 +92,8 @@ TEST_F(GlintDesignTest, SetsOffItsEffectsInOrder) {
     EXPECT_EQ(effects(&D::setButtonType, 14), "layout;region 2;mark BTYPE;");
     design.setFontName("Serif");
     design.setFontSize(9);
-    design.setFontBold(true);
-    design.setFontItalic(true);
-    design.setFontUnderline(true);
+    for (const auto set : {&D::setFontBold, &D::setFontItalic, &D::setFontUnderline})
+        (design.*set)(true);
     EXPECT_EQ(surfaceFont, (GlintFont{"Serif", 9, true, true, true}));
 }
 
@@ -156,30 +150,23 @@ TEST_F(GlintDesignTest, PlacesANewButtonBlackOnBlack) {
 }
 
 TEST(GlintLayout, PlacesCaptionAndPicture) {
-    struct Row {
-        int position;
-        GlintRect bounds, text, picture;
-    };
-    // 100 x 41, a picture of 20 x 10, a caption measured as 31 x 13.
-    for (const Row& row : {
-             Row{0, {24, 4, 92, 33}, {46, 16, 77, 29}, {22, 17, 42, 27}},
-             Row{1, {4, 4, 72, 33}, {24, 16, 55, 29}, {59, 17, 79, 27}},
-             Row{2, {4, 14, 92, 33}, {36, 21, 67, 34}, {41, 7, 61, 17}},
-             Row{3, {4, 4, 92, 23}, {36, 9, 67, 22}, {41, 26, 61, 36}},
-             Row{4, {4, 1, 92, 37}, {36, 14, 67, 27}, {41, 15, 61, 25}},
-             Row{9, {0, 0, 0, 0}, {0, 0, 31, 13}, {5, 1, 25, 11}},
-         }) {
-        SCOPED_TRACE(row.position);
-        const GlintSize client{100, 41}, picture{20, 10};
-        const GlintRect bounds = captionBounds(row.position, client, picture);
-        EXPECT_EQ(bounds, row.bounds);
-        const GlintRect measured{bounds.left, bounds.top, bounds.left + 31, bounds.top + 13};
-        const auto [dx, dy] = captionShift(row.position, client, picture, measured);
-        const GlintRect text = measured.moved(dx, dy);
-        EXPECT_EQ(text, row.text);
-        EXPECT_EQ(picturePlace(row.position, client, picture, text, true), row.picture);
-        EXPECT_EQ(picturePlace(row.position, client, picture, text, false),
-                  (GlintRect{40, 15, 60, 25}));
+    const std::tuple<int, GlintRect, GlintRect, GlintRect> rows[] = {
+        {0, {24, 4, 92, 33}, {46, 16, 77, 29}, {22, 17, 42, 27}},
+        {1, {4, 4, 72, 33}, {24, 16, 55, 29}, {59, 17, 79, 27}},
+        {2, {4, 14, 92, 33}, {36, 21, 67, 34}, {41, 7, 61, 17}},
+        {3, {4, 4, 92, 23}, {36, 9, 67, 22}, {41, 26, 61, 36}},
+        {4, {4, 1, 92, 37}, {36, 14, 67, 27}, {41, 15, 61, 25}},
+        {9, {0, 0, 0, 0}, {0, 0, 31, 13}, {5, 1, 25, 11}}};
+    const GlintSize size{100, 41}, picture{20, 10};  // and a caption measured as 31 x 13
+    for (const auto& [position, room, text, place] : rows) {
+        SCOPED_TRACE(position);
+        EXPECT_EQ(captionBounds(position, size, picture), room);
+        const GlintRect measured{room.left, room.top, room.left + 31, room.top + 13};
+        const auto [dx, dy] = captionShift(position, size, picture, measured);
+        EXPECT_EQ(measured.moved(dx, dy), text);
+        EXPECT_EQ(picturePlace(position, size, picture, text, true), place);
+        const GlintRect alone = picturePlace(position, size, picture, text, false);
+        EXPECT_EQ(alone, (GlintRect{40, 15, 60, 25}));
     }
     EXPECT_EQ(picturePlace(0, {101, 40}, {20, 11}, {}, false), (GlintRect{40, 14, 60, 25}));
     // 28 x 10 in the middle of 100 x 40 would be at 36, 15.

@@ -1,5 +1,3 @@
-#include "controls/GlintInteraction.h"
-
 #include <gtest/gtest.h>
 
 #include "tests/support/GlintFakes.h"

@@ -10,24 +10,17 @@ constexpr auto bgr = Colour::fromBgr;
 
 TEST(ShiftColour, MovesEachChannelAndScalesBlueOnDemand) {
     using enum BlueShift;
-    struct Row {
-        std::uint32_t colour, expected;
-        int delta;
-        BlueShift blue;
-        Bevel bevel;
-    };
-    for (const Row& row : {
-             Row{0x102030, 0x145060, 48, Scaled, Bevel::Hard},
-             Row{0x102030, 0x1F2F3F, 31, Flat, Bevel::Soft},   // 15, not 16
-             Row{0x505050, 0x414141, -31, Flat, Bevel::Soft},  // -15, not -16
-             Row{0xFFFFFF, 0xFFFFFF, 47, Flat, Bevel::Hard},
-             Row{0x000000, 0x000000, -64, Flat, Bevel::Hard},
-             Row{0xF01020, 0xFF4050, 48, Scaled, Bevel::Hard},
-             Row{0x0A6464, 0x083434, -48, Scaled, Bevel::Hard},  // 10 - 2.5 cut to 2
-         }) {
-        EXPECT_EQ(ShiftColour(bgr(row.colour), row.delta, row.blue, row.bevel), bgr(row.expected))
-            << std::hex << row.colour << " by " << std::dec << row.delta;
-    }
+    using enum Bevel;
+    const std::tuple<std::uint32_t, int, BlueShift, Bevel, std::uint32_t> rows[] = {
+        {0x102030, 48, Scaled, Hard, 0x145060},
+        {0x102030, 31, Flat, Soft, 0x1F2F3F},   // 15, not 16
+        {0x505050, -31, Flat, Soft, 0x414141},  // -15, not -16
+        {0xFFFFFF, 47, Flat, Hard, 0xFFFFFF},
+        {0x000000, -64, Flat, Hard, 0x000000},
+        {0xF01020, 48, Scaled, Hard, 0xFF4050},
+        {0x0A6464, -48, Scaled, Hard, 0x083434}};  // 10 - 2.5 cut to 2
+    for (const auto& [colour, delta, blue, bevel, expected] : rows)
+        EXPECT_EQ(ShiftColour(bgr(colour), delta, blue, bevel).bgr(), expected) << colour;
 }
 
 TEST(BlendToWhite, CutsBeforeItAdds) {
@@ -46,7 +39,7 @@ TEST(TranslateColour, LooksUpReferencesOnly) {
 // Palettes in the order of their fields: face, hovering face, text, hovering text; shadow, light,
 // highlight, dark shadow; hot border, hot fill; mask, light face.
 static GlintPalette palette(auto... colours) {
-    return {bgr(colours)...};
+    return {bgr(static_cast<std::uint32_t>(colours))...};
 }
 
 TEST(RecalcColours, TakesTheColoursOfTheScheme) {
@@ -109,25 +102,20 @@ TEST(TransferPicture, LeavesTheFaceWhereThePictureIsTransparent) {
 }
 
 TEST(TransferPicture, HasItsEffects) {
-    struct Row {
-        Bytes picture;
-        TransferEffects effects;
-        Bytes onBlack;
-    };
-    for (const Row& row : {
-             Row{{128, 128, 128}, {.darkOnly = true}, {128, 128, 128}},
-             Row{{129, 128, 128}, {.darkOnly = true}, {0, 0, 0}},
-             Row{{30, 20, 10}, {.ghost = true, .greyscale = true}, {18, 18, 18}},
-             // Red 15 * 0.3 = 4.5 goes to 4. Red 5 * 0.3 = 1.5 goes to 2 by itself, 2 + 0.59 =
-             // 2.59 to 3, where one sum of 2.09 would give 2.
-             Row{{0, 0, 15}, {.ghost = true, .greyscale = true}, {4, 4, 4}},
-             Row{{0, 1, 5}, {.ghost = true, .greyscale = true}, {3, 3, 3}},
-             // Greyscale goes before blend; neither acts without ghost; ghost alone copies.
-             Row{{30, 20, 10}, {.ghost = true, .greyscale = true, .blend = true}, {18, 18, 18}},
-             Row{{30, 20, 10}, {.greyscale = true, .blend = true}, {30, 20, 10}},
-             Row{{250, 250, 250}, {.ghost = true, .darkOnly = true}, {250, 250, 250}},
-         })
-        EXPECT_EQ(transferred(row.picture, {0, 0, 0}, row.effects), row.onBlack);
+    const std::tuple<Bytes, TransferEffects, Bytes> rows[] = {
+        {{128, 128, 128}, {.darkOnly = true}, {128, 128, 128}},
+        {{129, 128, 128}, {.darkOnly = true}, {0, 0, 0}},
+        {{30, 20, 10}, {.ghost = true, .greyscale = true}, {18, 18, 18}},
+        // Red 15 * 0.3 = 4.5 goes to 4. Red 5 * 0.3 = 1.5 goes to 2 by itself, 2 + 0.59 = 2.59 to
+        // 3, where one sum of 2.09 would give 2.
+        {{0, 0, 15}, {.ghost = true, .greyscale = true}, {4, 4, 4}},
+        {{0, 1, 5}, {.ghost = true, .greyscale = true}, {3, 3, 3}},
+        // Greyscale goes before blend; neither acts without ghost; ghost alone copies.
+        {{30, 20, 10}, {.ghost = true, .greyscale = true, .blend = true}, {18, 18, 18}},
+        {{30, 20, 10}, {.greyscale = true, .blend = true}, {30, 20, 10}},
+        {{250, 250, 250}, {.ghost = true, .darkOnly = true}, {250, 250, 250}}};
+    for (const auto& [picture, effects, onBlack] : rows)
+        EXPECT_EQ(transferred(picture, {0, 0, 0}, effects), onBlack);
 }
 
 TEST(TransferPicture, KeepsToItsRows) {

@@ -45,11 +45,8 @@ TEST(PrintLayout, BreaksLinesAtBlanksAndWordsOnlyIfTheyMust) {
 }
 
 TEST(PrintLayout, EndsPagesBetween8And8Point8Inches) {
-    const struct {
-        std::string text;
-        double firstLine, lastLine;  ///< of the first page
-        std::size_t linesBehind;     ///< on the second
-    } cases[] = {
+    // The text, the first page's first and last line, how many lines are on the second.
+    const std::tuple<std::string, double, double, std::size_t> cases[] = {
         // One paragraph of 40 lines: 37 lines from 1.4 to 8.8.
         {repeated(40, repeated(64, "x") + " "), 1.4, 8.6, 3},
         // Paragraphs of one line: 33 of them from 1.4 to 8.0. Here the first two lines are empty.

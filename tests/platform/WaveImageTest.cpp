@@ -17,12 +17,10 @@ TEST(WaveImage, IsReadChunkByChunk) {
     const auto file = header + odd + format + data;
     const auto image = read(file);
     ASSERT_TRUE(image);
-    EXPECT_EQ(image->formatTag, 1);
-    EXPECT_EQ(image->rate, 11025);
-    EXPECT_EQ(image->bitsPerSample, 8);
+    EXPECT_EQ((std::tuple{image->formatTag, image->rate, image->bitsPerSample}),
+              (std::tuple{1, 11025, 8}));
     EXPECT_FALSE(image->factSamples);
-    ASSERT_EQ(image->data.size(), 2u);
-    EXPECT_EQ(image->data[0], std::byte{0x80});
+    EXPECT_TRUE(std::ranges::equal(image->data, std::array{std::byte{0x80}, std::byte{0x7F}}));
     EXPECT_EQ(read(header + "fact\x04\0\0\0\x02\1\0\0"s + format + data)->factSamples, 258u);
     EXPECT_FALSE(read(header + "fact\x03\0\0\0\x02\1\0\0"s + format + data)->factSamples);
     for (const auto& wrong :

@@ -18,8 +18,6 @@
 
 namespace skylob::test {
 
-namespace {
-
 /// The stops between the call that names a temporary file and the one that renames it.
 #ifdef __SANITIZE_ADDRESS__
 constexpr int kMostWholeTemporaries = 4;  // the sanitizer makes a call of its own there
@@ -28,7 +26,7 @@ constexpr int kMostWholeTemporaries = 2;
 #endif
 
 /// From now on this process cannot open files without a name.
-void forbidUnnamedFiles() {
+static void forbidUnnamedFiles() {
     constexpr auto kUnnamed = static_cast<unsigned>(O_TMPFILE & ~O_DIRECTORY);
     sock_filter steps[] = {BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr)),
                            BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, SYS_openat, 0, 3),
@@ -121,10 +119,7 @@ struct KilledRecording : testing::TestWithParam<bool>, PlayersRig {
 };
 
 TEST_P(KilledRecording, LeavesEveryPlayerOnceAndEveryRecordWhole) {
-    shared.PlayerName = {"Player 150", "Player 7"};
-    shared.RoundsWon = {4, 1};
-    shared.TotalKills = {300, 90};  // scores of 100 + 28 and 30 + 7
-    shared.Winner = 1;
+    finishSet({"Player 150", "Player 7"}, {4, 1}, {300, 90});  // scores of 100 + 28 and 30 + 7
     std::string list;
     for (int number = 1; number <= 300; ++number)
         list += record("Player " + std::to_string(number));
@@ -148,9 +143,7 @@ TEST_P(KilledRecording, LeavesEveryPlayerOnceAndEveryRecordWhole) {
 }
 
 TEST_P(KilledRecording, LeavesAllOfTheOldListOrAllOfTheNewOneAtEveryStep) {
-    shared.PlayerName = {"Dora", "Bob"};
-    shared.RoundsWon = {4, 1};
-    shared.Winner = 1;
+    finishSet({"Dora", "Bob"}, {4, 1});
     // Dora: (1 + 28) / 1, won: 0973.08; Bob: (1 + 7) / 1, lost: 1001.00, below those without a set
     killEverywhere(ann + bob + cyd + record("Dora"),
                    record("Dora", 1, 1, 29, 1) + ann + cyd + record("Bob", 1, 0, 8, 4),
@@ -160,7 +153,5 @@ TEST_P(KilledRecording, LeavesAllOfTheOldListOrAllOfTheNewOneAtEveryStep) {
 }
 
 INSTANTIATE_TEST_SUITE_P(OnlyNamedFiles, KilledRecording, testing::Bool());
-
-}  // namespace
 
 }  // namespace skylob::test

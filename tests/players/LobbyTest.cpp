@@ -152,6 +152,13 @@ TEST_F(LobbyTest, OpensAndReadsTheListOnceForEachCommand) {
     EXPECT_EQ(log.back(), "highlight 0");
 }
 
+TEST_F(LobbyTest, RecommendsTheGameByMail) {
+    lobby.cmdEmailFriend_Click();
+    const std::string mail = links.targets.at(0);
+    EXPECT_EQ(mail.find("mailto:?subject=Fancy%20a%20duel%3F"), 0u) << mail;
+    EXPECT_NE(mail.find("http%3A%2F%2Fwww.example.org/skylob%0D%0A"), std::string::npos) << mail;
+}
+
 TEST_F(LobbyTest, RunsOneCommandAtATime) {
     put(ann + bob + cyd);
     const auto everything = [this] {

@@ -44,10 +44,7 @@ TEST(CountSet, KeepsTheAverage) {
 
 struct RecordSetResultsTest : testing::Test, PlayersRig {
     RecordSetResultsTest() {
-        shared.PlayerName = {"Ann", "Bob"};
-        shared.RoundsWon = {3, 2};
-        shared.TotalKills = {248, 131};  // scores of 82 + 21 = 103 and 43 + 14 = 57
-        shared.Winner = 1;
+        finishSet({"Ann", "Bob"}, {3, 2}, {248, 131});  // scores of 82 + 21 and 43 + 14
     }
 
     /// Records the set in a list of these bytes and returns what the list is then.
@@ -69,6 +66,7 @@ TEST_F(RecordSetResultsTest, UpdatesBothPlayersAndRanksAll) {
               record("Ann", 1, 1, 104, 1) + record("Bob", 5, 2, 35, 2, 9) +
                   record("Cyd", 2, 1, 10, 3, 7) + record("Eve") + record("Dan", 1, 0, 30, 5));
     EXPECT_EQ(file.PlayerCount, 5);
+    EXPECT_EQ(files.done.find("write"), std::string::npos);  // replaced, and nothing besides
 }
 
 TEST_F(RecordSetResultsTest, KeepsTheOrderOfEqualTextsAndOfAllWhoseNamesDiffer) {

@@ -40,11 +40,8 @@ struct SummaryTest : testing::Test, PlayersRig {
     SummaryTest() {
         strings.addLines(
             "2000 self\n2023 self\n2200 lost\n2300 one\n2313 one\n2700 set\n2711 set\n");
-        shared.PlayerName = {"Ann", "Bob"};
-        shared.RoundsWon = {3, 2};
-        shared.TotalKills = {101, 122};  // 33 + 21 and 40 + 14: a tie of 54
-        shared.RoundShots = {1, 0};
-        shared.Winner = 1;
+        finishSet({"Ann", "Bob"}, {3, 2}, {101, 122});  // 33 + 21 and 40 + 14: a tie of 54
+        shared.RoundShots[1] = 1;
     }
 
     ScriptedRandom random{{}, 0};
@@ -87,34 +84,30 @@ TEST(Commentary, FitsTheWinnerAndTheShots) {
     remarks.addLines(bytesOf(SKYLOB_RESOURCES "/strings/commentary.txt"));
     for (int i = 2000; i < 2800; ++i) numbers.addLines(std::to_string(i) + " " + std::to_string(i));
     basSkylob shared;
-    const auto block = [&] {
-        std::string ends;
+    std::string blocks;
+    const auto addBlock = [&] {
         ScriptedRandom random{{0., 0.9999999}};
         for (int i = 0; i < 2; ++i)
-            ends += drawRemark(shared, numbers, random).value_or("none") + " ";
+            blocks += drawRemark(shared, numbers, random).value_or("none") + " ";
         for (double r = 0; r < 1; r += 0.01) {
             random.script({r});
             EXPECT_NE(drawRemark(shared, remarks, random), "");
         }
-        return ends;
     };
     shared.PlayerName = {"Ann", "Bob"};
     shared.Winner = 2;
-    shared.RoundShots[1] = 9;
-    std::string blocks;
-    for (const int shots : {0, 1, 2, 3, 4, 5}) {
-        shared.RoundShots[2] = shots;
-        blocks += block();
-    }
+    for (shared.RoundShots = {9, 0}; shared.RoundShots[2] <= 5; ++shared.RoundShots[2]) addBlock();
     EXPECT_EQ(blocks, "none none 2300 2313 2400 2418 2500 2521 2600 2622 2600 2622 ");
+    blocks.clear();
     shared.PlayerName[2] = "Computer";
-    EXPECT_EQ(block(), "2100 2134 ");
+    addBlock();
     shared.Winner = 1;
-    EXPECT_EQ(block(), "2200 2219 ");
+    addBlock();
     shared.SelfHit = true;
-    EXPECT_EQ(block(), "2000 2023 ");
+    addBlock();
     shared.SetOver = true;
-    EXPECT_EQ(block(), "2700 2711 ");
+    addBlock();
+    EXPECT_EQ(blocks, "2100 2134 2200 2219 2000 2023 2700 2711 ");
 }
 
 }  // namespace skylob::test

@@ -27,6 +27,13 @@ inline std::string record(const std::string& name, int sets, int won, int averag
 
 /// A player list in a folder of its own, and all else that the players' screens work with.
 struct PlayersRig {
+    /// A set is over that side 1 has won; a round has 100 men a side.
+    void finishSet(PerSide<std::string> names, PerSide<int> rounds, PerSide<int> kills = {}) {
+        shared.PlayerName = std::move(names);
+        shared.RoundsWon = rounds;
+        shared.TotalKills = kills;
+        shared.Winner = 1;
+    }
     void put(const std::string& list) { putBytes(path, list); }
     std::string bytes() const { return bytesOf(path); }
     /// What has happened since the last look.

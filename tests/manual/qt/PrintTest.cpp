@@ -27,8 +27,9 @@ class PrintTest : public QObject {
         QRectF seen;  // in points, 72 of them an inch
         auto words = word.globalMatch(output("pdftotext", {"-bbox", pdf, "-"}));
         while (words.hasNext()) {
-            const auto box = words.next();
-            const auto at = [&box](int edge) { return box.captured(edge).toDouble(); };
+            const auto at = [box = words.next()](int edge) {
+                return box.captured(edge).toDouble();
+            };
             seen |= QRectF{QPointF{at(1), at(2)}, QPointF{at(3), at(4)}};
         }
         QCOMPARE_LT(qAbs(seen.left() / 72 - 1), 0.02);

@@ -12,19 +12,27 @@
 
 using namespace skylob;
 
-namespace {
-
 constexpr qint64 kRate = 44100;
 
-/// What would be heard goes into a file, some five times faster than it sounds.
+/// What would be heard goes into a file, some five times faster than it sounds. A sound system that
+/// hangs does so until somebody reads what it plays.
 class Capture {
   public:
-    Capture() {
+    explicit Capture(bool hangs = false) {
         qputenv("SDL_AUDIODRIVER", "disk");
         qputenv("SDL_DISKAUDIOFILE", name.toLocal8Bit());
         qputenv("SDL_DISKAUDIODELAY", "5");
+        if (hangs && mkfifo(name.toLocal8Bit(), 0600) != 0) qFatal("no pipe");
     }
     qint64 frames() const { return QFileInfo{name}.size() / 2; }
+
+    /// Ends the hanging.
+    void read() {
+        const QString pipe = std::exchange(name, folder.filePath("heard"));
+        m_reader.setStandardOutputFile(name);
+        m_reader.start("cat", {pipe});
+    }
+    bool isOver() { return m_reader.waitForFinished(); }
 
     /// The last frame that is louder than silence.
     qint64 lastLoudFrame() const {
@@ -50,27 +58,10 @@ class Capture {
 
     const QTemporaryDir folder;
     QString name = folder.filePath("capture.raw");
-};
-
-/// A sound system that hangs until somebody reads what it plays.
-class HangingCapture : public Capture {
-  public:
-    HangingCapture() {
-        if (mkfifo(name.toLocal8Bit(), 0600) != 0) qFatal("no pipe");
-    }
-
-    void read() {
-        const QString pipe = std::exchange(name, folder.filePath("heard"));
-        m_reader.setStandardOutputFile(name);
-        m_reader.start("cat", {pipe});
-    }
-    bool isOver() { return m_reader.waitForFinished(); }
 
   private:
     QProcess m_reader;
 };
-
-}  // namespace
 
 class SoundTest : public QObject {
     Q_OBJECT
@@ -81,8 +72,7 @@ class SoundTest : public QObject {
         SdlSoundPlayer player;
         player.PlaySound("daffy");
         QTRY_VERIFY(!player.isPlaying());
-        QCOMPARE_GT(capture.lastLoudFrame(), kRate);
-        QCOMPARE_LT(capture.lastLoudFrame(), 2 * kRate);
+        QCOMPARE(capture.lastLoudFrame() / kRate, 1);  // between one second and two
     }
 
     void onlyAttenuates() {
@@ -131,7 +121,7 @@ class SoundTest : public QObject {
     }
 
     void playsTheNewestWhenTheSoundSystemAnswersAtLast() {
-        HangingCapture capture;
+        Capture capture{true};
         SdlSoundPlayer player;
         for (const char* sound : {"THUNDER3", "daffy", "shot"}) player.PlaySound(sound);
         QVERIFY(player.isPlaying());
@@ -143,7 +133,7 @@ class SoundTest : public QObject {
     }
 
     void endsWithoutASoundSystemThatHangs() {
-        HangingCapture capture;
+        Capture capture{true};
         SdlSoundPlayer player;
         player.PlaySound("click");
         QVERIFY(!player.close(std::chrono::milliseconds{1}));

@@ -7,8 +7,6 @@
 
 using namespace skylob;
 
-namespace {
-
 /// Moves only when it is told to.
 class StillAnimation : public QtTitleAnimation {
   public:
@@ -23,19 +21,16 @@ class StillAnimation : public QtTitleAnimation {
     }
 };
 
-}  // namespace
-
 class TitleAnimationTest : public QObject {
     Q_OBJECT
 
   private slots:
     void runsOnlyWhileItIsSeen() {
         QtTitleAnimation animation{m_shapes};
-        QVERIFY(!animation.isRunning());
-        animation.show();
-        QVERIFY(animation.isRunning());
-        animation.hide();
-        QVERIFY(!animation.isRunning());
+        for (const bool seen : {false, true, false}) {
+            animation.setVisible(seen);
+            QCOMPARE(animation.isRunning(), seen);
+        }
     }
 
     void paintsAgainWhatHasChangedAndLittleElse() {
