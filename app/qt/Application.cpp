@@ -73,6 +73,7 @@ Application::Application(int& argc, char** argv, const CommandLine& commandLine)
     QtLinkLabel::installAccessible();
     QtScreen::installAccessible();
     setApplicationName(QStringLiteral("Skylob"));
+    setDesktopFileName(QStringLiteral("skylob"));  // by which a desktop knows the windows' icon
     // One screen may close before the next is shown.
     setQuitOnLastWindowClosed(false);
 }
