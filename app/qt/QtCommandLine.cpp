@@ -18,11 +18,10 @@ struct Option {
 };
 
 constexpr Option kOptions[]{
-    {"data-dir", 0, "DIR", nullptr,
-     "keep the player list in the folder DIR, made if it is missing"},
+    {"data-dir", 0, "DIR", nullptr, "keep the player list in the folder DIR (made if missing)"},
     {"user-data", 0, nullptr, &CommandLine::userData,
      "keep it in your own data folder\n(otherwise: in the folder that the program is started in)"},
-    {"seed", 0, "N", nullptr, "repeatable chance: the same seed makes the same battlefields"},
+    {"seed", 0, "N", nullptr, "repeatable chance: the same seed, the same battlefields"},
     {"help", 'h', nullptr, nullptr, "print this text"},
     {"version", 'v', nullptr, nullptr, "print the version"},
 };
@@ -30,11 +29,11 @@ constexpr Option kOptions[]{
 constexpr const char* kFiles =
     "\n"
     "Files:\n"
-    "  Skylob.Data                   the player list; while it is rewritten, TempFile.$$$\n"
-    "                                beside it; Skylob.Dat of an earlier version is renamed\n"
-    "  ~/.local/share/Skylob/        where --user-data keeps it ($XDG_DATA_HOME/Skylob)\n"
-    "  ~/.config/Skylob/Skylob.ini   your settings ($XDG_CONFIG_HOME/Skylob)\n"
-    "  $XDG_RUNTIME_DIR/Skylob.lock  held by the copy that runs (or /tmp/skylob-UID/)\n";
+    "  Skylob.Data                   the player list; TempFile.$$$ while it changes;\n"
+    "                                an earlier version's Skylob.Dat gets its name\n"
+    "  ~/.local/share/Skylob/        where --user-data keeps it ($XDG_DATA_HOME)\n"
+    "  ~/.config/Skylob/Skylob.ini   your settings ($XDG_CONFIG_HOME)\n"
+    "  $XDG_RUNTIME_DIR/Skylob.lock  held while the game runs (or in /tmp/skylob-UID)\n";
 
 std::string helpOn(const Option& option) {
     constexpr std::size_t kColumn = 22;
