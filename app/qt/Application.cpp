@@ -78,6 +78,7 @@ Application::Application(int& argc, char** argv, const CommandLine& commandLine)
     QtScreen::installAccessible();
     m_sounds.setVolume(recallVolume(m_windows));
     setApplicationName(QStringLiteral("Skylob"));
+    setDesktopFileName(QStringLiteral("skylob"));  // by which a desktop knows the windows' icon
     // One screen may close before the next is shown.
     setQuitOnLastWindowClosed(false);
 }

@@ -10,8 +10,8 @@
 #include <string_view>
 #include <vector>
 
-#include "app/CommandLine.h"
 #include "app/qt/Application.h"
+#include "app/qt/QtCommandLine.h"
 #include "base/Release.h"
 
 namespace {
@@ -34,23 +34,13 @@ int print(std::string_view text) {
     return EXIT_FAILURE;
 }
 
-/// Empty when the toolkit, for which names are UTF-8, would make another folder of it.
-QString folderNamed(const std::string& bytes) {
-    const QString name = QString::fromStdString(bytes);
-    return name.toStdString() == bytes ? name : QString{};
-}
-
 /// Makes the chosen folder the working directory.
 bool enterDataFolder(const skylob::CommandLine& commandLine) {
     if (!commandLine.dataDir && !commandLine.userData) return true;
     const QString folder =
         commandLine.userData
             ? QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/Skylob"
-            : folderNamed(*commandLine.dataDir);
-    if (folder.isEmpty()) {
-        std::fputs("skylob: --data-dir needs a folder with a name in UTF-8\n", stderr);
-        return false;
-    }
+            : QString::fromStdString(*commandLine.dataDir);
     if (QDir{}.mkpath(folder) && QDir::setCurrent(folder)) return true;
     std::fprintf(stderr, "skylob: cannot use the folder '%s'\n", qPrintable(folder));
     return false;

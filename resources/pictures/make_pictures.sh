@@ -2,6 +2,7 @@
 # Renders the PNG pictures from the SVG drawings beside them:
 #
 #   pictures/svg/icon*.svg  ->  pictures/icon-16.png, icon-32.png, icon-64.png, icon-256.png
+#                           ->  ../desktop/icons/icon-24.png, icon-48.png, icon-128.png
 #   look/svg/*.svg          ->  look/*.png, *@2x.png and *@3x.png, for the style sheet
 #
 # Run it, from anywhere, after a change to an SVG file; it needs rsvg-convert (Debian package
@@ -22,6 +23,11 @@ render "$icons/svg/icon-16.svg" 16 "$icons/icon-16.png"
 render "$icons/svg/icon-32.svg" 32 "$icons/icon-32.png"
 render "$icons/svg/icon.svg" 64 "$icons/icon-64.png"
 render "$icons/svg/icon.svg" 256 "$icons/icon-256.png"
+# The program does without these; menus and docks want them.
+desktop=$resources/../desktop/icons
+render "$icons/svg/icon-32.svg" 24 "$desktop/icon-24.png"
+render "$icons/svg/icon.svg" 48 "$desktop/icon-48.png"
+render "$icons/svg/icon.svg" 128 "$desktop/icon-128.png"
 
 for drawing in "$resources"/look/svg/*.svg; do
     name=$(basename "$drawing" .svg)

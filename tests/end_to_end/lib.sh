@@ -138,6 +138,15 @@ is_turn() { look "$battle" && (($(pixels_of "$gold") > 0)); }
 gold='#F2B92E'
 await_turn() { wait_for is_turn || fail "it is nobody's turn: $(<"$work/stderr")"; }
 
+# expect_flight: a red trail has grown since `before`, its pixels then, and the button is not golden.
+red() { pixels_of '#FF0000'; }
+trail_grows() { look "$battle" && (($(red) > before)); }
+expect_flight() {
+    wait_for trail_grows || fail "the trail does not grow in flight: $(red) pixels after $before"
+    before=$(red)
+    (($(pixels_of "$gold") == 0)) || fail "the controls look usable in flight"
+}
+
 # start_battle: lets the first player of the list fight the second.
 start_battle() {
     press "$lobby" Home Return Down Return

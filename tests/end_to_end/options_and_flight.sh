@@ -12,14 +12,6 @@ start_display
 start_game --seed 1
 start_battle
 
-# In flight a red trail grows, and the button is not golden.
-red() { pixels_of '#FF0000'; }
-trail_grows() { look "$battle" && (($(red) > before)); }
-expect_flight() {
-    wait_for trail_grows || fail "the trail does not grow in flight: $(red) pixels after $before"
-    before=$(red)
-    (($(pixels_of "$gold") == 0)) || fail "the controls look usable in flight"
-}
 look "$battle"
 before=$(red)
 battle alt+s

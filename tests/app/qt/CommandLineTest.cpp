@@ -1,0 +1,41 @@
+#include <QTest>
+
+#include "app/qt/QtCommandLine.h"
+
+namespace skylob::test {
+
+static CommandLine parse(std::initializer_list<std::string_view> arguments) {
+    return parseCommandLine(std::span{arguments.begin(), arguments.size()});
+}
+
+class CommandLineTest : public QObject {
+    Q_OBJECT
+
+  private slots:
+    void takesItsOptionsAndRefusesTheRest() {
+        using Request = CommandLine::Request;
+        QCOMPARE(parse({}).request, Request::Play);
+        QCOMPARE(parse({"--help"}).request, Request::Help);
+        QCOMPARE(parse({"--user-data", "-h"}).request, Request::Help);
+        QCOMPARE(parse({"--seed", "5", "--version"}).request, Request::Version);
+        QCOMPARE(parse({"--seed", "18446744073709551615"}).seed, 18446744073709551615u);
+        QCOMPARE(parse({"--data-dir=a=b", "--seed=7"}).seed, 7u);
+        QCOMPARE(parse({"--seed=7", "--data-dir=a=b"}).dataDir, "a=b");
+        QCOMPARE(parse({"--data-dir", "my f\u00f6lder"}).dataDir, "my f\u00f6lder");
+        QVERIFY(parse({"--user-data"}).userData);
+        QVERIFY(!parse({}).userData);
+        for (const auto& refused :
+             {parse({"--seed"}), parse({"--seed", "-1"}), parse({"--seed", "1x"}),
+              parse({"--seed="}), parse({"--data-dir", ""}), parse({"--fast"}), parse({"-seed=1"}),
+              parse({"--help=x"}), parse({"--help", "--fast"}), parse({"file"}), parse({""}),
+              parse({"--", "-\n"}), parse({"--user-data", "--data-dir", "x"}), parse({"\xff"})}) {
+            QCOMPARE(refused.request, Request::Refused);
+            QVERIFY(!refused.error.empty() && refused.error.find('\n') == std::string::npos);
+        }
+    }
+};
+
+}  // namespace skylob::test
+
+QTEST_APPLESS_MAIN(skylob::test::CommandLineTest)
+#include "CommandLineTest.moc"

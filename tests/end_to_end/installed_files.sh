@@ -1,0 +1,25 @@
+#!/usr/bin/env bash
+# Usage: installed_files.sh PROGRAM BUILD_DIR
+# What `cmake --install` gives a desktop is valid, and of one mind with the program.
+source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
+
+cmake --install "$2" --prefix "$work/usr" >"$work/installed" || fail "$(<"$work/installed")"
+cd "$work/usr"
+desktop-file-validate share/applications/skylob.desktop || fail "the desktop entry"
+appstreamcli validate --no-net --no-color share/metainfo/*.xml || fail "the metainfo"
+PATH=$work/usr/bin:$PATH $(sed -n 's/^Exec=//p' share/applications/skylob.desktop) --version
+
+for size in 16 24 32 48 64 128 256; do
+    icon=share/icons/hicolor/${size}x$size/apps/skylob.png
+    [[ $(identify -format '%w %h' "$icon") == "$size $size" ]] || fail "$icon has another size"
+done
+[[ -s share/icons/hicolor/scalable/apps/skylob.svg ]] || fail "no scalable icon"
+
+options() { grep -oE -- '--[a-z][a-z-]+' | sort -u; }
+bin/skylob --help | options >told
+sed 's/\\-/-/g' share/man/man6/skylob.6 | options | diff told - || fail "the man page's options"
+bash -c 'source /usr/share/bash-completion/bash_completion
+    source share/bash-completion/completions/skylob
+    COMP_WORDS=(bin/skylob --) COMP_CWORD=1 COMP_LINE="bin/skylob --" COMP_POINT=13
+    _skylob bin/skylob -- bin/skylob
+    printf "%s\n" "${COMPREPLY[@]}"' | options | diff told - || fail "the completion's options"
