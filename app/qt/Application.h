@@ -18,6 +18,7 @@
 #include "platform/qt/QtSettingsStore.h"
 #include "platform/qt/SdlSoundPlayer.h"
 #include "players/PlayerFile.h"
+#include "screen/qt/QtEnterGuard.h"
 #include "screen/qt/QtMessageBoxes.h"
 #include "screen/qt/QtModalGuard.h"
 #include "screen/qt/QtScreen.h"
@@ -75,6 +76,7 @@ class Application : public QApplication {
     void endProgram();
 
     QtModalGuard m_modalGuard;
+    QtEnterGuard m_enterGuard;
     SingleCopy m_singleCopy;
     SeededRandom m_random;
     SystemClock m_clock;

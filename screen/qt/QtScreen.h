@@ -10,6 +10,7 @@ class QEventLoop;
 
 namespace skylob {
 
+class GlintButton;
 class QtScreenFade;
 class QtShapes;
 class SettingsStore;
@@ -55,6 +56,10 @@ class QtScreen : public QWidget {
     /// The user wants to close the window by its frame, or with Esc if it is modal, and it may be
     /// closed. It stays unless this hides it or calls leave().
     virtual void askedToClose() = 0;
+
+    /// The button that Enter presses, as its access key would; null where Enter does nothing. Asked
+    /// anew at each press. What the focused control makes of Enter itself goes before.
+    virtual GlintButton* primaryButton() const { return nullptr; }
 
     /// False during a fade and from beginLeaving() on.
     bool mayClose() const;

@@ -213,6 +213,8 @@ class frmGetPlayersTest : public QObject {
         QCOMPARE(answer(Qt::Key_P, Qt::AltModifier), 6);
         QCOMPARE(answer(Qt::Key_Escape), 6);
         QCOMPARE(answer(Qt::Key_Space), 5);
+        world.shared.SkillLevel = 6;
+        QCOMPARE(answer(Qt::Key_Return), 5);  // where the focus is at first
         QCOMPARE(answer(Qt::Key_G, Qt::AltModifier), 4);
     }
 };
