@@ -1,5 +1,6 @@
 #include "players/Lobby.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "base/OpenLink.h"
@@ -24,6 +25,7 @@ constexpr std::string_view kInvitation = "%0D%0A%0D%0ASee%20you%20on%20the%20bat
 }  // namespace
 
 Lobby::Lobby(basSkylob& shared, const LobbyPorts& ports) : m_shared{shared}, m_ports{ports} {
+    if (shared.SetOver) m_lastPairing = Pairing{shared};
 }
 
 void Lobby::Form_Activate() {
@@ -47,6 +49,7 @@ void Lobby::UpdateGrid() {
 
 void Lobby::fillGrid(std::vector<PlayerRecord> records) {
     const bool empty = records.empty();
+    offerRematch(records);
     m_ports.view.fillGrid(std::move(records));
     if (!empty) return;
     m_ports.boxes.show({"Empty Player List",
@@ -79,6 +82,26 @@ void Lobby::chkComputer_Click(bool ticked) {
         StartBattle();
     });
     if (!done) showPairing();
+}
+
+void Lobby::offerRematch(const std::vector<PlayerRecord>& records) {
+    const auto canPlay = [&](int side) {
+        const auto isHim = [&](const PlayerRecord& record) {
+            return nameOf(record) == m_lastPairing.labelPlayerName(side);
+        };
+        return (side == 2 && m_lastPairing.chkComputer()) ||
+               std::any_of(records.begin(), records.end(), isHim);
+    };
+    m_mayRematch = m_lastPairing.isComplete() && canPlay(1) && canPlay(2);
+    m_ports.view.offerRematch(m_mayRematch ? m_lastPairing : Pairing{});
+}
+
+void Lobby::cmdRematch_Click() {
+    m_gate.run([this] {
+        if (!m_mayRematch) return;
+        m_pairing = m_lastPairing;
+        StartBattle();
+    });
 }
 
 void Lobby::StartBattle() {
@@ -124,6 +147,7 @@ void Lobby::addPlayer() {
     const ListChange change = m_ports.file.addPlayer(*name);
     if (change != ListChange::Done) return refuse(change);
     fillGrid(m_ports.file.records());
+    m_ports.view.highlightRow(m_ports.file.PlayerCount - 1);  // whom the rest may be about
 }
 
 void Lobby::renamePlayer(const ListedPlayer& player) {
@@ -135,6 +159,7 @@ void Lobby::renamePlayer(const ListedPlayer& player) {
     if (change == ListChange::Outdated) return refuseOutdated(player);
     if (change != ListChange::Done) return refuse(change);
     m_pairing.rename(before, *name);
+    m_lastPairing.rename(before, *name);
     showPairing();
     fillGrid(m_ports.file.records());
     m_ports.view.highlightRow(player.recordNumber - 1);
@@ -149,6 +174,7 @@ void Lobby::deletePlayer(const ListedPlayer& player) {
     const ListChange change = m_ports.file.deletePlayer(player);
     if (change == ListChange::Outdated) return refuseOutdated(player);
     m_pairing.remove(name);
+    m_lastPairing.remove(name);
     showPairing();
     if (m_ports.file.PlayerCount == 0)
         UpdateGrid();  // makes the file anew that went with the last player

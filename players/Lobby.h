@@ -31,6 +31,9 @@ class LobbyView {
 
     virtual void showPairing(const Pairing& pairing) = 0;
 
+    /// Offers these two a rematch, or nobody if the pairing is not complete.
+    virtual void offerRematch(const Pairing& pairing) = 0;
+
     /// Brings the option buttons in line with the stored settings.
     virtual void showOptions() = 0;
 
@@ -75,6 +78,11 @@ class Lobby {
     void labelPlayerName_DblClick();
     void chkComputer_Click(bool ticked);
 
+    /// Has the two play again who have just finished a set, whoever else has been chosen; nothing
+    /// unless both are in the list, or the second is the computer. They may have got other names
+    /// meanwhile.
+    void cmdRematch_Click();
+
     /// Without a highlighted player the last two do nothing.
     void cmdAdd_Click();
     void cmdModify_Click(const std::optional<ListedPlayer>& highlighted);
@@ -99,6 +107,7 @@ class Lobby {
     void UpdateGrid();
     void fillGrid(std::vector<PlayerRecord> records);
     void showPairing();
+    void offerRematch(const std::vector<PlayerRecord>& records);
     void StartBattle();
 
     void addPlayer();
@@ -114,6 +123,8 @@ class Lobby {
     basSkylob& m_shared;
     LobbyPorts m_ports;
     Pairing m_pairing;
+    Pairing m_lastPairing;      ///< of the set just played; not complete if there was none
+    bool m_mayRematch = false;  ///< both of it can play
     CommandGate m_gate;
     bool m_activated = false;
 };

@@ -4,6 +4,10 @@
 
 namespace skylob {
 
+Pairing::Pairing(const basSkylob& shared)
+    : m_name{shared.PlayerName}, m_chkComputer{shared.isComputer(2)} {
+}
+
 std::string_view Pairing::frameCaption(int side) const {
     if (side == 2) return " Player 2 ";
     return m_name[1].empty() ? " Player 1 " : " Double-click to UNselect ";

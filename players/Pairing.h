@@ -7,10 +7,16 @@
 
 namespace skylob {
 
+struct basSkylob;
+
 /// Who is going to play whom: the two names on the player list screen, and the box beside them.
 /// Player 1 comes and goes by double-clicks; player 2, once there, goes only with the box.
 class Pairing {
   public:
+    /// Nobody, or the two who play the set that `shared` tells of.
+    Pairing() = default;
+    explicit Pairing(const basSkylob& shared);
+
     /// Empty as long as nobody has been chosen.
     const std::string& labelPlayerName(int side) const { return m_name[side]; }
     bool chkComputer() const { return m_chkComputer; }

@@ -19,6 +19,7 @@
 #include "platform/qt/QtWindowStore.h"
 #include "platform/qt/SdlSoundPlayer.h"
 #include "players/PlayerFile.h"
+#include "screen/qt/QtEnterGuard.h"
 #include "screen/qt/QtMessageBoxes.h"
 #include "screen/qt/QtModalGuard.h"
 #include "screen/qt/QtScreen.h"
@@ -77,6 +78,7 @@ class Application : public QApplication {
     void endProgram();
 
     QtModalGuard m_modalGuard;
+    QtEnterGuard m_enterGuard;
     SingleCopy m_singleCopy;
     SeededRandom m_random;
     SystemClock m_clock;

@@ -13,7 +13,8 @@ namespace skylob {
 class QtShapes;
 
 /// The button of every screen: owner-drawn, with ten events. Only the space bar and the access
-/// key press it from the keyboard; Enter does nothing, and there are no default buttons.
+/// key press it from the keyboard. Enter does nothing to it, and it is no default button: what
+/// Enter presses is its screen's matter.
 ///
 /// It is a widget like any other: setEnabled, font and the rest are the toolkit's. A disabled
 /// widget is drawn dull and takes no input, whatever its Enabled property says; the property sets

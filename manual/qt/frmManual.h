@@ -33,6 +33,7 @@ class frmManual : public QtScreen {
 
   private:
     void askedToClose() override;
+    GlintButton* primaryButton() const override { return cmdReturn; }
     void makeMenu();
     void makeButtons();
     void menuHelpTopic_Click(int index);

@@ -8,11 +8,11 @@ namespace skylob {
 
 namespace {
 
-constexpr QRect kSlot{12, 34, 260, 38};
+constexpr std::initializer_list<int> kNameSizes{kLargeSize, kTextSize};
+constexpr int kSlotTop = 34, kSlotHeight = 38, kPadding = 12;
 
 QLabel* labelInSlot(const char* role, QWidget* parent) {
     auto* label = new QLabel{parent};
-    label->setGeometry(kSlot);
     label->setAlignment(Qt::AlignCenter);
     label->setTextFormat(Qt::PlainText);
     label->setProperty("role", QLatin1String{role});
@@ -33,10 +33,18 @@ QtChosenPlayer::QtChosenPlayer(int side, QWidget* parent)
 }
 
 void QtChosenPlayer::setName(const QString& name) {
+    m_shownName = name;
     m_name->setAccessibleName(tr("Player %1: %2").arg(side()).arg(name));
     m_name->setVisible(!name.isEmpty());
     m_hint->setVisible(name.isEmpty());
-    showFitting(*m_name, name, {kLargeSize, kTextSize});
+    showFitting(*m_name, name, kNameSizes);
+}
+
+void QtChosenPlayer::resizeEvent(QResizeEvent* event) {
+    QtSideFrame::resizeEvent(event);
+    for (QLabel* label : {m_name, m_hint})
+        label->setGeometry(kPadding, kSlotTop, width() - 2 * kPadding, kSlotHeight);
+    showFitting(*m_name, m_shownName, kNameSizes);
 }
 
 bool QtChosenPlayer::eventFilter(QObject*, QEvent* event) {

@@ -27,8 +27,10 @@ class QtChosenPlayer : public QtSideFrame {
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
   private:
+    QString m_shownName;
     QLabel *m_name, *m_hint;
 };
 

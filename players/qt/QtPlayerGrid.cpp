@@ -16,7 +16,7 @@ namespace skylob {
 namespace {
 
 constexpr int kHeaderHeight = 32, kRowHeight = 30;
-constexpr int kNameWidth = 214, kSetsWidth = 128, kAverageWidth = 114;
+constexpr int kWidth = 580, kNameWidth = 214, kSetsWidth = 128, kAverageWidth = 114;
 
 class WholeTextToolTips : public QStyledItemDelegate {
   public:
@@ -72,10 +72,36 @@ void QtPlayerGrid::layOutColumns() {
     header->setHighlightSections(false);
     header->setSectionResizeMode(QHeaderView::Fixed);
     setColumnHidden(PlayerGridModel::RecordNumber, true);
-    setColumnWidth(PlayerGridModel::Name, kNameWidth);
-    setColumnWidth(PlayerGridModel::Sets, kSetsWidth);
-    setColumnWidth(PlayerGridModel::Average, kAverageWidth);
+    spreadColumns();
     header->setSectionResizeMode(PlayerGridModel::Ranking, QHeaderView::Stretch);
+}
+
+/// Names get as much of the room for more as the three figures together; the ranking what is left.
+void QtPlayerGrid::spreadColumns() {
+    const int more = std::max(0, width() - kWidth);
+    setColumnWidth(PlayerGridModel::Name, kNameWidth + more / 2);
+    setColumnWidth(PlayerGridModel::Sets, kSetsWidth + more / 6);
+    setColumnWidth(PlayerGridModel::Average, kAverageWidth + more / 6);
+}
+
+void QtPlayerGrid::resizeEvent(QResizeEvent* event) {
+    spreadColumns();
+    QTableView::resizeEvent(event);
+    scrollTo(currentIndex());
+}
+
+QModelIndex QtPlayerGrid::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
+    // The toolkit's own go to the ends of the row.
+    if (action == MoveHome) return m_model->index(0, PlayerGridModel::Name);
+    if (action == MoveEnd) return m_model->index(m_model->rowCount() - 1, PlayerGridModel::Name);
+    return QTableView::moveCursor(action, modifiers);
+}
+
+/// A click beside the rows, or with Ctrl, would take the highlight away.
+QItemSelectionModel::SelectionFlags QtPlayerGrid::selectionCommand(const QModelIndex& index,
+                                                                   const QEvent*) const {
+    if (!index.isValid()) return QItemSelectionModel::NoUpdate;
+    return QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows;
 }
 
 void QtPlayerGrid::fill(std::vector<PlayerRecord> records) {

@@ -10,8 +10,8 @@ namespace skylob {
 
 class PlayerGridModel;
 
-/// The player list: one row highlighted at a time, a name too long for its column shown whole as
-/// a tool tip.
+/// The player list: as long as it is not empty one row is highlighted; a name too long for its
+/// column is shown whole as a tool tip. Home and End go to the first and to the last row.
 class QtPlayerGrid : public QTableView {
     Q_OBJECT
 
@@ -28,8 +28,15 @@ class QtPlayerGrid : public QTableView {
     /// A row was double-clicked, or Enter pressed on it.
     void chosen(const skylob::ListedPlayer& player);
 
+  protected:
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                         const QEvent* event) const override;
+    void resizeEvent(QResizeEvent* event) override;
+
   private:
     void layOutColumns();
+    void spreadColumns();
 
     PlayerGridModel* m_model;
 };

@@ -1,10 +1,7 @@
 #include "players/qt/frmGetPlayers.h"
 
-#include <QButtonGroup>
 #include <QCheckBox>
 #include <QFrame>
-#include <QGroupBox>
-#include <QRadioButton>
 #include <QShortcut>
 #include <QSignalBlocker>
 #include <functional>
@@ -15,6 +12,7 @@
 #include "controls/qt/GlintButton.h"
 #include "controls/qt/QtFormButtons.h"
 #include "players/qt/QtChosenPlayer.h"
+#include "players/qt/QtOptionGroup.h"
 #include "players/qt/QtPlayerGrid.h"
 #include "screen/Fade.h"
 #include "screen/qt/modFadeInOut.h"
@@ -27,32 +25,29 @@ constexpr QSize kScreen{784, 504};
 constexpr QRect kGrid{16, 16, 580, 256};
 constexpr PerSide<QRect> kChosen{{16, 284, 284, 84}, {312, 284, 284, 84}};
 constexpr QRect kComputerPanel{608, 284, 160, 84}, kComputerBox{16, 18, 132, 48};
-constexpr QSize kOptionFrame{184, 108}, kOption{156, 24};
-constexpr int kOptionTop = 380;
-constexpr QPoint kFirstOption{14, 30};
-
-/// Without its telling anybody.
-void check(QButtonGroup& group, int id) {
-    const QSignalBlocker quiet{group};
-    group.button(id)->setChecked(true);
-}
+constexpr QRect kFirstOptions{16, 380, 184, 108};
+constexpr int kNextOptions = 198;
+/// The frames of the lower rows share the window's width and keep their height.
+constexpr PerSide<QtPlaces::Follows> kChosenFollow{{0, 6, 3, 6}, {3, 6, 6, 6}};
+constexpr QtPlaces::Follows kFirstOptionsFollow{0, 6, 2, 6}, kNextOptionsFollow{2, 0, 2, 0};
 
 }  // namespace
 
 frmGetPlayers::frmGetPlayers(const QtScreenPorts& screen, const frmGetPlayersPorts& ports)
     : QtScreen{{.name = QStringLiteral("frmGetPlayers"),
                 .caption = QStringLiteral(" Skylob - Player List"),
-                .size = kScreen},
+                .size = kScreen,
+                .mayGrow = true},
                screen},
       m_lobby{m_shared,
               {ports.file, ports.clock, ports.boxes, m_settings, ports.sounds, ports.links, *this}},
       grid{new QtPlayerGrid{this}} {
-    grid->setGeometry(kGrid);
+    m_places.put(grid, kGrid, QtPlaces::kGrows);
     makeButtons();
     for (const int side : {1, 2}) {
         frame[side] = new QtChosenPlayer{side, this};
         frame[side]->setObjectName(QStringLiteral("frame(%1)").arg(side));
-        frame[side]->setGeometry(kChosen[side]);
+        m_places.put(frame[side], kChosen[side], kChosenFollow[side]);
     }
     makeComputerBox();
     makeOptions();
@@ -64,22 +59,30 @@ frmGetPlayers::frmGetPlayers(const QtScreenPorts& screen, const frmGetPlayersPor
 
 void frmGetPlayers::makeButtons() {
     QtFormButtons buttons{objectName(), m_shapes, *this};
-    cmdAdd = buttons.make(QStringLiteral("cmdAdd"), {608, 16, 160, 40}, toQt(Lobby::kAddToolTip));
-    cmdModify =
-        buttons.make(QStringLiteral("cmdModify"), {608, 64, 160, 40}, toQt(Lobby::kModifyToolTip));
-    cmdDelete = buttons.make(QStringLiteral("cmdDelete"), {608, 112, 160, 40},
-                             QStringLiteral(" Delete the Highlighted Player "));
-    cmdEmailFriend = buttons.make(QStringLiteral("cmdEmailFriend"), {608, 168, 160, 48},
-                                  QStringLiteral(" Email a friend about this game! "));
-    cmdHelp =
-        buttons.make(QStringLiteral("cmdHelp"), {608, 224, 160, 48}, QStringLiteral(" Help <F1> "));
-    cmdQuit = buttons.make(QStringLiteral("cmdQuit"), {608, 440, 160, 48});
+    const auto make = [&](const char* name, const QRect& place, const QtPlaces::Follows& follows,
+                          const QString& toolTip = {}) {
+        GlintButton* const button = buttons.make(QLatin1String{name}, place, toolTip);
+        m_places.put(button, place, follows);
+        return button;
+    };
+    constexpr auto kUpper = QtPlaces::kUpperRight, kLower = QtPlaces::kLowerRight;
+    cmdAdd = make("cmdAdd", {608, 16, 160, 40}, kUpper, toQt(Lobby::kAddToolTip));
+    cmdModify = make("cmdModify", {608, 64, 160, 40}, kUpper, toQt(Lobby::kModifyToolTip));
+    cmdDelete = make("cmdDelete", {608, 112, 160, 40}, kUpper,
+                     QStringLiteral(" Delete the Highlighted Player "));
+    cmdEmailFriend = make("cmdEmailFriend", {608, 168, 160, 48}, kUpper,
+                          QStringLiteral(" Email a friend about this game! "));
+    cmdHelp = make("cmdHelp", {608, 224, 160, 48}, kUpper, QStringLiteral(" Help <F1> "));
+    cmdRematch = make("cmdRematch", {608, 380, 160, 48}, kLower,
+                      QStringLiteral(" The same two play another set "));
+    cmdQuit = make("cmdQuit", {608, 440, 160, 48}, kLower);
+    cmdRematch->hide();
 }
 
 void frmGetPlayers::makeComputerBox() {
     auto* panel = new QFrame{this};
     panel->setObjectName(QStringLiteral("strip"));
-    panel->setGeometry(kComputerPanel);
+    m_places.put(panel, kComputerPanel, QtPlaces::kLowerRight);
     chkComputer = new QCheckBox{tr("Play the\nComputer!"), panel};
     chkComputer->setObjectName(QStringLiteral("chkComputer"));
     chkComputer->setGeometry(kComputerBox);
@@ -87,26 +90,19 @@ void frmGetPlayers::makeComputerBox() {
 
 void frmGetPlayers::makeOptions() {
     optScreenSize = makeOptionGroup(QStringLiteral("optScreenSize"), tr("Playing field size"),
-                                    {tr("Small"), tr("Normal"), tr("Large")}, 16);
+                                    {tr("Small"), tr("Normal"), tr("Large")}, 0);
     optRounds =
         makeOptionGroup(QStringLiteral("optRounds"), tr("Rounds per Set"),
-                        {QStringLiteral("5"), QStringLiteral("10"), QStringLiteral("20")}, 214);
+                        {QStringLiteral("5"), QStringLiteral("10"), QStringLiteral("20")}, 1);
     optFormFade = makeOptionGroup(QStringLiteral("optFormFade"), tr("Form Fade effects"),
-                                  {tr("Enabled"), tr("Disabled")}, 412);
+                                  {tr("Enabled"), tr("Disabled")}, 2);
 }
 
-QButtonGroup* frmGetPlayers::makeOptionGroup(const QString& name, const QString& title,
-                                             const QStringList& captions, int left) {
-    auto* box = new QGroupBox{title, this};
-    box->setGeometry({{left, kOptionTop}, kOptionFrame});
-    auto* group = new QButtonGroup{box};
-    for (int i = 0; i < captions.size(); ++i) {
-        const int index = i + 1;
-        auto* button = new QRadioButton{captions[i], box};
-        button->setObjectName(QStringLiteral("%1(%2)").arg(name).arg(index));
-        button->setGeometry({kFirstOption + QPoint{0, i * kOption.height()}, kOption});
-        group->addButton(button, index);
-    }
+QtOptionGroup* frmGetPlayers::makeOptionGroup(const QString& name, const QString& title,
+                                              const QStringList& captions, int column) {
+    auto* group = new QtOptionGroup{name, title, captions, this};
+    m_places.put(group, kFirstOptions.translated(column * kNextOptions, 0),
+                 kFirstOptionsFollow + column * kNextOptionsFollow);
     return group;
 }
 
@@ -124,12 +120,13 @@ void frmGetPlayers::connectControls() {
             [this] { m_lobby.cmdDelete_Click(grid->highlighted()); });
     connect(cmdEmailFriend, &GlintButton::Click, this, [this] { m_lobby.cmdEmailFriend_Click(); });
     connect(cmdHelp, &GlintButton::Click, this, &frmGetPlayers::helpWanted);
+    connect(cmdRematch, &GlintButton::Click, this, [this] { m_lobby.cmdRematch_Click(); });
     connect(cmdQuit, &GlintButton::Click, this, [this] { m_lobby.cmdQuit_Click(); });
-    connect(optScreenSize, &QButtonGroup::idClicked, this,
+    connect(optScreenSize, &QtOptionGroup::chosen, this,
             [this](int index) { m_lobby.optScreenSize_Click(index); });
-    connect(optRounds, &QButtonGroup::idClicked, this,
+    connect(optRounds, &QtOptionGroup::chosen, this,
             [this](int index) { m_lobby.optRounds_Click(index); });
-    connect(optFormFade, &QButtonGroup::idClicked, this,
+    connect(optFormFade, &QtOptionGroup::chosen, this,
             [this](int index) { m_lobby.optFormFade_Click(index); });
 }
 
@@ -160,9 +157,9 @@ void frmGetPlayers::setTabOrder() {
                           cmdHelp,
                           frame[1]->labelPlayerName(),
                           chkComputer};
-    for (const QButtonGroup* group : {optScreenSize, optRounds, optFormFade})
-        for (QAbstractButton* option : group->buttons()) order.append(option);
-    order.append(cmdQuit);
+    for (const QtOptionGroup* group : {optScreenSize, optRounds, optFormFade})
+        order += group->buttons();
+    order += {cmdRematch, cmdQuit};
     for (qsizetype i = 1; i < order.size(); ++i) QWidget::setTabOrder(order[i - 1], order[i]);
     grid->setFocus();
 }
@@ -181,7 +178,13 @@ void frmGetPlayers::askedToClose() {
     m_lobby.cmdQuit_Click();
 }
 
+void frmGetPlayers::resizeEvent(QResizeEvent* event) {
+    QtScreen::resizeEvent(event);
+    m_places.grow(size() - kScreen);
+}
+
 void frmGetPlayers::fillGrid(std::vector<PlayerRecord> records) {
+    for (GlintButton* button : {cmdModify, cmdDelete}) button->setEnabled(!records.empty());
     grid->fill(std::move(records));
 }
 
@@ -198,10 +201,14 @@ void frmGetPlayers::showPairing(const Pairing& pairing) {
     chkComputer->setChecked(pairing.chkComputer());
 }
 
+void frmGetPlayers::offerRematch(const Pairing& pairing) {
+    cmdRematch->setVisible(pairing.isComplete());
+}
+
 void frmGetPlayers::showOptions() {
-    check(*optScreenSize, m_shared.ScreenSize);
-    check(*optRounds, settings::readRoundsChoice(m_settings));
-    check(*optFormFade, m_shared.FadeStatus ? Lobby::kFadeEnabled : Lobby::kFadeDisabled);
+    optScreenSize->check(m_shared.ScreenSize);
+    optRounds->check(settings::readRoundsChoice(m_settings));
+    optFormFade->check(m_shared.FadeStatus ? Lobby::kFadeEnabled : Lobby::kFadeDisabled);
 }
 
 bool frmGetPlayers::canFade() {

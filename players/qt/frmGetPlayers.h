@@ -1,15 +1,16 @@
 #pragma once
 
 #include "players/Lobby.h"
+#include "players/qt/QtPlaces.h"
 #include "screen/qt/QtScreen.h"
 
-class QButtonGroup;
 class QCheckBox;
 
 namespace skylob {
 
 class GlintButton;
 class QtChosenPlayer;
+class QtOptionGroup;
 class QtPlayerGrid;
 
 /// What the player list screen needs besides; all of it must outlive the screen.
@@ -42,6 +43,9 @@ class frmGetPlayers : public QtScreen, private LobbyView {
     void battleChosen();
     void programLeft();
 
+  protected:
+    void resizeEvent(QResizeEvent* event) override;
+
   private:
     void Form_Activate() override;
     void askedToClose() override;
@@ -49,6 +53,7 @@ class frmGetPlayers : public QtScreen, private LobbyView {
     void fillGrid(std::vector<PlayerRecord> records) override;
     void highlightRow(int row) override;
     void showPairing(const Pairing& pairing) override;
+    void offerRematch(const Pairing& pairing) override;
     void showOptions() override;
     bool canFade() override;
     void chooseSkillLevel() override;
@@ -58,19 +63,20 @@ class frmGetPlayers : public QtScreen, private LobbyView {
     void makeButtons();
     void makeComputerBox();
     void makeOptions();
-    QButtonGroup* makeOptionGroup(const QString& name, const QString& title,
-                                  const QStringList& captions, int left);
+    QtOptionGroup* makeOptionGroup(const QString& name, const QString& title,
+                                   const QStringList& captions, int column);
     void connectControls();
     void addShortcuts();
     void setTabOrder();
     void Form_KeyDown();  ///< F1
 
     Lobby m_lobby;
+    QtPlaces m_places;
     QtPlayerGrid* grid;
-    GlintButton *cmdAdd, *cmdModify, *cmdDelete, *cmdEmailFriend, *cmdHelp, *cmdQuit;
+    GlintButton *cmdAdd, *cmdModify, *cmdDelete, *cmdEmailFriend, *cmdHelp, *cmdRematch, *cmdQuit;
     PerSide<QtChosenPlayer*> frame;
     QCheckBox* chkComputer;
-    QButtonGroup *optScreenSize, *optRounds, *optFormFade;
+    QtOptionGroup *optScreenSize, *optRounds, *optFormFade;
 };
 
 }  // namespace skylob

@@ -53,6 +53,10 @@ void frmGetSkillLevel::cmdSkillLevel_Click(int index) {
     leave();
 }
 
+GlintButton* frmGetSkillLevel::primaryButton() const {
+    return qobject_cast<GlintButton*>(focusWidget());
+}
+
 void frmGetSkillLevel::askedToClose() {
     leave();
 }

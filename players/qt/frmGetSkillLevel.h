@@ -14,6 +14,7 @@ class frmGetSkillLevel : public QtScreen {
 
   private:
     void askedToClose() override;
+    GlintButton* primaryButton() const override;  ///< the one with the focus
     void cmdSkillLevel_Click(int index);
 };
 

@@ -102,8 +102,8 @@ void frmSummary::makeBubble() {
 }
 
 void frmSummary::makeOkay() {
-    auto* cmdOkay = QtFormButtons{objectName(), m_shapes, *this}.make(QStringLiteral("cmdOkay"),
-                                                                      {228, 376, 144, 52});
+    cmdOkay = QtFormButtons{objectName(), m_shapes, *this}.make(QStringLiteral("cmdOkay"),
+                                                                {228, 376, 144, 52});
     cmdOkay->setFocus();
     connect(cmdOkay, &GlintButton::Click, this, &frmSummary::cmdOkay_Click);
 }

@@ -28,6 +28,7 @@ class frmSummary : public QtScreen {
     void makeOkay();
     void Form_Activate() override;
     void askedToClose() override;
+    GlintButton* primaryButton() const override { return cmdOkay; }
     void timerDateTime_Timer();
     void cmdOkay_Click();
 
@@ -35,6 +36,7 @@ class frmSummary : public QtScreen {
     PerSide<QtSideFrame*> frame;
     PerSide<QLabel*> labelRoundsWon, labelKills, labelTotalKills;
     QLabel *label, *labelDateTime, *labelComputerSays;
+    GlintButton* cmdOkay;
 };
 
 }  // namespace skylob

@@ -23,4 +23,9 @@ bool isInput(QEvent::Type type) {
     }
 }
 
+bool isEnter(const QKeyEvent& event) {
+    const bool alone = (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    return alone && (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter);
+}
+
 }  // namespace skylob

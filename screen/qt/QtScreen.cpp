@@ -7,7 +7,9 @@
 #include <QScopedValueRollback>
 #include <utility>
 
+#include "controls/qt/GlintButton.h"
 #include "look/qt/QtLook.h"
+#include "screen/qt/QtInput.h"
 #include "screen/qt/QtPlacement.h"
 #include "screen/qt/QtScreenFade.h"
 
@@ -33,7 +35,12 @@ QtScreen::QtScreen(const QtScreenDesign& design, const QtScreenPorts& ports)
     setObjectName(design.name);
     setWindowTitle(design.caption);
     applyLook(*this);
-    setFixedSize(design.size);
+    if (design.mayGrow) {
+        setMinimumSize(design.size);
+        resize(design.size);
+    } else {
+        setFixedSize(design.size);
+    }
     if (design.fadesIn) m_fade->load();
 }
 
@@ -90,6 +97,11 @@ void QtScreen::closeEvent(QCloseEvent* event) {
 }
 
 void QtScreen::keyPressEvent(QKeyEvent* event) {
+    if (isEnter(*event)) {
+        GlintButton* const button = primaryButton();
+        if (button && button->isEnabled()) button->press();
+        return;
+    }
     if (!isModal() || !event->matches(QKeySequence::Cancel)) return QWidget::keyPressEvent(event);
     if (mayClose()) askedToClose();
 }

@@ -10,6 +10,7 @@ class QEventLoop;
 
 namespace skylob {
 
+class GlintButton;
 class QtScreenFade;
 class QtShapes;
 class SettingsStore;
@@ -28,14 +29,15 @@ struct QtScreenPorts {
 struct QtScreenDesign {
     QString name;  ///< as an object, such as "frmManual"
     QString caption;
-    QSize size;
+    QSize size;                        ///< logical pixels, without the frame
     Qt::WindowType type = Qt::Window;  ///< Dialog for what is run with showModal()
     bool fadesIn = true;               ///< where the user wants it and the display can
+    bool mayGrow = false;  ///< the user may make it larger: then `size` is its smallest and first
 };
 
-/// One screen of the program: a window of fixed size in the program's look. It comes up once and
-/// goes once, each in a fade where the user wants it and the display can, and takes no input
-/// meanwhile.
+/// One screen of the program: a window in the program's look, of fixed size unless it may grow. It
+/// comes up once and goes once, each in a fade where the user wants it and the display can, and
+/// takes no input meanwhile.
 class QtScreen : public QWidget {
     Q_OBJECT
 
@@ -56,6 +58,10 @@ class QtScreen : public QWidget {
     /// The user wants to close the window by its frame, or with Esc if it is modal, and it may be
     /// closed. It stays unless this hides it or calls leave().
     virtual void askedToClose() = 0;
+
+    /// The button that Enter presses, as its access key would; null where Enter does nothing. Asked
+    /// anew at each press. What the focused control makes of Enter itself goes before.
+    virtual GlintButton* primaryButton() const { return nullptr; }
 
     /// False during a fade and from beginLeaving() on.
     bool mayClose() const;

@@ -39,7 +39,7 @@ play_set() {
         act "$battle" 322,607 3 alt+a End
         act "$battle" 141,579 21 alt+p Home
         act "$battle" 456,612 1 alt+s
-        act "Round Summary" 300,402 1 space
+        act "Round Summary" 300,402 1 Return
         gone "Round Summary"
     done
     act "Set Summary" 300,402 1 Escape
@@ -76,7 +76,7 @@ start_display
 start_program
 act "$title" 536,392 1 alt+c
 act "New User Overview" 34,410 1 alt+d
-act "New User Overview" 504,410 1 space
+act "New User Overview" 504,410 1 Return
 expect_setting NewUser=NoShow
 play_set
 # Five rounds and 500 enemies make 35 + 166, and a first average is one too high.
@@ -89,7 +89,7 @@ start_compositing
 sed -i '1aFadeStatus=True' "$settings"
 players Ann Computer
 start_program
-act "$title" 536,392 1 space
+act "$title" 536,392 1 Return
 play_set
 expect_players Computer:1:1:202:1 Ann:1:0:1:2
 read_manual

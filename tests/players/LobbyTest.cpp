@@ -20,6 +20,9 @@ struct LobbyTest : testing::Test, PlayersRig, LobbyView {
         log.push_back(pairing.labelPlayerName(1) + '|' + pairing.labelPlayerName(2) + '|');
         log.back().append(pairing.frameCaption(1)) += pairing.chkComputer() ? "|computer" : "|";
     }
+    void offerRematch(const Pairing& pairing) override {
+        rematch = pairing.labelPlayerName(1) + '|' + pairing.labelPlayerName(2);
+    }
     void showOptions() override { log.push_back("options"); }
     bool canFade() override { return fades; }
     void chooseSkillLevel() override {
@@ -34,6 +37,7 @@ struct LobbyTest : testing::Test, PlayersRig, LobbyView {
     }
 
     bool fades = false;
+    std::string rematch = "not asked";
     LobbyPorts ports{file, clock, boxes, settings, sounds, links, *this};
     Lobby lobby{shared, ports};
 };
@@ -182,7 +186,7 @@ TEST_F(LobbyTest, RunsOneCommandAtATime) {
               (Log{"box Confirm", nobody, o, o, o, nobody, "grid Bob Cyd", "highlight 0"}));
     boxes.entries = {"Dan"};
     lobby.cmdAdd_Click();
-    EXPECT_EQ(events(), (Log{kAskNew, nobody, o, o, o, "grid Bob Cyd Dan"}));
+    EXPECT_EQ(events(), (Log{kAskNew, nobody, o, o, o, "grid Bob Cyd Dan", "highlight 2"}));
     EXPECT_THROW(lobby.cmdQuit_Click(), std::logic_error);  // an error is no end of it all
     lobby.chkComputer_Click(true);
     events();
@@ -223,6 +227,51 @@ TEST_F(LobbyTest, TouchesNobodyButThePlayerItHasShown) {
     boxes.answers = {BoxAnswer::Ok};
     lobby.cmdModify_Click(row(2, "Bob"));
     EXPECT_EQ(events().at(2), "grid Cyd");
+}
+
+TEST_F(LobbyTest, OffersARematchToWhoCanPlayAgain) {
+    const struct {
+        PerSide<std::string> names;
+        bool setOver;
+        std::string list, offered;
+    } cases[] = {{{"Ann", "Bob"}, true, bob + cyd + ann, "Ann|Bob"},
+                 {{"Ann", "Bob"}, false, ann + bob, "|"},
+                 {{"Ann", "Bob"}, true, ann + cyd, "|"},
+                 {{"Cyd", "Bob"}, true, ann + bob, "|"},
+                 {{"Ann", "Computer"}, true, ann, "Ann|Computer"}};
+    for (const auto& [names, setOver, list, offered] : cases) {
+        put(list);
+        shared.PlayerName = names;
+        shared.SetOver = setOver;
+        Lobby next{shared, ports};
+        next.cmdRematch_Click();
+        next.Form_Activate();
+        EXPECT_EQ(rematch, offered);
+        events();
+        next.cmdRematch_Click();
+        const bool isOffered = offered != "|";
+        EXPECT_EQ(!log.empty() && log.back() == "battle", isOffered);
+        EXPECT_EQ(std::count(log.begin(), log.end(), "skill"), offered == "Ann|Computer");
+    }
+}
+
+TEST_F(LobbyTest, KnowsWhoMayPlayAgainByTheirPresentNames) {
+    put(ann + bob + cyd);
+    shared.PlayerName = {"Ann", "Bob"};
+    shared.SetOver = true;
+    Lobby next{shared, ports};
+    next.Form_Activate();
+    boxes.entries = {"Bea"};
+    next.cmdModify_Click(row(2, "Bob"));
+    next.grid_DblClick(row(3, "Cyd"));
+    EXPECT_EQ(rematch, "Ann|Bea");
+    next.cmdRematch_Click();
+    EXPECT_EQ(shared.PlayerName, (PerSide<std::string>{"Ann", "Bea"}));
+    Lobby last{shared, ports};
+    last.Form_Activate();
+    boxes.answers = {BoxAnswer::Yes};
+    last.cmdDelete_Click(row(1, "Ann"));
+    EXPECT_EQ(rematch, "|");
 }
 
 TEST_F(LobbyTest, RefusesOnePlayerTooMany) {

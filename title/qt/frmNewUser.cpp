@@ -41,8 +41,8 @@ frmNewUser::frmNewUser(const QtScreenPorts& ports, const std::string& overview)
     chkDontShow->setGeometry(24, 396, 300, 28);
     auto* shortcut = new QShortcut{Qt::ALT | Qt::Key_D, this};
     connect(shortcut, &QShortcut::activated, chkDontShow, &QCheckBox::click);
-    auto* cmdContinue = QtFormButtons{objectName(), m_shapes, *this}.make(
-        QStringLiteral("cmdContinue"), {432, 388, 144, 44});
+    cmdContinue = QtFormButtons{objectName(), m_shapes, *this}.make(QStringLiteral("cmdContinue"),
+                                                                    {432, 388, 144, 44});
     connect(cmdContinue, &GlintButton::Click, this, &frmNewUser::cmdContinue_Click);
     QWidget::setTabOrder(cmdContinue, chkDontShow);
     cmdContinue->setFocus();

@@ -22,9 +22,11 @@ class frmNewUser : public QtScreen {
 
   private:
     void askedToClose() override;
+    GlintButton* primaryButton() const override { return cmdContinue; }
     void cmdContinue_Click();
 
     QCheckBox* chkDontShow;
+    GlintButton* cmdContinue;
 };
 
 }  // namespace skylob

@@ -45,8 +45,8 @@ frmTitlePage::frmTitlePage(const QtScreenPorts& ports, const Clock& clock, Sound
       m_picture{new QtTitleAnimation{m_shapes, this}} {
     setAccessibleName(toQt(kProgramTitle));
     makeLabels();
-    auto* cmdContinue = QtFormButtons{objectName(), m_shapes, *this}.make(
-        QStringLiteral("cmdContinue"), {456, 368, 160, 48});
+    cmdContinue = QtFormButtons{objectName(), m_shapes, *this}.make(QStringLiteral("cmdContinue"),
+                                                                    {456, 368, 160, 48});
     cmdContinue->setFocus();
     connect(cmdContinue, &GlintButton::Click, this, &frmTitlePage::cmdContinue_Click);
 }

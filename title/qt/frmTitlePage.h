@@ -8,6 +8,7 @@
 
 namespace skylob {
 
+class GlintButton;
 class QtTitleAnimation;
 
 /// The first screen: what the program is, over a picture that moves.
@@ -34,6 +35,7 @@ class frmTitlePage : public QtScreen {
 
   private:
     void askedToClose() override;
+    GlintButton* primaryButton() const override { return cmdContinue; }
     void makeLabels();
     void cmdContinue_Click();
 
@@ -42,6 +44,7 @@ class frmTitlePage : public QtScreen {
     LinkOpener& m_links;
     MessageBoxes& m_boxes;
     QtTitleAnimation* m_picture;
+    GlintButton* cmdContinue;
 };
 
 }  // namespace skylob

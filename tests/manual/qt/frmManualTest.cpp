@@ -2,6 +2,7 @@
 
 #include <QLabel>
 #include <QMenu>
+#include <QSignalSpy>
 #include <QTest>
 #include <QTextEdit>
 
@@ -41,6 +42,9 @@ class frmManualTest : public QObject {
         QCOMPARE(choose(Qt::Key_R), "Rules of a Game|<b>Text 1200</b>\n\n&amp;|3 &Rules of a Game");
         QTest::keyClick(manual.findChild<QtLinkLabel*>("labelContact"), Qt::Key_Space);
         QCOMPARE(links.targets, std::vector<std::string>{"mailto:skylob@example.org"});
+        QSignalSpy returned{&manual, &frmManual::returned};
+        QTest::keyClick(manual.findChild<QTextEdit*>("txtManual"), Qt::Key_Return);
+        QCOMPARE(returned.count(), 1);
     }
 
   private:

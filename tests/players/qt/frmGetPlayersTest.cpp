@@ -145,6 +145,46 @@ class frmGetPlayersTest : public QObject {
         QCOMPARE(figures, QStringLiteral("3 0 17 100 -32768 122 "));
     }
 
+    void keepsTheHighlightAndGrows() {
+        LobbyScreen screen{record("Ann") + record("Bob") + record("Cyd")};
+        const auto rowAfter = [&screen](auto act) {
+            act();
+            const auto rows = screen.grid->selectionModel()->selectedRows();
+            return rows.size() == 1 ? rows[0].row() : -1;
+        };
+        const auto press = [&screen](Qt::Key key) { screen.press(screen.grid, key); };
+        const auto click = [&screen](Qt::KeyboardModifiers held, QPoint place) {
+            QTest::mouseClick(screen.rows, Qt::LeftButton, held, place);
+        };
+        QCOMPARE(rowAfter([&] { press(Qt::Key_End); }), 2);
+        QCOMPARE(rowAfter([&] { click({}, {40, 150}); }), 2);  // below the rows
+        QCOMPARE(rowAfter([&] { click(Qt::ControlModifier, {40, 70}); }), 2);
+        QCOMPARE(rowAfter([&] { press(Qt::Key_Home); }), 0);
+        screen.boxes.entries = {"Dan"};
+        QCOMPARE(rowAfter([&] { screen.child<GlintButton>("cmdAdd")->press(); }), 3);
+
+        screen.form.resize(1300, 800);
+        QCOMPARE(screen.grid->geometry(), QRect(16, 16, 580 + 516, 256 + 296));
+        QCOMPARE(screen.child<GlintButton>("cmdQuit")->pos(), QPoint(608 + 516, 440 + 296));
+        QCOMPARE(screen.child<GlintButton>("cmdHelp")->pos(), QPoint(608 + 516, 224));
+        QCOMPARE(screen.form.minimumSize(), QSize(784, 504));
+    }
+
+    void showsWhatCanBeDone() {
+        LobbyScreen screen{record("Ann")};
+        const auto* const rematch = screen.child<GlintButton>("cmdRematch");
+        QVERIFY(screen.child<GlintButton>("cmdModify")->isEnabled() && !rematch->isVisible());
+        screen.boxes.answers = {BoxAnswer::Yes, BoxAnswer::Ok};
+        screen.press(screen.grid, Qt::Key_Delete);
+        for (const char* name : {"cmdModify", "cmdDelete"})
+            QVERIFY(!screen.child<GlintButton>(name)->isEnabled());
+        screen.child<QRadioButton>("optRounds(2)")->setFocus();
+        for (const char* next : {"optFormFade(2)", "cmdQuit", "grid"}) {
+            QTest::keyClick(screen.form.focusWidget(), Qt::Key_Tab);
+            QCOMPARE(screen.form.focusWidget()->objectName(), QString{next});
+        }
+    }
+
     void leavesOnlyWhenConfirmed() {
         LobbyScreen screen{record("Ann")};
         QSignalSpy left{&screen.form, &frmGetPlayers::programLeft};
@@ -214,6 +254,8 @@ class frmGetPlayersTest : public QObject {
         QCOMPARE(answer(Qt::Key_P, Qt::AltModifier), 6);
         QCOMPARE(answer(Qt::Key_Escape), 6);
         QCOMPARE(answer(Qt::Key_Space), 5);
+        world.shared.SkillLevel = 6;
+        QCOMPARE(answer(Qt::Key_Return), 5);  // where the focus is at first
         QCOMPARE(answer(Qt::Key_G, Qt::AltModifier), 4);
     }
 };

@@ -10,7 +10,9 @@
 
 #include "base/NullPorts.h"
 #include "base/basSkylob.h"
+#include "controls/qt/GlintButton.h"
 #include "look/qt/QtShapes.h"
+#include "screen/qt/QtEnterGuard.h"
 
 namespace skylob::test {
 
@@ -19,8 +21,10 @@ class Screen : public QtScreen {
   public:
     using QtScreen::leave, QtScreen::mayClose, QtScreen::QtScreen;
     int keys = 0, activations = 0, asked = 0, left = 0;
+    GlintButton* primary = nullptr;
 
   protected:
+    GlintButton* primaryButton() const override { return primary; }
     void Form_Activate() override { ++activations; }
     void askedToClose() override {
         ++asked;
@@ -80,6 +84,42 @@ class QtScreenTest : public QObject {
         screen.showModal(nullptr);
         QCOMPARE(screen.left, 1);
         QVERIFY(!screen.isVisible());
+    }
+
+    void pressesItsPrimaryButtonOnceForEachPressOfEnter() {
+        Screen screen{{"name", "caption", {200, 100}, Qt::Window, false}, ports};
+        GlintButton button{"cmdOkay", shapes, &screen}, other{"cmdOther", shapes, &screen};
+        for (GlintButton* each : {&button, &other}) each->design().initialiseProperties();
+        int clicks = 0, others = 0;
+        connect(&button, &GlintButton::Click, [&clicks] { ++clicks; });
+        connect(&other, &GlintButton::Click, [&others] { ++others; });
+        const QtEnterGuard guard;
+        const auto send = [&other](QEvent::Type type, int key, Qt::KeyboardModifiers modifiers,
+                                   quint64 time, bool repeats) {
+            QKeyEvent event{type, key, modifiers, "\r", repeats};
+            event.setTimestamp(time);
+            QCoreApplication::sendEvent(&other, &event);
+        };
+        const auto press = [&](quint64 time, int key = Qt::Key_Return,
+                               Qt::KeyboardModifiers modifiers = {}) {
+            send(QEvent::KeyPress, key, modifiers, time, false);
+            return clicks;
+        };
+        QCOMPARE(press(10), 0);  // on a screen without one
+        screen.primary = &button;
+        send(QEvent::KeyPress, Qt::Key_Return, {}, 20, true);
+        QCOMPARE(clicks, 0);  // held since the screen before
+        for (const quint64 repeat : {30u, 40u}) {
+            send(QEvent::KeyRelease, Qt::Key_Return, {}, repeat, false);  // up and down at once
+            QCOMPARE(press(repeat), 0);
+        }
+        send(QEvent::KeyRelease, Qt::Key_Return, {}, 50, false);
+        QCOMPARE(press(60), 1);
+        QCOMPARE(press(70, Qt::Key_Enter, Qt::KeypadModifier), 2);
+        QCOMPARE(press(80, Qt::Key_Return, Qt::AltModifier), 2);
+        button.setEnabled(false);
+        QCOMPARE(press(90), 2);
+        QCOMPARE(others, 0);
     }
 
   private:
