@@ -10,6 +10,7 @@
 #include "battle/PixelBlend.h"
 #include "battle/RidgeLight.h"
 #include "battle/ShellLight.h"
+#include "battle/SkyLight.h"
 #include "battle/StarLight.h"
 #include "battle/TrailLight.h"
 
@@ -46,6 +47,7 @@ FieldLayer::FieldLayer(const FieldPicture& picture, const FieldScene& scene,
                        const BattleState& state)
     : m_picture{picture}, m_scene{scene}, m_state{state} {
     // The lowest first.
+    add<SkyLight>();
     add<RidgeLight>();
     add<MoonLight>();
     add<StarLight>();
