@@ -21,6 +21,8 @@ constexpr Option kOptions[]{
     {"data-dir", 0, "DIR", nullptr, "keep the player list in the folder DIR (made if missing)"},
     {"user-data", 0, nullptr, &CommandLine::userData,
      "keep it in your own data folder\n(otherwise: in the folder that the program is started in)"},
+    {"plain", 0, nullptr, &CommandLine::plain,
+     "no light over the battlefield (\"Effects\" in the battle)"},
     {"seed", 0, "N", nullptr, "repeatable chance: the same seed, the same battlefields"},
     {"help", 'h', nullptr, nullptr, "print this text"},
     {"version", 'v', nullptr, nullptr, "print the version"},

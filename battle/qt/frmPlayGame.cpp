@@ -13,6 +13,7 @@
 #include <utility>
 
 #include "base/Volume.h"
+#include "base/WindowStore.h"
 #include "battle/qt/QtDragAim.h"
 #include "battle/qt/QtEffectTimers.h"
 #include "battle/qt/QtHints.h"
@@ -44,7 +45,7 @@ frmPlayGame::frmPlayGame(const QtScreenPorts& screen, const BattlePorts& ports)
       m_battle{m_shared, ports, *this},
       m_gate{new QtInputGate{this}},
       m_timers{new QtEffectTimers{this, m_battle}},
-      m_field{new picGameField{m_battle.picture(), m_shapes, this}} {
+      m_field{new picGameField{m_battle.picture(), m_layer, m_shapes, this}} {
     new QtDragAim{m_field, m_battle};
     m_field->setGeometry(m_layout.field);
     makeSidePanels();
@@ -122,6 +123,11 @@ void frmPlayGame::makeOptions() {
     chkMeteors = makeBox("chkMeteors", tr("&Meteors"), m_layout.chkMeteors, strip);
     chkLightning = makeBox("chkLightning", tr("&Lightning"), m_layout.chkLightning, strip);
     chkWind = makeBox("chkWind", {}, m_layout.chkWind, strip);
+    chkEffects = makeBox("chkEffects", tr("E&ffects"), m_layout.chkEffects, strip);
+    // Quirk "blank at the ends": one on either side.
+    chkEffects->setToolTip(tr(" Light over the battlefield "));
+    chkEffects->setChecked(m_windows.recall(kEffectsKey, "1") != "0");
+    m_layer.setOn(chkEffects->isChecked());
 }
 
 QCheckBox* frmPlayGame::makeBox(const char* name, const QString& caption, const QRect& place,
@@ -153,6 +159,7 @@ void frmPlayGame::connectControls() {
     onClick(chkMeteors, &BattleOptions::chkMeteors_Click);
     onClick(chkLightning, &BattleOptions::chkLightning_Click);
     onClick(chkWind, &BattleOptions::chkWind_Click);
+    connect(chkEffects, &QCheckBox::clicked, this, &frmPlayGame::chkEffects_Click);
     connect(cmdShoot, &GlintButton::Click, this, [this] { m_battle.cmdShoot_Click(); });
     connect(cmdQuit, &GlintButton::Click, this, [this] { m_battle.cmdQuit_Click(); });
     connect(m_field, &picGameField::pieceClicked, this, [this] { m_battle.FieldPiece_Click(); });
@@ -189,7 +196,8 @@ void frmPlayGame::setTabOrder() {
                                 chkTrajectory,
                                 chkMeteors,
                                 chkLightning,
-                                chkWind};
+                                chkWind,
+                                chkEffects};
     for (qsizetype i = 1; i < order.size(); ++i) QWidget::setTabOrder(order[i - 1], order[i]);
 }
 
@@ -209,7 +217,7 @@ void frmPlayGame::showEvent(QShowEvent* event) {
     fitField();
     // What is not in the persistent picture, such as a shell's trail, is lost with the window.
     m_battle.picture().refresh();
-    m_field->update();
+    m_field->showChanges();
     connect(windowHandle(), &QWindow::screenChanged, this, &frmPlayGame::fitField,
             Qt::UniqueConnection);
 }
@@ -224,6 +232,13 @@ void frmPlayGame::paintEvent(QPaintEvent* event) {
 }
 
 void frmPlayGame::showField() {
+    m_field->showChanges();
+}
+
+/// No rule knows of this box, and clicking it is no activity.
+void frmPlayGame::chkEffects_Click(bool ticked) {
+    m_windows.keep(kEffectsKey, ticked ? "1" : "0");
+    m_layer.setOn(ticked);
     m_field->showChanges();
 }
 
@@ -252,9 +267,9 @@ void frmPlayGame::showCommands(const BattlePanel& panel) {
     const bool wereEnabled = cmdShoot->isEnabled();
     if (wereEnabled && !panel.commandsEnabled) m_focusStaysOnShoot = cmdShoot->hasFocus();
     for (GlintButton* button : {cmdShoot, cmdQuit}) enable(*button, panel.commandsEnabled);
-    for (QWidget* command :
-         std::initializer_list<QWidget*>{labelGameSpeed, scrollGameSpeed, chkSound, scrollVolume,
-                                         chkTrajectory, chkMeteors, chkLightning, chkWind})
+    for (QWidget* command : std::initializer_list<QWidget*>{
+             labelGameSpeed, scrollGameSpeed, chkSound, scrollVolume, chkTrajectory, chkMeteors,
+             chkLightning, chkWind, chkEffects})
         command->setEnabled(panel.commandsEnabled);
     if (!wereEnabled && panel.commandsEnabled) moveFocusToTurn(panel.turn);
     showHints(panel);

@@ -2,6 +2,7 @@
 
 #include "battle/Battle.h"
 #include "battle/BattleView.h"
+#include "battle/FieldLayer.h"
 #include "screen/qt/QtScreen.h"
 
 class QCheckBox;
@@ -76,10 +77,12 @@ class frmPlayGame : public QtScreen, private BattleView {
     void showCommands(const BattlePanel& panel);
     void showHints(const BattlePanel& panel);
     void moveFocusToTurn(int turn);
+    void chkEffects_Click(bool ticked);
     void fitField();
 
     const frmPlayGameLayout& m_layout;
     Battle m_battle;
+    FieldLayer m_layer{m_battle.picture(), m_battle.scene(), m_battle.state()};
     QtInputGate* m_gate;
     QtEffectTimers* m_timers;
     picGameField* m_field;
@@ -87,7 +90,7 @@ class frmPlayGame : public QtScreen, private BattleView {
     QLabel *labelRoundNumber, *labelGameSpeed;
     QScrollBar *scrollGameSpeed, *scrollVolume;
     GlintButton *cmdShoot, *cmdQuit;
-    QCheckBox *chkSound, *chkTrajectory, *chkMeteors, *chkLightning, *chkWind;
+    QCheckBox *chkSound, *chkTrajectory, *chkMeteors, *chkLightning, *chkWind, *chkEffects;
     int m_displayWidth = 0;  ///< that the field was drawn for
     bool m_focusStaysOnShoot = false;
     QtHints* m_hints = nullptr;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QImage>
 #include <QWidget>
 
 #include "battle/FieldPicture.h"
@@ -7,15 +8,18 @@
 
 namespace skylob {
 
+class FieldLayer;
 class QtShapes;
 
-/// Shows a FieldPicture in device pixels, and tells of clicks on the pieces that stand in it.
+/// Shows a FieldPicture in device pixels with the light of a FieldLayer over it, and tells of
+/// clicks on the pieces that stand in it.
 class picGameField : public QWidget {
     Q_OBJECT
 
   public:
-    /// `picture` and `shapes`, which draws the pieces, must outlive the widget.
-    picGameField(FieldPicture& picture, const QtShapes& shapes, QWidget* parent);
+    /// `picture`, `layer`, which lies over it, and `shapes`, which draws the pieces, must outlive
+    /// the widget.
+    picGameField(FieldPicture& picture, FieldLayer& layer, const QtShapes& shapes, QWidget* parent);
 
     /// Makes the picture as large as the widget is on its display. The picture is black and
     /// without pieces afterwards. False when it had that size already and was left alone.
@@ -28,7 +32,7 @@ class picGameField : public QWidget {
     FieldPoint fieldPoint(QPointF position) const;
     QPointF widgetPoint(FieldPoint point) const;
 
-    /// Brings what has changed in the picture to the display before it returns.
+    /// Brings what has changed in the picture and its light to the display before it returns.
     void showChanges();
 
   signals:
@@ -42,9 +46,11 @@ class picGameField : public QWidget {
     bool event(QEvent* event) override;
 
   private:
+    QImage shown() const;
     QRectF logical(const PixelRect& area) const;
 
     FieldPicture& m_picture;
+    FieldLayer& m_layer;
     const QtShapes& m_shapes;
     int m_pressedPiece = 0;
     QPointF m_pressedAt;
