@@ -12,20 +12,22 @@ namespace {
 // degrees, and every player's eye is trained on it.
 constexpr double kDegree = 0.017745329f;
 
-constexpr int kMuzzleHeight = 8;  // above the ground under the piece
-
 Colour trailColour(int side) {
     return side == 1 ? kRed : kMagenta;
 }
 
 }  // namespace
 
+double launchDirection(int side, int angle) {
+    const int fromVertical = 90 - angle;
+    return (side == 2 ? -fromVertical : fromVertical) * kDegree;
+}
+
 ShellFlight::ShellFlight(const Launch& launch)
     : m_wind{launch.wind}, m_x0{launch.pieceX}, m_y0{launch.pieceY + kMuzzleHeight} {
-    const int fromVertical = 90 - launch.angle;
-    const int a = launch.side == 2 ? -fromVertical : fromVertical;
-    m_vx = launch.speed * std::sin(a * kDegree) / 10;
-    m_vy = launch.speed * std::cos(a * kDegree) / 10;
+    const double direction = launchDirection(launch.side, launch.angle);
+    m_vx = launch.speed * std::sin(direction) / 10;
+    m_vy = launch.speed * std::cos(direction) / 10;
 }
 
 FieldPoint ShellFlight::position() const {
