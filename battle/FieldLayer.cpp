@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "battle/BlastLight.h"
+#include "battle/GunLight.h"
+#include "battle/MuzzleFlash.h"
 #include "battle/PixelBlend.h"
 
 namespace skylob {
@@ -35,10 +38,15 @@ class PieceImages : public LightPainter {
 }  // namespace
 
 FieldLayer::FieldLayer(const FieldPicture& picture, const FieldScene& scene,
-                       const BattleState& state)
+                       const BattleState& state, GunDrawings* guns)
     : m_picture{picture}, m_scene{scene}, m_state{state} {
     // The order, the lowest first: sky, pieces, trail, shell, blast, bolts and meteor, arrow.
-    m_painters.push_back(std::make_unique<PieceImages>());
+    if (guns)
+        m_painters.push_back(std::make_unique<GunLight>(*guns));
+    else
+        m_painters.push_back(std::make_unique<PieceImages>());
+    m_painters.push_back(std::make_unique<MuzzleFlash>());
+    m_painters.push_back(std::make_unique<BlastLight>());
 }
 
 FieldLayer::~FieldLayer() = default;
