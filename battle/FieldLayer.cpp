@@ -3,10 +3,18 @@
 #include <algorithm>
 #include <utility>
 
+#include "battle/ArrowLight.h"
 #include "battle/BlastLight.h"
+#include "battle/BoltLight.h"
 #include "battle/GunLight.h"
+#include "battle/MeteorLight.h"
+#include "battle/MoonLight.h"
 #include "battle/MuzzleFlash.h"
 #include "battle/PixelBlend.h"
+#include "battle/RidgeLight.h"
+#include "battle/ShellLight.h"
+#include "battle/StarLight.h"
+#include "battle/TrailLight.h"
 
 namespace skylob {
 
@@ -40,16 +48,29 @@ class PieceImages : public LightPainter {
 FieldLayer::FieldLayer(const FieldPicture& picture, const FieldScene& scene,
                        const BattleState& state, GunDrawings* guns)
     : m_picture{picture}, m_scene{scene}, m_state{state} {
-    // The order, the lowest first: sky, pieces, trail, shell, blast, bolts and meteor, arrow.
+    // The lowest first.
+    add<RidgeLight>();
+    add<MoonLight>();
+    add<StarLight>();
     if (guns)
         m_painters.push_back(std::make_unique<GunLight>(*guns));
     else
-        m_painters.push_back(std::make_unique<PieceImages>());
-    m_painters.push_back(std::make_unique<MuzzleFlash>());
-    m_painters.push_back(std::make_unique<BlastLight>());
+        add<PieceImages>();
+    add<TrailLight>();
+    add<MuzzleFlash>();
+    add<ShellLight>();
+    add<BlastLight>();
+    add<BoltLight>();
+    add<MeteorLight>();
+    add<ArrowLight>();
 }
 
 FieldLayer::~FieldLayer() = default;
+
+template <typename Painter>
+void FieldLayer::add() {
+    m_painters.push_back(std::make_unique<Painter>());
+}
 
 void FieldLayer::setOn(bool on) {
     m_on = on;
@@ -89,7 +110,8 @@ bool FieldLayer::takeSize() {
 void FieldLayer::look(bool remade) {
     const bool moving = moves(m_scene);
     if (moving) ++m_step;
-    const FieldSight sight{m_picture, m_scene, m_state, remade, moving, m_step};
+    if (remade) m_skyline.trace(m_picture, m_state.field.groundColour);
+    const FieldSight sight{m_picture, m_scene, m_state, m_skyline, remade, moving, m_step};
     for (const auto& painter : m_painters) painter->follow(sight, m_changed);
 }
 

@@ -40,6 +40,8 @@ class FieldLayer {
     int height() const { return m_on ? m_height : m_picture.height(); }
 
   private:
+    template <typename Painter>
+    void add();
     bool takeSize();
     void look(bool remade);
     void compose(const PixelRect& area);
@@ -53,6 +55,7 @@ class FieldLayer {
     bool m_on = true, m_switched = true;
     int m_width = 0, m_height = 0;
     int m_makings = 0, m_step = 0;
+    Skyline m_skyline;
     ChangedAreas m_changed;
     LightCanvas m_canvas;
     std::vector<std::uint32_t> m_shown;  ///< empty while it is off

@@ -1,8 +1,5 @@
 #include "battle/LightCanvas.h"
 
-#include <algorithm>
-#include <cmath>
-
 namespace skylob {
 
 namespace {
@@ -58,25 +55,6 @@ void LightCanvas::lay(std::uint32_t* under, Colour colour, double strength) {
     const std::uint32_t over = share(255) << 24 | share(colour.red()) << 16 |
                                share(colour.green()) << 8 | share(colour.blue());
     *under = *under == 0 ? over : laidOver(*under, over);
-}
-
-/// Lays the colour wherever `coverage`, asked with the middles of the pixels between the two
-/// corners, is more than 0.
-template <typename Coverage>
-void LightCanvas::shade(LightPoint low, LightPoint high, Colour colour, double strength,
-                        Coverage coverage) {
-    // The limits are taken before they are made whole numbers: a shell may be far away.
-    const int left = static_cast<int>(std::floor(std::max<double>(low.x, m_area.x)));
-    const int top = static_cast<int>(std::floor(std::max<double>(low.y, m_area.y)));
-    const int right = static_cast<int>(std::ceil(std::min<double>(high.x, m_area.right())));
-    const int bottom = static_cast<int>(std::ceil(std::min<double>(high.y, m_area.bottom())));
-    for (int y = top; y < bottom; ++y) {
-        std::uint32_t* const line = row(y);
-        for (int x = left; x < right; ++x) {
-            const double share = coverage(x + 0.5, y + 0.5);
-            if (share > 0) lay(line + (x - m_area.x), colour, share * strength);
-        }
-    }
 }
 
 void LightCanvas::glow(LightPoint at, double radius, Colour colour, double strength) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+#include <cmath>
 #include <cstdint>
 #include <span>
 #include <vector>
@@ -46,6 +48,24 @@ class LightCanvas {
         lay(row(y) + (x - m_area.x), colour, strength);
     }
 
+    /// Lays the colour where `coverage(x, y)`, asked with the middle of each pixel of the area
+    /// between two corners, is more than 0; it is at most 1.
+    template <typename Coverage>
+    void shade(LightPoint low, LightPoint high, Colour colour, double strength, Coverage coverage) {
+        // The limits are taken before they are made whole numbers: a shell may be far away.
+        const int left = static_cast<int>(std::floor(std::max<double>(low.x, m_area.x)));
+        const int top = static_cast<int>(std::floor(std::max<double>(low.y, m_area.y)));
+        const int right = static_cast<int>(std::ceil(std::min<double>(high.x, m_area.right())));
+        const int bottom = static_cast<int>(std::ceil(std::min<double>(high.y, m_area.bottom())));
+        for (int y = top; y < bottom; ++y) {
+            std::uint32_t* const line = row(y);
+            for (int x = left; x < right; ++x) {
+                const double share = coverage(x + 0.5, y + 0.5);
+                if (share > 0) lay(line + (x - m_area.x), colour, share * strength);
+            }
+        }
+    }
+
     /// The pixels of the area's part of a row, 0xAARRGGBB with premultiplied alpha.
     const std::uint32_t* pixels(int y) const {
         return m_pixels.data() +
@@ -58,8 +78,6 @@ class LightCanvas {
                static_cast<std::size_t>(y - m_area.y) * static_cast<std::size_t>(m_area.width);
     }
     static void lay(std::uint32_t* under, Colour colour, double strength);
-    template <typename Coverage>
-    void shade(LightPoint low, LightPoint high, Colour colour, double strength, Coverage coverage);
 
     PixelRect m_area;
     std::vector<std::uint32_t> m_pixels;

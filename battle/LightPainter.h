@@ -5,6 +5,7 @@
 #include "battle/FieldPicture.h"
 #include "battle/FieldScene.h"
 #include "battle/LightCanvas.h"
+#include "battle/Skyline.h"
 
 namespace skylob {
 
@@ -13,6 +14,7 @@ struct FieldSight {
     const FieldPicture& picture;
     const FieldScene& scene;
     const BattleState& state;
+    const Skyline& skyline;
 
     /// The whole picture has been made anew since the last look, and so is all light over it.
     bool remade = false;
@@ -20,6 +22,9 @@ struct FieldSight {
     bool moving = false;
     /// Counts the looks at something that moves.
     int step = 0;
+
+    /// Device pixels: of a length in logical ones.
+    double scaled(double length) const { return length * picture.dotScale(); }
 
     /// The middle of the dot that the rules draw at a point of the field, 1 wide.
     LightPoint middleOf(FieldPoint at) const {
