@@ -4,9 +4,12 @@
 #include <utility>
 
 #include "battle/ArrowLight.h"
+#include "battle/BlastLight.h"
 #include "battle/BoltLight.h"
+#include "battle/GunLight.h"
 #include "battle/MeteorLight.h"
 #include "battle/MoonLight.h"
+#include "battle/MuzzleFlash.h"
 #include "battle/PixelBlend.h"
 #include "battle/RidgeLight.h"
 #include "battle/ShellLight.h"
@@ -44,17 +47,21 @@ class PieceImages : public LightPainter {
 }  // namespace
 
 FieldLayer::FieldLayer(const FieldPicture& picture, const FieldScene& scene,
-                       const BattleState& state)
+                       const BattleState& state, GunDrawings* guns)
     : m_picture{picture}, m_scene{scene}, m_state{state} {
     // The lowest first.
     add<SkyLight>();
     add<RidgeLight>();
     add<MoonLight>();
     add<StarLight>();
-    add<PieceImages>();
+    if (guns)
+        m_painters.push_back(std::make_unique<GunLight>(*guns));
+    else
+        add<PieceImages>();
     add<TrailLight>();
+    add<MuzzleFlash>();
     add<ShellLight>();
-    // Here is the blasts' place.
+    add<BlastLight>();
     add<BoltLight>();
     add<MeteorLight>();
     add<ArrowLight>();

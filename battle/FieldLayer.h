@@ -8,14 +8,18 @@
 
 namespace skylob {
 
+class GunDrawings;
+
 /// The field as the player sees it: the rules' picture with light upon it. Light falls on black
 /// pixels and in the place of the pieces' images, which are taken off and painted anew; every
 /// other pixel of the rules' picture keeps its colour. Nothing here is read by a rule or draws a
 /// number.
 class FieldLayer {
   public:
-    /// All three must outlive the layer. It is on.
-    FieldLayer(const FieldPicture& picture, const FieldScene& scene, const BattleState& state);
+    /// All must outlive the layer. Without drawings of guns the pieces are as the rules draw them.
+    /// It is on.
+    FieldLayer(const FieldPicture& picture, const FieldScene& scene, const BattleState& state,
+               GunDrawings* guns = nullptr);
     ~FieldLayer();
 
     FieldLayer(const FieldLayer&) = delete;

@@ -14,12 +14,16 @@ Colour trailColour(int side) {
 
 }  // namespace
 
+double launchDirection(int side, int angle) {
+    const int fromVertical = 90 - angle;
+    return (side == 2 ? -fromVertical : fromVertical) * kDegree;
+}
+
 ShellFlight::ShellFlight(const Launch& launch)
     : m_wind{launch.wind}, m_x0{launch.pieceX}, m_y0{launch.pieceY + kMuzzleHeight} {
-    const int fromVertical = 90 - launch.angle;
-    const int a = launch.side == 2 ? -fromVertical : fromVertical;
-    m_vx = launch.speed * std::sin(a * kDegree) / 10;
-    m_vy = launch.speed * std::cos(a * kDegree) / 10;
+    const double direction = launchDirection(launch.side, launch.angle);
+    m_vx = launch.speed * std::sin(direction) / 10;
+    m_vy = launch.speed * std::cos(direction) / 10;
 }
 
 FieldPoint ShellFlight::position() const {

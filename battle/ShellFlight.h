@@ -25,6 +25,13 @@ struct Launch {
     int wind;    ///< see BattleState::Wind
 };
 
+/// Where a shell leaves its piece: so high above the ground under it.
+inline constexpr int kMuzzleHeight = 8;
+
+/// The direction in which a side's shell leaves at an angle of the control, in radians of the
+/// field: 0 straight up, more to the right, less to the left.
+double launchDirection(int side, int angle);
+
 /// A shell's ballistic path in half-unit steps of time.
 class ShellFlight {
   public:

@@ -3,6 +3,7 @@
 #include "battle/Battle.h"
 #include "battle/BattleView.h"
 #include "battle/FieldLayer.h"
+#include "battle/qt/QtGunDrawings.h"
 #include "screen/qt/QtScreen.h"
 
 class QCheckBox;
@@ -82,7 +83,8 @@ class frmPlayGame : public QtScreen, private BattleView {
 
     const frmPlayGameLayout& m_layout;
     Battle m_battle;
-    FieldLayer m_layer{m_battle.picture(), m_battle.scene(), m_battle.state()};
+    QtGunDrawings m_guns{m_shapes};
+    FieldLayer m_layer{m_battle.picture(), m_battle.scene(), m_battle.state(), &m_guns};
     QtInputGate* m_gate;
     QtEffectTimers* m_timers;
     picGameField* m_field;

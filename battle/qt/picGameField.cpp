@@ -9,22 +9,10 @@
 
 #include "battle/FieldLayer.h"
 #include "battle/qt/QtDragAim.h"
+#include "battle/qt/QtGunDrawings.h"
 #include "look/qt/QtShapes.h"
 
 namespace skylob {
-
-namespace {
-
-FieldPicture::PieceImage pieceImage(const QImage& drawing) {
-    FieldPicture::PieceImage image{drawing.width(), drawing.height(), {}};
-    for (int y = 0; y < drawing.height(); ++y) {
-        const auto* line = reinterpret_cast<const QRgb*>(drawing.constScanLine(y));
-        image.pixels.insert(image.pixels.end(), line, line + drawing.width());
-    }
-    return image;
-}
-
-}  // namespace
 
 picGameField::picGameField(FieldPicture& picture, FieldLayer& layer, const QtShapes& shapes,
                            QWidget* parent)
