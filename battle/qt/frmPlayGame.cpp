@@ -8,11 +8,13 @@
 #include <QScreen>
 #include <QScrollBar>
 #include <QShortcut>
+#include <QTextDocument>
 #include <QWindow>
 #include <algorithm>
 #include <utility>
 
 #include "battle/qt/QtEffectTimers.h"
+#include "battle/qt/QtReportLabel.h"
 #include "battle/qt/QtSidePanel.h"
 #include "battle/qt/frmPlayGameLayout.h"
 #include "battle/qt/picGameField.h"
@@ -43,6 +45,7 @@ frmPlayGame::frmPlayGame(const QtScreenPorts& screen, const BattlePorts& ports)
       m_timers{new QtEffectTimers{this, m_battle}},
       m_field{new picGameField{m_battle.picture(), m_shapes, this}} {
     m_field->setGeometry(m_layout.field);
+    makeReportRow();
     makeSidePanels();
     makeButtons();
     makeOptions();
@@ -50,6 +53,17 @@ frmPlayGame::frmPlayGame(const QtScreenPorts& screen, const BattlePorts& ports)
     addShortcuts();
     setTabOrder();
     frmPlayGame::showPanel(m_battle.panel());
+}
+
+void frmPlayGame::makeReportRow() {
+    labelReport = new QtReportLabel{this};
+    labelReport->setObjectName(QStringLiteral("labelReport"));
+    labelReport->setGeometry(m_layout.labelReport);
+    labelScore = new QLabel{this};
+    labelScore->setObjectName(QStringLiteral("labelScore"));
+    labelScore->setGeometry(m_layout.labelScore);
+    labelScore->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    labelScore->setProperty("role", QStringLiteral("round-small"));
 }
 
 void frmPlayGame::makeSidePanels() {
@@ -219,6 +233,7 @@ void frmPlayGame::showPanel(const BattlePanel& panel) {
         m_side[side]->showPanel(panel.side[side], panel.turn == side);
         if (m_layout.oneFrameAtATime) m_side[side]->setVisible(side == std::max(panel.turn, 1));
     }
+    showReportRow(panel);
     labelRoundNumber->setText(QString::fromStdString(panel.labelRoundNumber));
     labelGameSpeed->setText(QString::fromStdString(panel.labelGameSpeed));
     scrollGameSpeed->setValue(panel.scrollGameSpeed);
@@ -232,6 +247,14 @@ void frmPlayGame::showPanel(const BattlePanel& panel) {
     m_timers->follow();
     // While the thread is blocked nothing else would bring the changes to the display.
     if (m_gate->isClosed()) QCoreApplication::sendPostedEvents(this, QEvent::UpdateRequest);
+}
+
+void frmPlayGame::showReportRow(const BattlePanel& panel) {
+    labelReport->showReport(QString::fromStdString(panel.labelReport));
+    const QString score = QString::fromStdString(panel.score);
+    labelScore->setText(QString::fromStdString(panel.labelScore));
+    labelScore->setAccessibleName(score);
+    labelScore->setToolTip(Qt::convertFromPlainText(score));
 }
 
 void frmPlayGame::showCommands(const BattlePanel& panel) {

@@ -13,6 +13,7 @@ namespace skylob {
 class GlintButton;
 class QtEffectTimers;
 class QtInputGate;
+class QtReportLabel;
 class QtSidePanel;
 class picGameField;
 struct frmPlayGameLayout;
@@ -57,6 +58,8 @@ class frmPlayGame : public QtScreen, private BattleView {
     void closeBattle() override;
 
     void makeSidePanels();
+    void makeReportRow();
+    void showReportRow(const BattlePanel& panel);
     void makeButtons();
     void makeOptions();
     static QCheckBox* makeBox(const char* name, const QString& caption, const QRect& place,
@@ -75,7 +78,8 @@ class frmPlayGame : public QtScreen, private BattleView {
     QtEffectTimers* m_timers;
     picGameField* m_field;
     PerSide<QtSidePanel*> m_side;
-    QLabel *labelRoundNumber, *labelGameSpeed;
+    QtReportLabel* labelReport;
+    QLabel *labelScore, *labelRoundNumber, *labelGameSpeed;
     QScrollBar* scrollGameSpeed;
     GlintButton *cmdShoot, *cmdQuit;
     QCheckBox *chkSound, *chkTrajectory, *chkMeteors, *chkLightning, *chkWind;
