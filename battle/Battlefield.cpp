@@ -6,8 +6,6 @@ namespace skylob {
 
 namespace {
 
-constexpr int kMoonRadius = 40;
-
 /// Between the field's edges and the mountain lie two zones on either side.
 struct Zones {
     int A = 0, L = 0, PeakX = 0, R = 0, B = 0;
@@ -164,14 +162,18 @@ void generateBattlefield(Battlefield& field, RandomSource& random, int roundNumb
     drawPieces(field, random);
 }
 
+int moonShadow(const Battlefield& field) {
+    // Quirk "waxing moon": to the left of the moon's centre from the tenth round on.
+    return field.MoonOffset - 5;
+}
+
 void drawBattlefield(const Battlefield& field, FieldPicture& picture, int groundLineWidth) {
     picture.hidePieces();
     picture.clear();
     for (const auto& star : field.stars)
         picture.setPoint(star.x, star.y, star.colour, field.starWidth);
     if (field.hasMoon()) {
-        // Quirk "waxing moon": to the left of the moon's centre from the tenth round on.
-        const int shadow = field.MoonX + field.MoonOffset - 5;
+        const int shadow = field.MoonX + moonShadow(field);
         picture.filledCircle(field.MoonX, field.moonY, kMoonRadius, kCyan);
         picture.filledCircle(shadow, field.moonY, kMoonRadius, kBlack);
     }

@@ -39,6 +39,12 @@ struct Battlefield {
     int heightAt(int x) const { return TerrainHeight[static_cast<std::size_t>(x)]; }
 };
 
+/// The radius of the moon and of the shadow on it, in horizontal units.
+inline constexpr int kMoonRadius = 40;
+
+/// How far to the right of the moon's centre its shadow has its own.
+int moonShadow(const Battlefield& field);
+
 /// The random step in height from one column to the next on a slope of the given kind, 0 (steep
 /// up) to 6 (steep down); 0 for any other kind, without a draw.
 int SlopeStep(RandomSource& random, int kind);

@@ -4,6 +4,8 @@
 #include <cmath>
 #include <utility>
 
+#include "battle/PixelBlend.h"
+
 namespace skylob {
 
 namespace {
@@ -20,25 +22,6 @@ constexpr Colour toColour(std::uint32_t pixel) {
 
 int toInt(double value) {
     return static_cast<int>(std::lround(value));
-}
-
-PixelRect united(const PixelRect& a, const PixelRect& b) {
-    if (a.isEmpty()) return b;
-    if (b.isEmpty()) return a;
-    const int left = std::min(a.x, b.x), top = std::min(a.y, b.y);
-    return {left, top, std::max(a.x + a.width, b.x + b.width) - left,
-            std::max(a.y + a.height, b.y + b.height) - top};
-}
-
-/// `over` (premultiplied alpha) upon an opaque pixel.
-std::uint32_t blend(std::uint32_t under, std::uint32_t over) {
-    const std::uint32_t rest = 255 - (over >> 24);
-    std::uint32_t result = 0xFF000000u;
-    for (const int shift : {0, 8, 16}) {
-        const std::uint32_t part = (under >> shift & 0xFFu) * rest;
-        result |= ((over >> shift & 0xFFu) + (part + 127) / 255) << shift;
-    }
-    return result;
 }
 
 }  // namespace
@@ -163,15 +146,26 @@ void FieldPicture::refresh() {
                                         std::min(area.height, image.height)});
         for (int py = seen.y; py < seen.y + seen.height; ++py) {
             for (int px = seen.x; px < seen.x + seen.width; ++px) {
-                const auto from =
-                    static_cast<std::size_t>(py - area.y) * static_cast<std::size_t>(image.width) +
-                    static_cast<std::size_t>(px - area.x);
                 auto& pixel = m_screen[index(px, py)];
-                pixel = blend(pixel, image.pixels[from]);
+                pixel = blend(pixel, m_pieces[side].pixel(px, py));
             }
         }
     }
     markDirty({0, 0, m_width, m_height});
+}
+
+/// The image's pixel that is seen there.
+std::uint32_t FieldPicture::Piece::pixel(int px, int py) const {
+    return image
+        .pixels[static_cast<std::size_t>(py - area.y) * static_cast<std::size_t>(image.width) +
+                static_cast<std::size_t>(px - area.x)];
+}
+
+bool FieldPicture::showsPiece(int side, int px, int py) const {
+    const auto& [image, area] = m_pieces[side];
+    if (px - area.x >= image.width || py - area.y >= image.height) return false;
+    const std::uint32_t over = m_pieces[side].pixel(px, py);
+    return over >> 24 != 0 && m_screen[index(px, py)] == blend(m_persistent[index(px, py)], over);
 }
 
 PixelRect FieldPicture::takeDirty() {

@@ -6,16 +6,9 @@
 
 #include "base/Colour.h"
 #include "base/PerSide.h"
+#include "battle/PixelRect.h"
 
 namespace skylob {
-
-/// A rectangle of device pixels, y downwards; empty when width or height is 0.
-struct PixelRect {
-    int x = 0, y = 0, width = 0, height = 0;
-
-    bool isEmpty() const { return width <= 0 || height <= 0; }
-    bool operator==(const PixelRect&) const = default;
-};
 
 /// The battlefield's picture. It is drawn in field units, x 1 (left edge) to 1000 (right edge)
 /// and y 1 (bottom) to 1000 (top), onto device pixels without antialiasing.
@@ -43,6 +36,13 @@ class FieldPicture {
 
     int width() const { return m_width; }
     int height() const { return m_height; }
+    int dotScale() const { return m_dotScale; }
+
+    /// The device pixels of a column and of a height, and those of a dot; outside the picture where
+    /// the units are outside the field.
+    int column(int x) const;
+    int row(int y) const;
+    PixelRect dotArea(int x, int y, int width = 1) const;
 
     /// Blackens both buffers.
     void clear();
@@ -88,6 +88,12 @@ class FieldPicture {
     void hidePieces();
     /// The device pixels that a piece takes up; empty while it is hidden.
     PixelRect pieceArea(int side) const;
+    const PieceImage& pieceImage(int side) const { return m_pieces[side].image; }
+
+    /// Whether the screen picture shows a side's piece at that device pixel, which must lie in
+    /// pieceArea() and in the picture: its image is not transparent there, and nothing has been
+    /// drawn upon it since the last refresh().
+    bool showsPiece(int side, int px, int py) const;
 
     /// Rebuilds the screen picture: the persistent picture, then the pieces.
     void refresh();
@@ -95,13 +101,16 @@ class FieldPicture {
     /// The screen picture, 0xFFRRGGBB row by row; valid until the next resize().
     const std::uint32_t* screenPixels() const { return m_screen.data(); }
 
+    /// The persistent picture, in the same way.
+    const std::uint32_t* persistentPixels() const { return m_persistent.data(); }
+
+    /// Counts how often the whole picture has been made anew: resized, cleared or refreshed.
+    int makings() const { return m_making; }
+
     /// What has changed on the screen picture since the last call.
     PixelRect takeDirty();
 
   private:
-    int column(int x) const;
-    int row(int y) const;
-    PixelRect dotArea(int x, int y, int width) const;
     PixelRect clipped(const PixelRect& area) const;
     std::size_t index(int px, int py) const;
     enum class Buffers { Both, ScreenOnly };
@@ -113,13 +122,15 @@ class FieldPicture {
     struct Piece {
         PieceImage image;
         PixelRect area;
+
+        std::uint32_t pixel(int px, int py) const;
     };
 
     int m_width = 0, m_height = 0, m_dotScale = 1;
     std::vector<std::uint32_t> m_persistent, m_screen;
     PerSide<Piece> m_pieces;
     PixelRect m_dirty;
-    int m_making = 0;  ///< counts how often the whole picture has been made anew
+    int m_making = 0;
 };
 
 }  // namespace skylob

@@ -11,6 +11,7 @@
 #include "FigureTable.h"
 #include "RecordFigures.h"
 #include "base/SeededRandom.h"
+#include "battle/FieldLayer.h"
 #include "battle/HeadlessBattle.h"
 #include "battle/qt/frmPlayGameLayout.h"
 #include "battle/qt/picGameField.h"
@@ -84,11 +85,15 @@ void headlessSet(benchmark::State& state) {
     }
 }
 
+enum class Light { Off, On };
+
 /// A shell over a battlefield in a window of the normal size, on the present display. Every
 /// flight is the same.
 class Flight : private HeadlessView {
   public:
-    Flight() {
+    /// The pacer must outlive it.
+    Flight(Light light, Pacer& pacer) : m_animation{m_picture, *this, pacer} {
+        m_layer.setOn(light == Light::On);
         const frmPlayGameLayout& layout = layoutForScreenSize(2);
         applyLook(m_window);
         m_window.setFixedSize(layout.screen);
@@ -98,18 +103,18 @@ class Flight : private HeadlessView {
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
         m_widget.fitPicture();
         SeededRandom random{1};
-        generateBattlefield(m_field, random, 1, kRounds);
-        drawBattlefield(m_field, m_picture, kGroundLineWidth);
+        generateBattlefield(m_state.field, random, 1, kRounds);
+        drawBattlefield(m_state.field, m_picture, kGroundLineWidth);
         showField();
         QCoreApplication::processEvents();
     }
 
     /// Returns the number of half steps.
-    int fly(Pacer& pacer) {
+    int fly() {
         m_shows = 0;
-        FieldAnimation animation{m_picture, *this, pacer};
-        const Launch launch{1, 330, 75, m_field.PieceX[1], m_field.PieceY[1], 0};
-        flyShell(launch, m_field, Trail::None, animation, FlightDelayCount(kGameSpeed));
+        const Battlefield& field = m_state.field;
+        const Launch launch{1, 330, 75, field.PieceX[1], field.PieceY[1], 0};
+        flyShell(launch, field, Trail::None, m_animation, FlightDelayCount(kGameSpeed));
         return m_shows - 1;  // the landing is shown but not held
     }
 
@@ -122,18 +127,19 @@ class Flight : private HeadlessView {
     int m_shows = 0;
     QtShapes m_shapes{programDrawings()};
     FieldPicture m_picture;
-    Battlefield m_field;
+    BattleState m_state;
+    FieldAnimation m_animation;
+    FieldLayer m_layer{m_picture, m_animation.scene(), m_state};
     QWidget m_window;
-    picGameField m_widget{m_picture, m_shapes, &m_window};
+    picGameField m_widget{m_picture, m_layer, m_shapes, &m_window};
 };
 
-template <typename AnyPacer>
+template <typename AnyPacer, Light light>
 void halfStep(benchmark::State& state) {
-    Flight flight;
-    InstantPacer instant;
-    const int halfSteps = flight.fly(instant);
     AnyPacer pacer;
-    while (state.KeepRunningBatch(halfSteps)) flight.fly(pacer);
+    Flight flight{light, pacer};
+    const int halfSteps = flight.fly();
+    while (state.KeepRunningBatch(halfSteps)) flight.fly();
 }
 
 void lateCount(benchmark::State& state) {
@@ -168,7 +174,9 @@ const Figure kFigures[] = {
     {"new battlefield, rules only", newBattlefield, Time::Spent, 60e-6},
     {"new battlefield, drawn", drawnBattlefield<1>, Time::Spent, 3e-3},
     {"new battlefield, drawn at pixel ratio 2", drawnBattlefield<2>},
-    {"half step of flight: plot, show, restore", halfStep<InstantPacer>, Time::GoneBy, 60e-6},
+    {"half step of flight: plot, show, restore", halfStep<InstantPacer, Light::Off>, Time::GoneBy},
+    {"half step with the light over the field", halfStep<InstantPacer, Light::On>, Time::GoneBy,
+     60e-6},
     {"ten rounds without a screen", headlessSet, Time::Spent, 5e-3},
     {"merging a 64 x 64 picture, grey", pictureTransfer, Time::Spent, 60e-6},
     {"redraw of the shoot button", buttonRedraw, Time::Spent, 150e-6},
@@ -179,7 +187,7 @@ const Figure kFigures[] = {
      "recording a set, 1,000 players"},
     {"filling the grid, 32,767 players", fillGrid<32767>, Time::Spent, 100e-3},
     {"one count, not held back by the clock", lateCount, Time::Spent, kCount},
-    {"paced flight, of its nominal time", halfStep<QtPacer>, Time::GoneBy, 1.05, 0.98,
+    {"paced flight, of its nominal time", halfStep<QtPacer, Light::On>, Time::GoneBy, 1.05, 0.98,
      FlightDelayCount(kGameSpeed) * kCount},
 };
 

@@ -43,7 +43,7 @@ frmPlayGame::frmPlayGame(const QtScreenPorts& screen, const BattlePorts& ports)
       m_battle{m_shared, ports, *this},
       m_gate{new QtInputGate{this}},
       m_timers{new QtEffectTimers{this, m_battle}},
-      m_field{new picGameField{m_battle.picture(), m_shapes, this}} {
+      m_field{new picGameField{m_battle.picture(), m_layer, m_shapes, this}} {
     m_field->setGeometry(m_layout.field);
     makeReportRow();
     makeSidePanels();
@@ -210,7 +210,7 @@ void frmPlayGame::showEvent(QShowEvent* event) {
     fitField();
     // What is not in the persistent picture, such as a shell's trail, is lost with the window.
     m_battle.picture().refresh();
-    m_field->update();
+    m_field->showChanges();
     connect(windowHandle(), &QWindow::screenChanged, this, &frmPlayGame::fitField,
             Qt::UniqueConnection);
 }

@@ -2,6 +2,7 @@
 
 #include "battle/Battle.h"
 #include "battle/BattleView.h"
+#include "battle/FieldLayer.h"
 #include "screen/qt/QtScreen.h"
 
 class QCheckBox;
@@ -74,6 +75,7 @@ class frmPlayGame : public QtScreen, private BattleView {
 
     const frmPlayGameLayout& m_layout;
     Battle m_battle;
+    FieldLayer m_layer{m_battle.picture(), m_battle.scene(), m_battle.state()};
     QtInputGate* m_gate;
     QtEffectTimers* m_timers;
     picGameField* m_field;

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "battle/FieldLayer.h"
 #include "look/qt/QtShapes.h"
 
 namespace skylob {
@@ -24,8 +25,9 @@ FieldPicture::PieceImage pieceImage(const QImage& drawing) {
 
 }  // namespace
 
-picGameField::picGameField(FieldPicture& picture, const QtShapes& shapes, QWidget* parent)
-    : QWidget{parent}, m_picture{picture}, m_shapes{shapes} {
+picGameField::picGameField(FieldPicture& picture, FieldLayer& layer, const QtShapes& shapes,
+                           QWidget* parent)
+    : QWidget{parent}, m_picture{picture}, m_layer{layer}, m_shapes{shapes} {
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
@@ -44,18 +46,28 @@ bool picGameField::fitPicture() {
 }
 
 void picGameField::showChanges() {
-    const PixelRect changed = m_picture.takeDirty();
-    if (!changed.isEmpty()) repaint(logical(changed).toAlignedRect());
+    QRegion changed;
+    for (const PixelRect& area : m_layer.update(m_picture.takeDirty()))
+        changed += logical(area).toAlignedRect();
+    if (!changed.isEmpty()) repaint(changed);
 }
 
 void picGameField::paintEvent(QPaintEvent* event) {
-    if (m_picture.width() == 0) return;
-    QImage image{reinterpret_cast<const uchar*>(m_picture.screenPixels()), m_picture.width(),
-                 m_picture.height(), QImage::Format_RGB32};
+    const QImage image = shown();
+    if (image.isNull()) return;
     const qreal ratio = devicePixelRatioF();
-    const QRectF source{event->rect().x() * ratio, event->rect().y() * ratio,
-                        event->rect().width() * ratio, event->rect().height() * ratio};
-    QPainter{this}.drawImage(QRectF{event->rect()}, image, source);
+    QPainter painter{this};
+    for (const QRect& part : event->region()) {
+        const QRectF source{part.x() * ratio, part.y() * ratio, part.width() * ratio,
+                            part.height() * ratio};
+        painter.drawImage(QRectF{part}, image, source);
+    }
+}
+
+/// What the player sees, without a copy.
+QImage picGameField::shown() const {
+    return {reinterpret_cast<const uchar*>(m_layer.pixels()), m_layer.width(), m_layer.height(),
+            QImage::Format_RGB32};
 }
 
 void picGameField::mousePressEvent(QMouseEvent* event) {

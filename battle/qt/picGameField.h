@@ -1,26 +1,30 @@
 #pragma once
 
+#include <QImage>
 #include <QWidget>
 
 #include "battle/FieldPicture.h"
 
 namespace skylob {
 
+class FieldLayer;
 class QtShapes;
 
-/// Shows a FieldPicture in device pixels, and tells of clicks on the pieces that stand in it.
+/// Shows a FieldPicture in device pixels with the light of a FieldLayer over it, and tells of
+/// clicks on the pieces that stand in it.
 class picGameField : public QWidget {
     Q_OBJECT
 
   public:
-    /// `picture` and `shapes`, which draws the pieces, must outlive the widget.
-    picGameField(FieldPicture& picture, const QtShapes& shapes, QWidget* parent);
+    /// `picture`, `layer`, which lies over it, and `shapes`, which draws the pieces, must outlive
+    /// the widget.
+    picGameField(FieldPicture& picture, FieldLayer& layer, const QtShapes& shapes, QWidget* parent);
 
     /// Makes the picture as large as the widget is on its display. The picture is black and
     /// without pieces afterwards. False when it had that size already and was left alone.
     bool fitPicture();
 
-    /// Brings what has changed in the picture to the display before it returns.
+    /// Brings what has changed in the picture and its light to the display before it returns.
     void showChanges();
 
   signals:
@@ -34,10 +38,12 @@ class picGameField : public QWidget {
     bool event(QEvent* event) override;
 
   private:
+    QImage shown() const;
     QRectF logical(const PixelRect& area) const;
     int pieceAt(QPointF position) const;
 
     FieldPicture& m_picture;
+    FieldLayer& m_layer;
     const QtShapes& m_shapes;
     int m_pressedPiece = 0;
 };

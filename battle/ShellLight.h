@@ -1,0 +1,24 @@
+#pragma once
+
+#include "battle/Comet.h"
+
+namespace skylob {
+
+/// The shell in the air: a warm light with a short tail.
+class ShellLight : public LightPainter {
+  public:
+    void follow(const FieldSight& sight, ChangedAreas& changed) override;
+    void paint(LightCanvas& canvas) const override { m_comet.paint(canvas); }
+
+  private:
+    Comet m_comet{{.coreRadius = 2.2,
+                   .glowRadius = 7,
+                   .glowStrength = 0.8,
+                   .tailLength = 36,
+                   .tailRadius = 2.6,
+                   .tailStrength = 0.3,
+                   .head = kFireLight,
+                   .tail = kFireLight}};
+};
+
+}  // namespace skylob
