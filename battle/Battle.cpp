@@ -48,6 +48,7 @@ void Battle::StartRound() {
         m_state.MenLeft[side] = kMenInARound;
         m_shared.RoundKills[side] = 0;
         m_shared.RoundShots[side] = 0;
+        m_state.lastShot[side].reset();
     }
     ++m_state.RoundNumber;
     m_desk.show();
@@ -109,7 +110,7 @@ void Battle::BeginTurn() {
 void Battle::loseWithoutMen() {
     m_shared.Winner = opponentOf(m_state.Shooter);
     tellOfNoMen(m_shared.PlayerName[m_state.Shooter], m_ports.boxes);
-    FinishShot();
+    FinishShot({.side = m_state.Shooter});
 }
 
 void Battle::ComputerTurn() {
@@ -149,7 +150,7 @@ void Battle::FireShell() {
     if (isHit(shot.landing))
         m_animation.scene().wrecked[m_shared.SelfHit ? shot.side : opponentOf(shot.side)] = true;
     Explode(blastOf(shot, m_state), shot.landing);
-    FinishShot();
+    FinishShot(reportOf(shot, m_state));
 }
 
 void Battle::Explode(FieldPoint at, Landing landing) {
@@ -159,12 +160,21 @@ void Battle::Explode(FieldPoint at, Landing landing) {
     m_state.penWidth = 1;
 }
 
-void Battle::FinishShot() {
+void Battle::FinishShot(ShotReport report) {
     creditShot(m_shared, m_state);
-    if (m_shared.Winner >= 1) return EndRound();
-    desert(m_state, m_ports.random);
+    report.end = roundEndOf(m_shared);
+    if (report.end == RoundEnd::None) report.deserted = desert(m_state, m_ports.random);
+    tell(report);
+    if (report.end != RoundEnd::None) return EndRound();
     m_state.Shooter = opponentOf(m_state.Shooter);
     afterShot(&Battle::BeginTurn);
+}
+
+void Battle::tell(const ShotReport& report) {
+    m_state.report = report;
+    if (!report.wasFired()) return;
+    m_state.lastShot[report.side] = report;
+    m_animation.scene().lastLanding[report.side] = markOf(m_shots.back(), m_state.field);
 }
 
 void Battle::afterShot(void (Battle::*next)()) {
@@ -176,6 +186,7 @@ void Battle::afterShot(void (Battle::*next)()) {
 
 void Battle::EndRound() {
     ++m_shared.RoundsWon[m_shared.Winner];
+    m_desk.show();
     m_ports.pacer.Wait(1);
     m_view.showSummary(SummaryKind::Round);
     if (m_state.RoundNumber == m_shared.NumRounds)

@@ -85,7 +85,8 @@ class Battle {
     void fire();
     void FireShell();
     void Explode(FieldPoint at, Landing landing);
-    void FinishShot();
+    void FinishShot(ShotReport report);
+    void tell(const ShotReport& report);
     void afterShot(void (Battle::*next)());
     void EndRound();
     void EndSet();

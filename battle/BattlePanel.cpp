@@ -30,8 +30,26 @@ SidePanel sidePanel(int side, const BattleState& state) {
         panel.menLeft = state.turnNotice.menLeft[side];
         panel.labelMenLeft = "Men Left: " + std::to_string(panel.menLeft);
     }
+    if (const auto& last = state.lastShot[side]) {
+        panel.labelLastSpeed = "was " + std::to_string(last->speed);
+        panel.labelLastAngle = "was " + std::to_string(last->angle);
+        panel.labelLastLanding = landingInShort(*last);
+    }
     panel.enabled = side == state.turnNotice.side && isUsable(Deed::Aim, state);
     return panel;
+}
+
+void showScore(BattlePanel& panel, const basSkylob& shared) {
+    const PerSide<std::string>& name = shared.PlayerName;
+    const PerSide<std::string> won{std::to_string(shared.RoundsWon[1]),
+                                   std::to_string(shared.RoundsWon[2])};
+    panel.labelScore = won[1] + " : " + won[2];
+    panel.score = "Rounds won: " + name[1] + " " + won[1] + ", " + name[2] + " " + won[2];
+}
+
+std::string reportOrNotice(const BattleState& state, const basSkylob& shared) {
+    if (!state.notice.empty()) return state.notice;
+    return state.report ? reportText(*state.report, shared.PlayerName) : std::string{};
 }
 
 }  // namespace
@@ -46,9 +64,12 @@ BattlePanel panelOf(const BattleState& state, const basSkylob& shared) {
     panel.turn = state.turnNotice.side;
     panel.scrollGameSpeed = gameSpeedOnBar(state, shared);
     panel.labelGameSpeed = "Game Speed: " + std::to_string(panel.scrollGameSpeed);
-    if (state.RoundNumber != 0)
+    if (state.RoundNumber != 0) {
         panel.labelRoundNumber = "Round " + std::to_string(state.RoundNumber) + " of " +
                                  std::to_string(shared.NumRounds);
+        showScore(panel, shared);
+    }
+    panel.labelReport = reportOrNotice(state, shared);
     panel.chkSound = state.SoundOn;
     panel.chkTrajectory = state.ShowTrajectory;
     panel.chkMeteors = state.chkMeteors;

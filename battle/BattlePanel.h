@@ -13,6 +13,8 @@ struct SidePanel {
     int scrollSpeed = 0;  ///< in kSpeedRange
     int scrollAngle = 0;  ///< in kAngleRange
     std::string labelSpeed, labelAngle, labelMenLeft;
+    /// The side's last shot of the round; empty before it.
+    std::string labelLastSpeed, labelLastAngle, labelLastLanding;
     int menLeft = 0;       ///< what labelMenLeft says, for a gauge beside it
     bool enabled = false;  ///< the frame and everything in it
 
@@ -26,6 +28,8 @@ struct BattlePanel {
 
     int scrollGameSpeed = 0;  ///< in kGameSpeedRange
     std::string labelGameSpeed, labelRoundNumber;
+    std::string labelReport;        ///< of the last shot, whoever fired it
+    std::string labelScore, score;  ///< the rounds won: "2 : 1", and the same in words
 
     bool chkSound = false, chkTrajectory = false, chkMeteors = false;
     bool chkLightning = false, chkWind = false;

@@ -1,9 +1,13 @@
 #pragma once
 
+#include <optional>
+#include <string>
+
 #include "base/Clock.h"
 #include "base/PerSide.h"
 #include "battle/BarRange.h"
 #include "battle/Battlefield.h"
+#include "battle/ShotReport.h"
 #include "battle/WhoMayAct.h"
 
 namespace skylob {
@@ -37,6 +41,10 @@ struct BattleState {
     /// The width of the pen as it was last left: by the ground's lines, or, at 1, by an explosion
     /// or a meteor. Bolts and the next round's stars are drawn with it. (Shells leave it alone.)
     int penWidth = 1;
+
+    std::optional<ShotReport> report;             ///< of the last shot of the set
+    PerSide<std::optional<ShotReport>> lastShot;  ///< each side's, of this round
+    std::string notice;  ///< where the report stands, instead of it; empty: there is none
 
     int NearMissKills = 0;  ///< men killed by the last near miss
     int LastImpactX = 0;    ///< where the computer's last shell came down

@@ -33,9 +33,11 @@ void creditShot(basSkylob& shared, BattleState& state) {
     }
 }
 
-void desert(BattleState& state, RandomSource& random) {
+int desert(BattleState& state, RandomSource& random) {
     int& men = state.MenLeft[state.Shooter];
-    men = std::max(0, men - RandomInt(random, 1, 15));
+    const int deserters = std::min(men, RandomInt(random, 1, 15));
+    men -= deserters;
+    return deserters;
 }
 
 }  // namespace skylob

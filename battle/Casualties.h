@@ -11,6 +11,7 @@ namespace skylob {
 void creditShot(basSkylob& shared, BattleState& state);
 
 /// 1 to 15 of the shooter's men leave, as far as there are any. They are nobody's kills.
-void desert(BattleState& state, RandomSource& random);
+/// Returns how many have left.
+int desert(BattleState& state, RandomSource& random);
 
 }  // namespace skylob

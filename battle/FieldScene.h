@@ -33,6 +33,10 @@ struct FieldScene {
     std::vector<std::vector<FieldPoint>> bolts;  ///< as far as they have struck down
     PerSide<bool> wrecked;                       ///< hit in this round
 
+    /// On the ground, where each side's last shot of the round came down; nothing where it left the
+    /// field.
+    PerSide<std::optional<FieldPoint>> lastLanding;
+
     /// A new round: nothing has happened on this field yet.
     void clear() { *this = {}; }
 };

@@ -4,6 +4,10 @@
 
 namespace skylob {
 
+namespace {
+constexpr int kFieldMiddle = kColumns / 2;
+}
+
 Shot flyShot(const BattleState& state, int gameSpeed, FieldAnimation& animation) {
     const int side = state.Shooter;
     const Battlefield& field = state.field;
@@ -23,6 +27,25 @@ void judgeShot(const Shot& shot, basSkylob& shared, BattleState& state) {
     shared.NearMiss = true;
     state.NearMissKills = nearMissKills(state.MenLeft[target],
                                         std::abs(shot.landedAt.x - state.field.PieceX[target]));
+}
+
+ShotReport reportOf(const Shot& shot, const BattleState& state) {
+    const int targetX = state.field.PieceX[opponentOf(shot.side)], x = shot.landedAt.x;
+    ShotReport report;
+    report.side = shot.side;
+    report.speed = shot.speed;
+    report.angle = shot.angle;
+    report.landing = shot.landing;
+    report.landedLeft = x <= kFieldMiddle;
+    report.beyond = shot.side == kLeftSide ? x - targetX : targetX - x;
+    if (shot.landing == Landing::NearMiss) report.killed = state.NearMissKills;
+    return report;
+}
+
+std::optional<FieldPoint> markOf(const Shot& shot, const Battlefield& field) {
+    if (shot.landing == Landing::OutOfBounds) return std::nullopt;
+    const int x = shot.landedAt.x;
+    return FieldPoint{x, field.heightAt(x)};
 }
 
 FieldPoint blastOf(const Shot& shot, const BattleState& state) {

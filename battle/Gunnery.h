@@ -5,6 +5,7 @@
 #include "battle/FieldAnimation.h"
 #include "battle/Landing.h"
 #include "battle/ShellFlight.h"
+#include "battle/ShotReport.h"
 
 namespace skylob {
 
@@ -20,6 +21,13 @@ Shot flyShot(const BattleState& state, int gameSpeed, FieldAnimation& animation)
 
 /// Sets SelfHit, DirectHit, NearMiss and NearMissKills as a shot of state.Shooter has landed.
 void judgeShot(const Shot& shot, basSkylob& shared, BattleState& state);
+
+/// What there is to tell of a shot that has been judged, as far as it is known before it is
+/// credited.
+ShotReport reportOf(const Shot& shot, const BattleState& state);
+
+/// The place on the ground where a shot has come down; none where it has left the field.
+std::optional<FieldPoint> markOf(const Shot& shot, const Battlefield& field);
 
 /// Where the blast is seen: at the landing, but that of a near miss on the target.
 FieldPoint blastOf(const Shot& shot, const BattleState& state);

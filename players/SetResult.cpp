@@ -2,8 +2,19 @@
 
 namespace skylob {
 
+namespace {
+constexpr int kPointsARound = 7, kKillsAPoint = 3;
+}
+
 int SetScore(const basSkylob& shared, int side) {
-    return shared.TotalKills[side] / 3 + 7 * shared.RoundsWon[side];
+    return shared.TotalKills[side] / kKillsAPoint + kPointsARound * shared.RoundsWon[side];
+}
+
+std::string setReckoning(const basSkylob& shared, int side) {
+    const auto text = [](int number) { return std::to_string(number); };
+    return text(shared.RoundsWon[side]) + " × " + text(kPointsARound) + " + " +
+           text(shared.TotalKills[side]) + " ÷ " + text(kKillsAPoint) + " = " +
+           text(SetScore(shared, side));
 }
 
 int setWinner(const basSkylob& shared) {

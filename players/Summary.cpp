@@ -3,6 +3,7 @@
 #include <chrono>
 #include <cstdio>
 
+#include "base/RoundEnd.h"
 #include "players/Commentary.h"
 #include "players/Ranking.h"
 #include "players/SetResult.h"
@@ -31,6 +32,10 @@ std::string Summary::heading() const {
     return text;
 }
 
+std::string Summary::reason() const {
+    return m_kind == SummaryKind::Round ? whyRoundIsOver(m_shared) : whoWonTheSet(m_shared);
+}
+
 std::string Summary::labelDateTime() const {
     return dateTimeText(m_ports.clock.now());
 }
@@ -43,6 +48,33 @@ void Summary::cmdOkay_Click() {
         {"Players Update", m_shared.PlayerName[1] + " & " + m_shared.PlayerName[2] +
                                "--\r\nYour overall rating and standing among other players\r\n"
                                "have been updated and recorded in the Player List."});
+}
+
+std::string whyRoundIsOver(const basSkylob& shared) {
+    if (shared.Winner == 0) return {};
+    const std::string& winner = shared.PlayerName[shared.Winner];
+    const std::string& loser = shared.PlayerName[opponentOf(shared.Winner)];
+    switch (roundEndOf(shared)) {
+        case RoundEnd::DirectHit:
+            return winner + "'s shell hit " + loser + "'s piece.";
+        case RoundEnd::SelfHit:
+            return loser + "'s shell hit " + loser + "'s own piece.";
+        case RoundEnd::NearMiss:
+            return winner + "'s shell came down beside " + loser + ", who had no men left.";
+        case RoundEnd::NoMen:
+            return loser + " had no men left to shoot.";
+        case RoundEnd::None:
+            break;
+    }
+    return {};
+}
+
+std::string whoWonTheSet(const basSkylob& shared) {
+    const int winner = setWinner(shared), loser = opponentOf(winner);
+    const int score = SetScore(shared, winner), less = SetScore(shared, loser);
+    const std::string by = std::to_string(score) + " to " + std::to_string(less);
+    if (score == less) return by + ": a tie goes to side 2, " + shared.PlayerName[winner] + ".";
+    return shared.PlayerName[winner] + " beats " + shared.PlayerName[loser] + " by " + by + ".";
 }
 
 std::string dateTimeText(DateTime time) {

@@ -37,6 +37,9 @@ class Summary {
 
     /// "Ann wins this Round!"
     std::string heading() const;
+    /// Why the round ended, or how the winner of the set was found.
+    std::string reason() const;
+
     const std::string& labelComputerSays() const { return m_labelComputerSays; }
 
     /// The present date and time.
@@ -51,6 +54,12 @@ class Summary {
     SummaryPorts m_ports;
     std::string m_labelComputerSays;
 };
+
+/// Why the round that `shared` tells of is over, in a sentence.
+std::string whyRoundIsOver(const basSkylob& shared);
+
+/// Who has won the set that `shared` tells of, and by what scores, in a sentence.
+std::string whoWonTheSet(const basSkylob& shared);
 
 /// As in "11/21/26 - 9:41pm", the same in every country.
 std::string dateTimeText(DateTime time);

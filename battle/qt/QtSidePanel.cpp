@@ -46,12 +46,18 @@ QtSidePanel::QtSidePanel(int side, const QString& caption, const SidePanelLayout
       m_labelSpeed{makeLabel(nameOf("labelSpeed", side), layout.labelSpeed, this)},
       m_labelAngle{makeLabel(nameOf("labelAngle", side), layout.labelAngle, this)},
       m_labelMenLeft{makeLabel(nameOf("labelMenLeft", side), layout.labelMenLeft, this)},
+      m_labelLastSpeed{makeLabel(nameOf("labelLastSpeed", side), layout.labelLastSpeed, this)},
+      m_labelLastAngle{makeLabel(nameOf("labelLastAngle", side), layout.labelLastAngle, this)},
+      m_labelLastLanding{
+          makeLabel(nameOf("labelLastLanding", side), layout.labelLastLanding, this)},
       m_scrollSpeed{
           makeScrollBar(nameOf("scrollSpeed", side), kSpeedRange, layout.scrollSpeed, this)},
       m_scrollAngle{
           makeScrollBar(nameOf("scrollAngle", side), kAngleRange, layout.scrollAngle, this)},
       m_menGauge{new QtMenGauge{this}} {
     m_labelMenLeft->setProperty("role", QStringLiteral("men"));
+    for (QLabel* last : {m_labelLastSpeed, m_labelLastAngle, m_labelLastLanding})
+        last->setProperty("role", QStringLiteral("note"));
     // After the role: measuring the caption settles the looks of all that is in the frame.
     setCaption(caption);
     m_menGauge->setGeometry(layout.menGauge);
@@ -69,6 +75,9 @@ void QtSidePanel::showPanel(const SidePanel& panel, bool isTurn) {
     m_labelSpeed->setText(QString::fromStdString(panel.labelSpeed));
     m_labelAngle->setText(QString::fromStdString(panel.labelAngle));
     m_labelMenLeft->setText(QString::fromStdString(panel.labelMenLeft));
+    m_labelLastSpeed->setText(QString::fromStdString(panel.labelLastSpeed));
+    m_labelLastAngle->setText(QString::fromStdString(panel.labelLastAngle));
+    m_labelLastLanding->setText(QString::fromStdString(panel.labelLastLanding));
     m_scrollSpeed->setValue(panel.scrollSpeed);
     m_scrollAngle->setValue(panel.scrollAngle);
     m_menGauge->showMen(panel.menLeft, isTurn ? colour() : toQColor(themeColour("gauge-off")));

@@ -38,6 +38,7 @@ class QtSidePanel : public QtSideFrame {
 
   private:
     QLabel *m_labelSpeed, *m_labelAngle, *m_labelMenLeft;
+    QLabel *m_labelLastSpeed, *m_labelLastAngle, *m_labelLastLanding;
     QScrollBar *m_scrollSpeed, *m_scrollAngle;
     QtMenGauge* m_menGauge;
 };

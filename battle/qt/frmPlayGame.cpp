@@ -8,6 +8,7 @@
 #include <QScreen>
 #include <QScrollBar>
 #include <QShortcut>
+#include <QTextDocument>
 #include <QWindow>
 #include <algorithm>
 #include <utility>
@@ -17,6 +18,7 @@
 #include "battle/qt/QtDragAim.h"
 #include "battle/qt/QtEffectTimers.h"
 #include "battle/qt/QtHints.h"
+#include "battle/qt/QtReportLabel.h"
 #include "battle/qt/QtSidePanel.h"
 #include "battle/qt/frmPlayGameLayout.h"
 #include "battle/qt/picGameField.h"
@@ -48,6 +50,7 @@ frmPlayGame::frmPlayGame(const QtScreenPorts& screen, const BattlePorts& ports)
       m_field{new picGameField{m_battle.picture(), m_layer, m_shapes, this}} {
     new QtDragAim{m_field, m_battle};
     m_field->setGeometry(m_layout.field);
+    makeReportRow();
     makeSidePanels();
     makeButtons();
     makeOptions();
@@ -55,6 +58,17 @@ frmPlayGame::frmPlayGame(const QtScreenPorts& screen, const BattlePorts& ports)
     addShortcuts();
     setTabOrder();
     frmPlayGame::showPanel(m_battle.panel());
+}
+
+void frmPlayGame::makeReportRow() {
+    labelReport = new QtReportLabel{this};
+    labelReport->setObjectName(QStringLiteral("labelReport"));
+    labelReport->setGeometry(m_layout.labelReport);
+    labelScore = new QLabel{this};
+    labelScore->setObjectName(QStringLiteral("labelScore"));
+    labelScore->setGeometry(m_layout.labelScore);
+    labelScore->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    labelScore->setProperty("role", QStringLiteral("round-small"));
 }
 
 void frmPlayGame::makeSidePanels() {
@@ -248,6 +262,7 @@ void frmPlayGame::showPanel(const BattlePanel& panel) {
         if (m_layout.oneFrameAtATime)
             m_side[side]->setVisible(side == std::max(panel.turn, kLeftSide));
     }
+    showReportRow(panel);
     labelRoundNumber->setText(QString::fromStdString(panel.labelRoundNumber));
     labelGameSpeed->setText(QString::fromStdString(panel.labelGameSpeed));
     scrollGameSpeed->setValue(panel.scrollGameSpeed);
@@ -262,6 +277,14 @@ void frmPlayGame::showPanel(const BattlePanel& panel) {
     m_field->showChanges();  // a barrel points another way, or it is the other side's turn
     // While the thread is blocked nothing else would bring the changes to the display.
     if (m_gate->isClosed()) QCoreApplication::sendPostedEvents(this, QEvent::UpdateRequest);
+}
+
+void frmPlayGame::showReportRow(const BattlePanel& panel) {
+    labelReport->showReport(QString::fromStdString(panel.labelReport));
+    const QString score = QString::fromStdString(panel.score);
+    labelScore->setText(QString::fromStdString(panel.labelScore));
+    labelScore->setAccessibleName(score);
+    labelScore->setToolTip(Qt::convertFromPlainText(score));
 }
 
 void frmPlayGame::showCommands(const BattlePanel& panel) {

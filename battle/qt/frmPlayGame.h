@@ -16,6 +16,7 @@ class GlintButton;
 class QtEffectTimers;
 class QtHints;
 class QtInputGate;
+class QtReportLabel;
 class QtSidePanel;
 class picGameField;
 struct frmPlayGameLayout;
@@ -67,6 +68,8 @@ class frmPlayGame : public QtScreen, private BattleView {
     void closeBattle() override;
 
     void makeSidePanels();
+    void makeReportRow();
+    void showReportRow(const BattlePanel& panel);
     void makeButtons();
     void makeOptions();
     static QCheckBox* makeBox(const char* name, const QString& caption, const QRect& place,
@@ -89,7 +92,8 @@ class frmPlayGame : public QtScreen, private BattleView {
     QtEffectTimers* m_timers;
     picGameField* m_field;
     PerSide<QtSidePanel*> m_side;
-    QLabel *labelRoundNumber, *labelGameSpeed;
+    QtReportLabel* labelReport;
+    QLabel *labelScore, *labelRoundNumber, *labelGameSpeed;
     QScrollBar *scrollGameSpeed, *scrollVolume;
     GlintButton *cmdShoot, *cmdQuit;
     QCheckBox *chkSound, *chkTrajectory, *chkMeteors, *chkLightning, *chkWind, *chkEffects;

@@ -55,7 +55,7 @@ const frmPlayGameLayout kNormal{
                 .labelLastAngle = {274, 60, 60, 22},
                 .labelMenLeft = {12, 90, 124, 22},
                 .menGauge = {140, 97, 96, 8},
-                .labelLastLanding = {240, 90, 94, 22}},
+                .labelLastLanding = {246, 90, 88, 22}},
     .labelRoundNumber = {368, 558, 272, 28},
     .cmdShoot = {368, 592, 176, 88},
     .cmdQuit = {552, 592, 88, 88},

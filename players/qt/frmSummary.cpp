@@ -10,6 +10,7 @@
 #include "look/qt/QtColour.h"
 #include "look/qt/QtLook.h"
 #include "look/qt/QtShapes.h"
+#include "players/SetResult.h"
 #include "screen/qt/QtSideFrame.h"
 
 namespace skylob {
@@ -17,10 +18,27 @@ namespace skylob {
 namespace {
 
 constexpr int kMinute = 60'000;
-constexpr PerSide<QRect> kFrames{{16, 88, 276, 140}, {308, 88, 276, 140}};
-constexpr QRect kFace{16, 256, 54, 54}, kBubble{88, 244, 496, 112};
-constexpr QPoint kBubbleTip{76, 283};
+constexpr PerSide<int> kFrameLeft{16, 308};
+constexpr int kFrameWidth = 276;
+constexpr QSize kFace{54, 54};
+constexpr QPoint kFaceOfBubble{-72, 12}, kTipOfBubble{-12, 39};  // from its corner
 constexpr int kBubbleTipHalf = 8;
+constexpr int kSmallReason = 12;
+
+/// What stands below what: a set's frames have a row more.
+struct Rows {
+    int heading, date, frames, frameHeight, reason, bubble, bubbleHeight;
+};
+constexpr Rows kOfARound{16, 52, 84, 140, 231, 260, 104};
+constexpr Rows kOfASet{12, 46, 72, 172, 249, 275, 92};
+
+constexpr const Rows& rowsOf(SummaryKind kind) {
+    return kind == SummaryKind::Round ? kOfARound : kOfASet;
+}
+
+QRect bubbleOf(SummaryKind kind) {
+    return {88, rowsOf(kind).bubble, 496, rowsOf(kind).bubbleHeight};
+}
 
 QLabel* makeLabel(const QRect& place, const char* role, QWidget* parent) {
     auto* label = new QLabel{parent};
@@ -42,6 +60,17 @@ QLabel* addRow(QtSideFrame& frame, int top, const QString& text, const char* nam
     return figure;
 }
 
+/// The row of a set's score.
+void addReckoning(QtSideFrame& frame, int top, const QString& reckoning) {
+    makeLabel({12, top, 60, 28}, "caption", &frame)->setText(QObject::tr("Score"));
+    auto* score = makeLabel({72, top, 192, 28}, "men", &frame);
+    score->setObjectName(QStringLiteral("labelSetScore(%1)").arg(frame.side()));
+    score->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    score->setText(reckoning);
+    score->setAccessibleName(QObject::tr("Score: %1").arg(reckoning));
+    score->setToolTip(QObject::tr("7 for each round won, 1 for every 3 enemy killed this set"));
+}
+
 void addRule(QtSideFrame& frame, int top) {
     auto* rule = new QFrame{&frame};
     rule->setObjectName(QStringLiteral("rule"));
@@ -57,12 +86,15 @@ frmSummary::frmSummary(const QtScreenPorts& ports, SummaryKind kind, const Summa
                 .size = {600, 444},
                 .type = Qt::Dialog},
                ports},
+      m_kind{kind},
       m_summary{m_shared, kind, rules},
-      label{makeLabel({16, 16, 568, 36}, "heading", this)},
-      labelDateTime{makeLabel({16, 52, 568, 20}, "note", this)} {
+      label{makeLabel({16, rowsOf(kind).heading, 568, 36}, "heading", this)},
+      labelDateTime{makeLabel({16, rowsOf(kind).date, 568, 20}, "note", this)},
+      labelReason{makeLabel({16, rowsOf(kind).reason, 568, 20}, "reason", this)} {
     label->setObjectName(QStringLiteral("label"));
     labelDateTime->setObjectName(QStringLiteral("labelDateTime"));
-    for (QLabel* line : {label, labelDateTime}) line->setAlignment(Qt::AlignCenter);
+    labelReason->setObjectName(QStringLiteral("labelReason"));
+    for (QLabel* line : {label, labelDateTime, labelReason}) line->setAlignment(Qt::AlignCenter);
     makeFrames();
     makeBubble();
     makeOkay();
@@ -76,7 +108,8 @@ void frmSummary::makeFrames() {
         frame[side] = new QtSideFrame{side, this};
         QtSideFrame& box = *frame[side];
         box.setObjectName(QStringLiteral("frame(%1)").arg(side));
-        box.setGeometry(kFrames[side]);
+        box.setGeometry(kFrameLeft[side], rowsOf(m_kind).frames, kFrameWidth,
+                        rowsOf(m_kind).frameHeight);
         box.setCaption(QString::fromStdString(m_shared.PlayerName[side]));
         box.setBadge(QtSideFrame::Badge::Filled);
         labelRoundsWon[side] =
@@ -87,15 +120,18 @@ void frmSummary::makeFrames() {
         addRule(box, 98);
         labelTotalKills[side] = addRow(box, 100, tr("Enemy killed this set"), "labelTotalKills",
                                        m_shared.TotalKills[side]);
+        if (m_kind == SummaryKind::Round) continue;
+        addRule(box, 130);
+        addReckoning(box, 134, QString::fromStdString(setReckoning(m_shared, side)));
     }
 }
 
 void frmSummary::makeBubble() {
     auto* bubble = new QFrame{this};
     bubble->setObjectName(QStringLiteral("bubble"));
-    bubble->setGeometry(kBubble);
-    makeLabel({16, 14, 464, 20}, "note", bubble)->setText(tr("The computer says:"));
-    labelComputerSays = makeLabel({16, 38, 464, 60}, "remark", bubble);
+    bubble->setGeometry(bubbleOf(m_kind));
+    makeLabel({16, 10, 464, 20}, "note", bubble)->setText(tr("The computer says:"));
+    labelComputerSays = makeLabel({16, 32, 464, 58}, "remark", bubble);
     labelComputerSays->setObjectName(QStringLiteral("labelComputerSays"));
     labelComputerSays->setWordWrap(true);
     labelComputerSays->setAlignment(Qt::AlignLeft | Qt::AlignTop);
@@ -112,6 +148,9 @@ void frmSummary::Form_Activate() {
     m_summary.Form_Activate();
     for (const int side : {1, 2}) frame[side]->setTurn(side == m_shared.Winner);
     showFitting(*label, QString::fromStdString(m_summary.heading()), {kHeadingSize, kLargeSize});
+    const QString reason = QString::fromStdString(m_summary.reason());
+    showFitting(*labelReason, reason, {kTextSize, kSmallReason});
+    labelReason->setAccessibleName(reason);
     labelComputerSays->setText(QString::fromStdString(m_summary.labelComputerSays()));
     timerDateTime_Timer();
 }
@@ -124,12 +163,14 @@ void frmSummary::paintEvent(QPaintEvent* event) {
     QtScreen::paintEvent(event);
     QPainter painter{this};
     painter.setRenderHint(QPainter::Antialiasing);
-    m_shapes.paint(painter, QStringLiteral("face"), kFace, QtShapes::Edges::Smooth);
+    const QPoint corner = bubbleOf(m_kind).topLeft(), tip = corner + kTipOfBubble;
+    m_shapes.paint(painter, QStringLiteral("face"), {corner + kFaceOfBubble, kFace},
+                   QtShapes::Edges::Smooth);
     painter.setPen(toQColor(themeColour("line")));
     painter.setBrush(toQColor(themeColour("raised")));
-    const QPointF root{kBubble.left() + 2.0, kBubbleTip.y() + 0.0};
-    painter.drawPolygon(QPolygonF{
-        {root - QPointF{0, kBubbleTipHalf}, kBubbleTip, root + QPointF{0, kBubbleTipHalf}}});
+    const QPointF root{corner.x() + 2.0, tip.y() + 0.0};
+    painter.drawPolygon(
+        QPolygonF{{root - QPointF{0, kBubbleTipHalf}, tip, root + QPointF{0, kBubbleTipHalf}}});
 }
 
 void frmSummary::cmdOkay_Click() {

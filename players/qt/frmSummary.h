@@ -32,10 +32,11 @@ class frmSummary : public QtScreen {
     void timerDateTime_Timer();
     void cmdOkay_Click();
 
+    const SummaryKind m_kind;
     Summary m_summary;
     PerSide<QtSideFrame*> frame;
     PerSide<QLabel*> labelRoundsWon, labelKills, labelTotalKills;
-    QLabel *label, *labelDateTime, *labelComputerSays;
+    QLabel *label, *labelDateTime, *labelReason, *labelComputerSays;
     GlintButton* cmdOkay;
 };
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "players/Commentary.h"
+#include "players/SetResult.h"
 #include "tests/support/PlayersRig.h"
 
 namespace skylob::test {
@@ -36,6 +37,58 @@ TEST(RoundSound, FollowsTheSecondsAgainstTheComputerAlone) {
     EXPECT_EQ(sounds("Bob", 2, false), "- - - - - - - - - - ");
 }
 
+TEST(SetReckoning, IsShownAsItIsReckonedAndSaysWhoWon) {
+    struct Row {
+        PerSide<int> rounds, kills;
+        const char *left, *right, *winner;
+    };
+    const Row rows[] = {
+        {{5, 0},
+         {500, 99},
+         "5 × 7 + 500 ÷ 3 = 201",
+         "0 × 7 + 99 ÷ 3 = 33",
+         "Ann beats Bob by 201 to 33."},
+        {{0, 1}, {2, 3}, "0 × 7 + 2 ÷ 3 = 0", "1 × 7 + 3 ÷ 3 = 8", "Bob beats Ann by 8 to 0."},
+        {{3, 2},
+         {101, 122},
+         "3 × 7 + 101 ÷ 3 = 54",
+         "2 × 7 + 122 ÷ 3 = 54",
+         "54 to 54: a tie goes to side 2, Bob."},
+        // Truncated towards 0.
+        {{0, 0},
+         {-5, -6},
+         "0 × 7 + -5 ÷ 3 = -1",
+         "0 × 7 + -6 ÷ 3 = -2",
+         "Ann beats Bob by -1 to -2."},
+    };
+    for (const auto& [rounds, kills, left, right, winner] : rows) {
+        basSkylob shared;
+        shared.PlayerName = {"Ann", "Bob"};
+        shared.RoundsWon = rounds;
+        shared.TotalKills = kills;
+        EXPECT_EQ(setReckoning(shared, 1), left);
+        EXPECT_EQ(setReckoning(shared, 2), right);
+        EXPECT_EQ(whoWonTheSet(shared), winner);
+    }
+}
+
+TEST(RoundReason, FollowsFromTheLastShell) {
+    using Flag = bool basSkylob::*;
+    const std::pair<Flag, const char*> rows[] = {
+        {&basSkylob::DirectHit, "Bob's shell hit Ann's piece."},
+        {&basSkylob::SelfHit, "Ann's shell hit Ann's own piece."},
+        {&basSkylob::NearMiss, "Bob's shell came down beside Ann, who had no men left."},
+        {nullptr, "Ann had no men left to shoot."}};
+    for (const auto& [flag, reason] : rows) {
+        basSkylob shared;
+        shared.PlayerName = {"Ann", "Bob"};
+        if (flag) shared.*flag = true;
+        EXPECT_EQ(whyRoundIsOver(shared), "");
+        shared.Winner = 2;
+        EXPECT_EQ(whyRoundIsOver(shared), reason);
+    }
+}
+
 struct SummaryTest : testing::Test, PlayersRig {
     SummaryTest() {
         strings.addLines(
@@ -55,6 +108,7 @@ TEST_F(SummaryTest, OfARoundRecordsNothing) {
     summary.Form_Activate();
     EXPECT_EQ(summary.heading() + summary.labelComputerSays() + summary.labelDateTime(),
               "Ann wins this Round!one01/01/70 - 12:00am");
+    EXPECT_EQ(summary.reason(), "Bob had no men left to shoot.");
     summary.cmdOkay_Click();
     EXPECT_EQ(bytes(), ann + bob);
     EXPECT_TRUE(log.empty());
@@ -69,7 +123,8 @@ TEST_F(SummaryTest, OfASetDecidesAndRecordsIt) {
     boxes.answers = {BoxAnswer::Ok};
     Summary summary{shared, SummaryKind::Set, ports};
     summary.Form_Activate();
-    EXPECT_EQ(summary.heading() + summary.labelComputerSays(), "Bob wins this Set!set");
+    EXPECT_EQ(summary.heading() + summary.labelComputerSays() + summary.reason(),
+              "Bob wins this Set!set54 to 54: a tie goes to side 2, Bob.");
     summary.cmdOkay_Click();
     EXPECT_EQ(bytes(), record("Bob", 1, 1, 55, 1) + record("Ann", 1, 0, 55, 2));
     EXPECT_EQ(events(), (Log{"sound set", "box Players Update"}));
