@@ -33,7 +33,12 @@ QtScreen::QtScreen(const QtScreenDesign& design, const QtScreenPorts& ports)
     setObjectName(design.name);
     setWindowTitle(design.caption);
     applyLook(*this);
-    setFixedSize(design.size);
+    if (design.mayGrow) {
+        setMinimumSize(design.size);
+        resize(design.size);
+    } else {
+        setFixedSize(design.size);
+    }
     if (design.type == Qt::Dialog) setWindowModality(Qt::ApplicationModal);
     if (design.fadesIn) m_fade->load();
 }

@@ -28,14 +28,15 @@ struct QtScreenPorts {
 struct QtScreenDesign {
     QString name;  ///< as an object, such as "frmManual"
     QString caption;
-    QSize size;
+    QSize size;                        ///< logical pixels, without the frame
     Qt::WindowType type = Qt::Window;  ///< Dialog for what is run with showModal()
     bool fadesIn = true;               ///< where the user wants it and the display can
+    bool mayGrow = false;  ///< the user may make it larger: then `size` is its smallest and first
 };
 
-/// One screen of the program: a window of fixed size in the program's look. It comes up once and
-/// goes once, each in a fade where the user wants it and the display can, and takes no input
-/// meanwhile.
+/// One screen of the program: a window in the program's look, of fixed size unless it may grow. It
+/// comes up once and goes once, each in a fade where the user wants it and the display can, and
+/// takes no input meanwhile.
 class QtScreen : public QWidget {
     Q_OBJECT
 
