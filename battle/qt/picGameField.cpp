@@ -4,9 +4,9 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QToolTip>
-#include <algorithm>
 #include <utility>
 
+#include "battle/qt/frmPlayGameLayout.h"
 #include "look/qt/QtShapes.h"
 
 namespace skylob {
@@ -29,11 +29,20 @@ picGameField::picGameField(FieldPicture& picture, const QtShapes& shapes, QWidge
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
-bool picGameField::fitPicture() {
+QSize picGameField::fittingSize() const {
     const qreal ratio = devicePixelRatioF();
-    const QSize pixels{qRound(width() * ratio), qRound(height() * ratio)};
-    if (pixels == QSize{m_picture.width(), m_picture.height()}) return false;
-    m_picture.resize(pixels.width(), pixels.height(), std::max(1, qRound(ratio)));
+    return {qRound(width() * ratio), qRound(height() * ratio)};
+}
+
+bool picGameField::isFitting() const {
+    return fittingSize() == QSize{m_picture.width(), m_picture.height()};
+}
+
+bool picGameField::fitPicture(const QSize& smallest) {
+    if (isFitting()) return false;
+    const QSize pixels = fittingSize();
+    m_picture.resize(pixels.width(), pixels.height(),
+                     dotScaleOf(smallest, size(), devicePixelRatioF()));
     const auto [pieceWidth, pieceHeight] = m_picture.pieceSize();
     for (const int side : kSides) {
         const QString name = QStringLiteral("piece%1").arg(side);
@@ -44,18 +53,28 @@ bool picGameField::fitPicture() {
 }
 
 void picGameField::showChanges() {
-    const PixelRect changed = m_picture.takeDirty();
-    if (!changed.isEmpty()) repaint(logical(changed).toAlignedRect());
+    PixelRect changed = m_picture.takeDirty();
+    if (changed.isEmpty()) return;
+    // Scaled, a pixel reaches into its neighbours.
+    if (!isFitting())
+        changed = {changed.x - 1, changed.y - 1, changed.width + 2, changed.height + 2};
+    repaint(logical(changed).toAlignedRect());
 }
 
 void picGameField::paintEvent(QPaintEvent* event) {
     if (m_picture.width() == 0) return;
     QImage image{reinterpret_cast<const uchar*>(m_picture.screenPixels()), m_picture.width(),
                  m_picture.height(), QImage::Format_RGB32};
+    QPainter painter{this};
+    if (!isFitting()) {
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.drawImage(QRectF{rect()}, image);
+        return;
+    }
     const qreal ratio = devicePixelRatioF();
     const QRectF source{event->rect().x() * ratio, event->rect().y() * ratio,
                         event->rect().width() * ratio, event->rect().height() * ratio};
-    QPainter{this}.drawImage(QRectF{event->rect()}, image, source);
+    painter.drawImage(QRectF{event->rect()}, image, source);
 }
 
 void picGameField::mousePressEvent(QMouseEvent* event) {
@@ -81,8 +100,10 @@ bool picGameField::event(QEvent* event) {
 }
 
 QRectF picGameField::logical(const PixelRect& area) const {
-    const qreal ratio = devicePixelRatioF();
-    return {area.x / ratio, area.y / ratio, area.width / ratio, area.height / ratio};
+    const bool fits = isFitting();
+    const qreal x = fits ? devicePixelRatioF() : static_cast<qreal>(m_picture.width()) / width();
+    const qreal y = fits ? devicePixelRatioF() : static_cast<qreal>(m_picture.height()) / height();
+    return {area.x / x, area.y / y, area.width / x, area.height / y};
 }
 
 int picGameField::pieceAt(QPointF position) const {

@@ -16,9 +16,10 @@ class picGameField : public QWidget {
     /// `picture` and `shapes`, which draws the pieces, must outlive the widget.
     picGameField(FieldPicture& picture, const QtShapes& shapes, QWidget* parent);
 
-    /// Makes the picture as large as the widget is on its display. The picture is black and
-    /// without pieces afterwards. False when it had that size already and was left alone.
-    bool fitPicture();
+    /// Makes the picture as large as the widget is on its display; pens grow as the widget does
+    /// beyond `smallest`. The picture is black and without pieces afterwards. False when it had
+    /// that size already and was left alone. As long as it has another one, it is shown scaled.
+    bool fitPicture(const QSize& smallest);
 
     /// Brings what has changed in the picture to the display before it returns.
     void showChanges();
@@ -34,6 +35,8 @@ class picGameField : public QWidget {
     bool event(QEvent* event) override;
 
   private:
+    QSize fittingSize() const;
+    bool isFitting() const;
     QRectF logical(const PixelRect& area) const;
     int pieceAt(QPointF position) const;
 
