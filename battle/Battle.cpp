@@ -8,7 +8,7 @@
 namespace skylob {
 
 namespace {
-constexpr int kWidestNarrowDisplay = 800;  // logical pixels; the ground has finer lines there
+constexpr int kWidestNarrowDisplay = 800;  // its own pixels; the ground has finer lines there
 constexpr int kMenInARound = 100;
 constexpr Aim kFirstAim{300, 75};
 }  // namespace
@@ -82,6 +82,7 @@ void Battle::GenerateBattlefield() {
     // Quirk "wide stars": the pen may still be as wide as the ground's lines of the round before.
     m_state.field.starWidth = m_state.penWidth;
     m_state.penWidth = drawField();
+    m_view.showField();
     m_view.showCursor(BattleCursor::Normal);
 }
 
@@ -89,8 +90,20 @@ void Battle::GenerateBattlefield() {
 int Battle::drawField() {
     const int groundLineWidth = m_view.displayWidth() <= kWidestNarrowDisplay ? 1 : 2;
     drawBattlefield(m_state.field, m_picture, groundLineWidth);
-    m_view.showField();
     return groundLineWidth;
+}
+
+void Battle::redrawField() {
+    drawField();
+    m_view.showField();
+}
+
+void Battle::replotField() {
+    const std::vector<FieldPicture::PassingPoint> passing = m_picture.passingPoints();
+    drawField();
+    for (const auto& [x, y, colour, width] : passing)
+        m_picture.setPassingPoint(x, y, colour, width);
+    m_view.showField();
 }
 
 void Battle::BeginTurn() {

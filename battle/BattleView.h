@@ -30,7 +30,7 @@ class BattleView {
     virtual void holdInput() = 0;
     virtual void releaseInput() = 0;
 
-    /// The width in logical pixels of the display that the screen is on.
+    /// The width of the display that the screen is on, in its own pixels.
     virtual int displayWidth() const = 0;
 
     /// Runs `task` after the present event has been handled; never if the screen is gone by then.

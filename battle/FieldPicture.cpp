@@ -42,6 +42,7 @@ void FieldPicture::clear() {
     ++m_making;
     std::fill(m_persistent.begin(), m_persistent.end(), toPixel(kBlack));
     std::fill(m_screen.begin(), m_screen.end(), toPixel(kBlack));
+    m_passing.clear();
     markDirty({0, 0, m_width, m_height});
 }
 
@@ -51,6 +52,7 @@ void FieldPicture::setPoint(int x, int y, Colour colour, int width) {
 
 void FieldPicture::setPassingPoint(int x, int y, Colour colour, int width) {
     drawDot(dotArea(x, y, width), width, toPixel(colour), Buffers::ScreenOnly);
+    m_passing.push_back({x, y, colour, width});
 }
 
 void FieldPicture::drawDot(const PixelRect& dot, int width, std::uint32_t value, Buffers into) {
@@ -95,7 +97,7 @@ void FieldPicture::filledCircle(int x, int y, int radius, Colour colour) {
 }
 
 FieldPicture::LiftedPoint FieldPicture::liftPoint(int x, int y, int width) const {
-    LiftedPoint lifted{clipped(dotArea(x, y, width)), {}, m_making};
+    LiftedPoint lifted{clipped(dotArea(x, y, width)), {}, m_making, m_passing.size()};
     for (int line = 0; line < lifted.area.height; ++line) {
         const auto* from = m_screen.data() + index(lifted.area.x, lifted.area.y + line);
         lifted.pixels.insert(lifted.pixels.end(), from, from + lifted.area.width);
@@ -105,6 +107,7 @@ FieldPicture::LiftedPoint FieldPicture::liftPoint(int x, int y, int width) const
 
 void FieldPicture::putBack(const LiftedPoint& lifted) {
     if (lifted.making != m_making) return;
+    while (m_passing.size() > lifted.passing) m_passing.pop_back();
     auto from = lifted.pixels.begin();
     for (int line = 0; line < lifted.area.height; ++line) {
         std::copy_n(from, lifted.area.width,
@@ -140,6 +143,7 @@ PixelRect FieldPicture::pieceArea(int side) const {
 void FieldPicture::refresh() {
     ++m_making;
     m_screen = m_persistent;
+    m_passing.clear();
     for (const int side : kSides) {
         const auto& [image, area] = m_pieces[side];
         const PixelRect seen = clipped({area.x, area.y, std::min(area.width, image.width),

@@ -53,6 +53,15 @@ class FieldPicture {
     /// A dot on the screen picture alone: of a shell, a blast, a meteor, a bolt.
     void setPassingPoint(int x, int y, Colour colour, int width = 1);
 
+    /// The dots on the screen picture alone, in the order of drawing. clear() and refresh() take
+    /// them away; a resize() leaves them here, so that they can be drawn again.
+    struct PassingPoint {
+        int x, y;
+        Colour colour;
+        int width;
+    };
+    const std::vector<PassingPoint>& passingPoints() const { return m_passing; }
+
     /// The colour seen at a point; black outside the picture. Where a point is a square of
     /// several device pixels that is one of them: see liftPoint for all.
     Colour pixel(int x, int y) const;
@@ -68,11 +77,13 @@ class FieldPicture {
         PixelRect area;
         std::vector<std::uint32_t> pixels;
         int making;
+        std::size_t passing;  ///< how many passing points there were
     };
     LiftedPoint liftPoint(int x, int y, int width = 1) const;
 
-    /// Puts lifted pixels back onto the screen picture, exactly as they were. Does nothing if
-    /// the picture has been resized, cleared or refreshed since: the dot went with that.
+    /// Puts lifted pixels back onto the screen picture, exactly as they were. Nothing but dots at
+    /// that place, of that width, may have been drawn since: they are gone. Does nothing if the
+    /// picture has been resized, cleared or refreshed: the dot went with that.
     void putBack(const LiftedPoint& lifted);
 
     /// The image of a side's piece, to be drawn unscaled: pieceSize() tells the fitting size.
@@ -129,6 +140,7 @@ class FieldPicture {
     int m_width = 0, m_height = 0, m_dotScale = 1;
     std::vector<std::uint32_t> m_persistent, m_screen;
     PerSide<Piece> m_pieces;
+    std::vector<PassingPoint> m_passing;
     PixelRect m_dirty;
     int m_making = 0;
 };

@@ -12,9 +12,6 @@ namespace skylob {
 /// degrees, and every player's eye is trained on it.
 inline constexpr double kDegree = 0.017745329f;
 
-/// Where a shell leaves its piece, above the ground under it.
-inline constexpr int kMuzzleHeight = 8;
-
 /// How a shell is fired.
 struct Launch {
     int side;    ///< 1 fires to the right, 2 to the left

@@ -120,8 +120,8 @@ void Application::onLeaving(Screen* screen, void (Screen::*signal)(), Event even
     on(screen, signal, event);
 }
 
-void Application::show(QtScreen* screen) {
-    centreOver(*screen, m_screen);
+void Application::show(QtScreen* screen, PlaceMemory memory) {
+    bringToPlace(*screen, m_windows, m_screen, memory);
     m_screen = screen;
     screen->show();
 }
@@ -178,15 +178,17 @@ void Application::showSkillLevel() {
 }
 
 void Application::showBattle() {
-    m_battle =
-        new frmPlayGame{m_screenPorts, {m_random, m_clock, m_pacer, m_sounds, m_boxes, m_settings}};
+    constexpr auto kMemory = PlaceMemory::OnAnyDisplay;
+    const QSize room = roomForScreen(QStringLiteral("frmPlayGame"), m_windows, m_screen, kMemory);
+    m_battle = new frmPlayGame{
+        m_screenPorts, {m_random, m_clock, m_pacer, m_sounds, m_boxes, m_settings}, room};
     on(m_battle.get(), &frmPlayGame::roundDecided, Event::RoundDecided);
     on(m_battle.get(), &frmPlayGame::rulesWanted, Event::RulesWanted);
     on(m_battle.get(), &frmPlayGame::setDecided, Event::SetDecided);
     connect(m_battle, &frmPlayGame::volumeChosen, this,
             [this](int percent) { m_sounds.setVolume(percent); });
     onLeaving(m_battle.get(), &frmPlayGame::battleClosed, Event::BattleLeft);
-    show(m_battle);
+    show(m_battle, kMemory);
 }
 
 void Application::showSummary(SummaryKind kind) {

@@ -24,6 +24,7 @@
 #include "screen/qt/QtMessageBoxes.h"
 #include "screen/qt/QtModalGuard.h"
 #include "screen/qt/QtScreen.h"
+#include "screen/qt/QtWindowPlaces.h"
 
 namespace skylob {
 
@@ -62,8 +63,8 @@ class Application : public QApplication {
     template <typename Screen>
     void onLeaving(Screen* screen, void (Screen::*signal)(), Event event);
 
-    /// Shows the screen where the one before it stood.
-    void show(QtScreen* screen);
+    /// Shows the screen where it was left or over the one before it.
+    void show(QtScreen* screen, PlaceMemory memory = PlaceMemory::OnItsDisplay);
 
     /// Shows the modal screen over the one that is shown, and returns when it has gone.
     void showOver(QtScreen& screen);

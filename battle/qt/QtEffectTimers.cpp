@@ -37,9 +37,10 @@ QTimer* QtEffectTimers::makeTimer(const QString& name, int milliseconds,
     auto* timer = new QTimer{this};
     timer->setObjectName(name);
     timer->setInterval(milliseconds);
-    connect(timer, &QTimer::timeout, this, [tick = std::move(tick)] {
+    connect(timer, &QTimer::timeout, this, [this, tick = std::move(tick)] {
         // A storm swallows the release of a button that is held, and it would stay held.
         if (QGuiApplication::mouseButtons() == Qt::NoButton) tick();
+        emit ticked();
     });
     return timer;
 }

@@ -24,6 +24,10 @@ class QtEffectTimers : public QObject {
     /// The screen is leaving: no tick from now on.
     void end();
 
+  signals:
+    /// A tick, and the effect that it may have started, is over.
+    void ticked();
+
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 

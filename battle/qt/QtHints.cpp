@@ -45,7 +45,7 @@ QtHints::QtHints(QtSidePanel* panel, GlintButton* shoot, const QRect& row, Windo
     connect(angle, &QScrollBar::valueChanged, angleHint, &QWidget::hide);
 
     QtHint* const shootHint =
-        add("hintShoot", tr("3. Shoot: click it, or press Alt+S"), panel->window());
+        add("hintShoot", tr("3. Shoot: click it, or press Alt+S"), shoot->parentWidget());
     const int left = shoot->geometry().center().x() - shootHint->width() / 2;
     shootHint->move(std::max(left, row.left()), row.center().y() - shootHint->height() / 2);
     for (QtHint* hint : m_hints) {

@@ -4,7 +4,6 @@
 #include <QCoreApplication>
 #include <QFrame>
 #include <QLabel>
-#include <QPainter>
 #include <QScreen>
 #include <QScrollBar>
 #include <QShortcut>
@@ -24,7 +23,6 @@
 #include "battle/qt/picGameField.h"
 #include "controls/qt/GlintButton.h"
 #include "controls/qt/QtFormButtons.h"
-#include "look/qt/QtColour.h"
 #include "screen/qt/QtInputGate.h"
 
 namespace skylob {
@@ -37,19 +35,21 @@ void enable(GlintButton& button, bool enabled) {
 
 }  // namespace
 
-frmPlayGame::frmPlayGame(const QtScreenPorts& screen, const BattlePorts& ports)
+frmPlayGame::frmPlayGame(const QtScreenPorts& screen, const BattlePorts& ports, const QSize& room)
     : QtScreen{{.name = QStringLiteral("frmPlayGame"),
                 // Quirk "blank at the ends": captions have one at the front.
                 .caption = QStringLiteral(" Skylob - Battlefield"),
-                .size = layoutForScreenSize(screen.shared.ScreenSize).screen},
+                .size = layoutForRoom(screen.shared.ScreenSize, room).screen,
+                .mayGrow = true},
                screen},
-      m_layout{layoutForScreenSize(m_shared.ScreenSize)},
+      m_layout{layoutForRoom(m_shared.ScreenSize, room)},
       m_battle{m_shared, ports, *this},
       m_gate{new QtInputGate{this}},
       m_timers{new QtEffectTimers{this, m_battle}},
-      m_field{new picGameField{m_battle.picture(), m_layer, m_shapes, this}} {
+      m_fieldEdge{new QFrame{board()}},
+      m_field{new picGameField{m_battle.picture(), m_layer, m_shapes, board()}} {
+    m_fieldEdge->setObjectName(QStringLiteral("fieldEdge"));
     new QtDragAim{m_field, m_battle};
-    m_field->setGeometry(m_layout.field);
     makeReportRow();
     makeSidePanels();
     makeButtons();
@@ -57,25 +57,22 @@ frmPlayGame::frmPlayGame(const QtScreenPorts& screen, const BattlePorts& ports)
     connectControls();
     addShortcuts();
     setTabOrder();
+    place(m_layout);
     frmPlayGame::showPanel(m_battle.panel());
 }
 
 void frmPlayGame::makeReportRow() {
-    labelReport = new QtReportLabel{this};
+    labelReport = new QtReportLabel{board()};
     labelReport->setObjectName(QStringLiteral("labelReport"));
-    labelReport->setGeometry(m_layout.labelReport);
-    labelScore = new QLabel{this};
+    labelScore = new QLabel{board()};
     labelScore->setObjectName(QStringLiteral("labelScore"));
-    labelScore->setGeometry(m_layout.labelScore);
     labelScore->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     labelScore->setProperty("role", QStringLiteral("round-small"));
 }
 
 void frmPlayGame::makeSidePanels() {
-    for (const int side : kSides) {
-        m_side[side] = new QtSidePanel{side, caption(side), m_layout.inFrame, this};
-        m_side[side]->setGeometry(m_layout.frame[side]);
-    }
+    for (const int side : kSides)
+        m_side[side] = new QtSidePanel{side, caption(side), m_layout.inFrame, board()};
 }
 
 QString frmPlayGame::caption(int side) const {
@@ -94,14 +91,13 @@ QString frmPlayGame::caption(int side) const {
 }
 
 void frmPlayGame::makeButtons() {
-    labelRoundNumber = new QLabel{this};
+    labelRoundNumber = new QLabel{board()};
     labelRoundNumber->setObjectName(QStringLiteral("labelRoundNumber"));
-    labelRoundNumber->setGeometry(m_layout.labelRoundNumber);
     labelRoundNumber->setAlignment(Qt::AlignCenter);
     labelRoundNumber->setProperty(
         "role", QLatin1String{m_layout.oneFrameAtATime ? "round-small" : "round"});
 
-    QtFormButtons buttons{objectName(), m_shapes, *this};
+    QtFormButtons buttons{objectName(), m_shapes, *board()};
     cmdShoot = buttons.make(QStringLiteral("cmdShoot"), m_layout.cmdShoot);
     if (!m_layout.shootHasCaption) {
         cmdShoot->design().setCaption({});
@@ -113,43 +109,59 @@ void frmPlayGame::makeButtons() {
 }
 
 void frmPlayGame::makeOptions() {
-    auto* strip = new QFrame{this};
-    strip->setObjectName(QStringLiteral("strip"));
-    strip->setGeometry(m_layout.strip);
+    m_strip = new QFrame{board()};
+    m_strip->setObjectName(QStringLiteral("strip"));
 
-    QWidget* const gameSpeedParent =
-        m_layout.gameSpeedInStrip ? strip : static_cast<QWidget*>(this);
+    QWidget* const gameSpeedParent = m_layout.gameSpeedInStrip ? m_strip : board();
     labelGameSpeed = new QLabel{gameSpeedParent};
     labelGameSpeed->setObjectName(QStringLiteral("labelGameSpeed"));
-    labelGameSpeed->setGeometry(m_layout.labelGameSpeed);
     if (!m_layout.gameSpeedInStrip) labelGameSpeed->setAlignment(Qt::AlignCenter);
     scrollGameSpeed = makeScrollBar(QStringLiteral("scrollGameSpeed"), kGameSpeedRange,
                                     m_layout.scrollGameSpeed, gameSpeedParent);
     scrollGameSpeed->setAccessibleName(tr("Game speed"));
 
-    chkSound = makeBox("chkSound", tr("S&ound"), m_layout.chkSound, strip);
+    chkSound = makeBox("chkSound", tr("S&ound"));
     scrollVolume =
-        makeScrollBar(QStringLiteral("scrollVolume"), kVolumeRange, m_layout.scrollVolume, strip);
+        makeScrollBar(QStringLiteral("scrollVolume"), kVolumeRange, m_layout.scrollVolume, m_strip);
     scrollVolume->setAccessibleName(tr("Volume"));
     scrollVolume->setToolTip(tr(" How loud sounds are "));
     scrollVolume->setValue(recallVolume(m_windows));
-    chkTrajectory = makeBox("chkTrajectory", tr("&Trajectory"), m_layout.chkTrajectory, strip);
-    chkMeteors = makeBox("chkMeteors", tr("&Meteors"), m_layout.chkMeteors, strip);
-    chkLightning = makeBox("chkLightning", tr("&Lightning"), m_layout.chkLightning, strip);
-    chkWind = makeBox("chkWind", {}, m_layout.chkWind, strip);
-    chkEffects = makeBox("chkEffects", tr("E&ffects"), m_layout.chkEffects, strip);
+    chkTrajectory = makeBox("chkTrajectory", tr("&Trajectory"));
+    chkMeteors = makeBox("chkMeteors", tr("&Meteors"));
+    chkLightning = makeBox("chkLightning", tr("&Lightning"));
+    chkWind = makeBox("chkWind", {});
+    chkEffects = makeBox("chkEffects", tr("E&ffects"));
     // Quirk "blank at the ends": one on either side.
     chkEffects->setToolTip(tr(" Light over the battlefield "));
     chkEffects->setChecked(m_windows.recall(kEffectsKey, "1") != "0");
     m_layer.setOn(chkEffects->isChecked());
 }
 
-QCheckBox* frmPlayGame::makeBox(const char* name, const QString& caption, const QRect& place,
-                                QWidget* strip) {
-    auto* box = new QCheckBox{caption, strip};
+QCheckBox* frmPlayGame::makeBox(const char* name, const QString& caption) {
+    auto* box = new QCheckBox{caption, m_strip};
     box->setObjectName(QLatin1String{name});
-    box->setGeometry(place);
     return box;
+}
+
+void frmPlayGame::place(const frmPlayGameLayout& layout) {
+    m_fieldEdge->setGeometry(layout.field.adjusted(-1, -1, 1, 1));
+    m_field->setGeometry(layout.field);
+    labelReport->setGeometry(layout.labelReport);
+    labelScore->setGeometry(layout.labelScore);
+    for (const int side : kSides) m_side[side]->setGeometry(layout.frame[side]);
+    labelRoundNumber->setGeometry(layout.labelRoundNumber);
+    cmdShoot->setGeometry(layout.cmdShoot);
+    cmdQuit->setGeometry(layout.cmdQuit);
+    m_strip->setGeometry(layout.strip);
+    labelGameSpeed->setGeometry(layout.labelGameSpeed);
+    scrollGameSpeed->setGeometry(layout.scrollGameSpeed);
+    chkSound->setGeometry(layout.chkSound);
+    scrollVolume->setGeometry(layout.scrollVolume);
+    chkTrajectory->setGeometry(layout.chkTrajectory);
+    chkMeteors->setGeometry(layout.chkMeteors);
+    chkLightning->setGeometry(layout.chkLightning);
+    chkWind->setGeometry(layout.chkWind);
+    chkEffects->setGeometry(layout.chkEffects);
 }
 
 void frmPlayGame::connectControls() {
@@ -177,6 +189,7 @@ void frmPlayGame::connectControls() {
     connect(cmdShoot, &GlintButton::Click, this, [this] { m_battle.cmdShoot_Click(); });
     connect(cmdQuit, &GlintButton::Click, this, [this] { m_battle.cmdQuit_Click(); });
     connect(m_field, &picGameField::pieceClicked, this, [this] { m_battle.FieldPiece_Click(); });
+    connect(m_timers, &QtEffectTimers::ticked, this, &frmPlayGame::fitField);
 }
 
 void frmPlayGame::addShortcuts() {
@@ -188,6 +201,7 @@ void frmPlayGame::addShortcuts() {
     const auto shooterSide = [this] { return m_side[m_battle.state().Shooter]; };
     onKey(Qt::Key_Escape, [this] { m_battle.cmdQuit_Click(); });
     onKey(Qt::Key_F1, [this] { m_battle.readRules(); });
+    onKey(Qt::Key_F11, [this] { setWindowState(windowState() ^ Qt::WindowFullScreen); });
     onKey(Qt::ALT | Qt::Key_P, [shooterSide] { shooterSide()->scrollSpeed()->setFocus(); });
     onKey(Qt::ALT | Qt::Key_A, [shooterSide] { shooterSide()->scrollAngle()->setFocus(); });
     onKey(Qt::ALT | Qt::Key_G, [this] { scrollGameSpeed->setFocus(); });
@@ -219,11 +233,19 @@ void frmPlayGame::Form_Activate() {
     queue([this] { m_battle.Form_Activate(); });
 }
 
+void frmPlayGame::boardResized() {
+    place(stretched(m_layout, board()->size()));
+    fitField();
+}
+
+/// Called wherever the size or the display may be another one, or a shot or an effect over: till
+/// then the picture is shown scaled.
 void frmPlayGame::fitField() {
-    const bool refitted = m_field->fitPicture();
+    if (!m_battle.fieldIsStill()) return;
+    const bool refitted = m_field->fitPicture(m_layout.field.size());
     const int width = displayWidth();
     const bool anotherDisplay = std::exchange(m_displayWidth, width) != width;
-    if ((refitted || anotherDisplay) && m_battle.state().RoundNumber > 0) m_battle.redrawField();
+    if ((refitted || anotherDisplay) && m_battle.state().RoundNumber > 0) m_battle.replotField();
 }
 
 void frmPlayGame::showEvent(QShowEvent* event) {
@@ -238,11 +260,6 @@ void frmPlayGame::showEvent(QShowEvent* event) {
 
 void frmPlayGame::askedToClose() {
     m_battle.cmdQuit_Click();
-}
-
-void frmPlayGame::paintEvent(QPaintEvent* event) {
-    QtScreen::paintEvent(event);
-    QPainter{this}.fillRect(m_layout.field.adjusted(-1, -1, 1, 1), toQColor(themeColour("line")));
 }
 
 void frmPlayGame::showField() {
@@ -274,6 +291,7 @@ void frmPlayGame::showPanel(const BattlePanel& panel) {
     chkWind->setText(QString::fromStdString(panel.chkWindCaption));
     showCommands(panel);
     m_timers->follow();
+    fitField();
     m_field->showChanges();  // a barrel points another way, or it is the other side's turn
     // While the thread is blocked nothing else would bring the changes to the display.
     if (m_gate->isClosed()) QCoreApplication::sendPostedEvents(this, QEvent::UpdateRequest);
@@ -330,7 +348,7 @@ void frmPlayGame::releaseInput() {
 }
 
 int frmPlayGame::displayWidth() const {
-    return screen()->size().width();
+    return qRound(screen()->size().width() * screen()->devicePixelRatio());
 }
 
 void frmPlayGame::queue(std::function<void()> task) {

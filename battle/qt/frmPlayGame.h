@@ -7,6 +7,7 @@
 #include "screen/qt/QtScreen.h"
 
 class QCheckBox;
+class QFrame;
 class QLabel;
 class QScrollBar;
 
@@ -27,9 +28,10 @@ class frmPlayGame : public QtScreen, private BattleView {
     Q_OBJECT
 
   public:
-    /// Laid out for shared.ScreenSize; the set starts when the screen is shown. Everything in
-    /// `ports` must outlive the screen.
-    frmPlayGame(const QtScreenPorts& screen, const BattlePorts& ports);
+    /// Laid out for shared.ScreenSize, or as large as `room`, its display's, allows; the set starts
+    /// when the screen is shown. Everything in `ports` must outlive the screen.
+    frmPlayGame(const QtScreenPorts& screen, const BattlePorts& ports,
+                const QSize& room = {QWIDGETSIZE_MAX, QWIDGETSIZE_MAX});
 
     const Battle& battle() const { return m_battle; }
 
@@ -50,11 +52,11 @@ class frmPlayGame : public QtScreen, private BattleView {
 
   protected:
     void showEvent(QShowEvent* event) override;
-    void paintEvent(QPaintEvent* event) override;
 
   private:
     void Form_Activate() override;
     void askedToClose() override;
+    void boardResized() override;
 
     void showField() override;
     void showPanel(const BattlePanel& panel) override;
@@ -72,8 +74,8 @@ class frmPlayGame : public QtScreen, private BattleView {
     void showReportRow(const BattlePanel& panel);
     void makeButtons();
     void makeOptions();
-    static QCheckBox* makeBox(const char* name, const QString& caption, const QRect& place,
-                              QWidget* strip);
+    QCheckBox* makeBox(const char* name, const QString& caption);
+    void place(const frmPlayGameLayout& layout);
     void connectControls();
     void addShortcuts();
     void setTabOrder();
@@ -84,14 +86,16 @@ class frmPlayGame : public QtScreen, private BattleView {
     void chkEffects_Click(bool ticked);
     void fitField();
 
-    const frmPlayGameLayout& m_layout;
+    const frmPlayGameLayout& m_layout;  ///< at the screen's smallest size
     Battle m_battle;
     QtGunDrawings m_guns{m_shapes};
     FieldLayer m_layer{m_battle.picture(), m_battle.scene(), m_battle.state(), &m_guns};
     QtInputGate* m_gate;
     QtEffectTimers* m_timers;
+    QFrame* m_fieldEdge;
     picGameField* m_field;
     PerSide<QtSidePanel*> m_side;
+    QFrame* m_strip;
     QtReportLabel* labelReport;
     QLabel *labelScore, *labelRoundNumber, *labelGameSpeed;
     QScrollBar *scrollGameSpeed, *scrollVolume;

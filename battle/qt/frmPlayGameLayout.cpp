@@ -1,6 +1,11 @@
 #include "battle/qt/frmPlayGameLayout.h"
 
+#include <QtMath>
+#include <algorithm>
+#include <initializer_list>
+
 #include "base/basSkylob.h"
+#include "battle/Battlefield.h"
 
 namespace skylob {
 
@@ -108,6 +113,37 @@ const frmPlayGameLayout kLarge{
     .chkEffects = {1100, 4, 110, 24},
 };
 
+/// Widgets that stand together, such as a bar behind its label.
+using Group = std::initializer_list<QRect*>;
+
+void moveBy(int dx, int dy, const Group& rects) {
+    for (QRect* rect : rects) rect->translate(dx, dy);
+}
+
+/// Shares `width` out evenly to the gaps between the groups.
+void spread(int width, const std::initializer_list<Group>& groups) {
+    const int gaps = static_cast<int>(groups.size()) - 1;
+    int before = 0;
+    for (const Group& group : groups) moveBy(width * before++ / gaps, 0, group);
+}
+
+void spreadStrip(frmPlayGameLayout& of, int width) {
+    const Group sound{&of.chkSound, &of.scrollVolume}, trajectory{&of.chkTrajectory};
+    const Group meteors{&of.chkMeteors}, lightning{&of.chkLightning};
+    const Group wind{&of.chkWind}, effects{&of.chkEffects};
+    of.strip.setWidth(of.strip.width() + width);
+    if (of.gameSpeedInStrip)
+        spread(width, {{&of.labelGameSpeed, &of.scrollGameSpeed},
+                       sound,
+                       trajectory,
+                       meteors,
+                       lightning,
+                       wind,
+                       effects});
+    else
+        spread(width, {sound, trajectory, meteors, lightning, wind, effects});
+}
+
 }  // namespace
 
 const frmPlayGameLayout& layoutForScreenSize(int screenSize) {
@@ -119,6 +155,40 @@ const frmPlayGameLayout& layoutForScreenSize(int screenSize) {
         default:
             return kNormal;
     }
+}
+
+const frmPlayGameLayout& layoutForRoom(int screenSize, const QSize& room) {
+    const frmPlayGameLayout& chosen = layoutForScreenSize(screenSize);
+    for (const auto* layout : {&kLarge, &kNormal})
+        if (layout->screen.width() <= chosen.screen.width() &&
+            layout->screen.boundedTo(room) == layout->screen)
+            return *layout;
+    return kSmall;
+}
+
+frmPlayGameLayout stretched(const frmPlayGameLayout& smallest, const QSize& size) {
+    frmPlayGameLayout result = smallest;
+    result.screen = size.expandedTo(smallest.screen);
+    const int wider = result.screen.width() - smallest.screen.width();
+    const int higher = result.screen.height() - smallest.screen.height();
+    result.field.setSize(smallest.field.size() + QSize{wider, higher});
+    result.labelReport.setWidth(smallest.labelReport.width() + wider);
+    moveBy(0, higher, {&result.labelReport, &result.frame[1], &result.strip});
+    moveBy(wider, higher, {&result.labelScore});
+    moveBy(result.oneFrameAtATime ? 0 : wider, higher, {&result.frame[2]});
+    moveBy(wider / 2, higher, {&result.labelRoundNumber, &result.cmdShoot, &result.cmdQuit});
+    if (!result.gameSpeedInStrip)
+        moveBy(wider / 2, higher, {&result.labelGameSpeed, &result.scrollGameSpeed});
+    spreadStrip(result, wider);
+    return result;
+}
+
+int dotScaleOf(const QSize& smallest, const QSize& size, qreal ratio) {
+    const qreal larger = std::min(static_cast<qreal>(size.width()) / smallest.width(),
+                                  static_cast<qreal>(size.height()) / smallest.height());
+    // On a field that has grown in width alone, the ground's columns would have gaps.
+    const int pitch = qCeil((size.width() * ratio - 1) / (kColumns - 1));
+    return std::max({1, qRound(ratio * larger), (pitch + 1) / 2});
 }
 
 }  // namespace skylob

@@ -10,6 +10,7 @@
 #include "battle/FieldLayer.h"
 #include "battle/qt/QtDragAim.h"
 #include "battle/qt/QtGunDrawings.h"
+#include "battle/qt/frmPlayGameLayout.h"
 #include "look/qt/QtShapes.h"
 
 namespace skylob {
@@ -20,11 +21,20 @@ picGameField::picGameField(FieldPicture& picture, FieldLayer& layer, const QtSha
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
-bool picGameField::fitPicture() {
+QSize picGameField::fittingSize() const {
     const qreal ratio = devicePixelRatioF();
-    const QSize pixels{qRound(width() * ratio), qRound(height() * ratio)};
-    if (pixels == QSize{m_picture.width(), m_picture.height()}) return false;
-    m_picture.resize(pixels.width(), pixels.height(), std::max(1, qRound(ratio)));
+    return {qRound(width() * ratio), qRound(height() * ratio)};
+}
+
+bool picGameField::isFitting() const {
+    return fittingSize() == QSize{m_picture.width(), m_picture.height()};
+}
+
+bool picGameField::fitPicture(const QSize& smallest) {
+    if (isFitting()) return false;
+    const QSize pixels = fittingSize();
+    m_picture.resize(pixels.width(), pixels.height(),
+                     dotScaleOf(smallest, size(), devicePixelRatioF()));
     const auto [pieceWidth, pieceHeight] = m_picture.pieceSize();
     for (const int side : kSides) {
         const QString name = QStringLiteral("piece%1").arg(side);
@@ -36,16 +46,23 @@ bool picGameField::fitPicture() {
 
 void picGameField::showChanges() {
     QRegion changed;
+    // Scaled, a pixel reaches into its neighbours.
+    const int reach = isFitting() ? 0 : 1;
     for (const PixelRect& area : m_layer.update(m_picture.takeDirty()))
-        changed += logical(area).toAlignedRect();
+        changed += logical(area).toAlignedRect().adjusted(-reach, -reach, reach, reach);
     if (!changed.isEmpty()) repaint(changed);
 }
 
 void picGameField::paintEvent(QPaintEvent* event) {
     const QImage image = shown();
     if (image.isNull()) return;
-    const qreal ratio = devicePixelRatioF();
     QPainter painter{this};
+    if (image.size() != fittingSize()) {
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.drawImage(QRectF{rect()}, image);
+        return;
+    }
+    const qreal ratio = devicePixelRatioF();
     for (const QRect& part : event->region()) {
         const QRectF source{part.x() * ratio, part.y() * ratio, part.width() * ratio,
                             part.height() * ratio};
@@ -86,8 +103,10 @@ bool picGameField::event(QEvent* event) {
 }
 
 QRectF picGameField::logical(const PixelRect& area) const {
-    const qreal ratio = devicePixelRatioF();
-    return {area.x / ratio, area.y / ratio, area.width / ratio, area.height / ratio};
+    const bool fits = isFitting();
+    const qreal x = fits ? devicePixelRatioF() : static_cast<qreal>(m_picture.width()) / width();
+    const qreal y = fits ? devicePixelRatioF() : static_cast<qreal>(m_picture.height()) / height();
+    return {area.x / x, area.y / y, area.width / x, area.height / y};
 }
 
 FieldPoint picGameField::fieldPoint(QPointF position) const {

@@ -21,9 +21,10 @@ class picGameField : public QWidget {
     /// the widget.
     picGameField(FieldPicture& picture, FieldLayer& layer, const QtShapes& shapes, QWidget* parent);
 
-    /// Makes the picture as large as the widget is on its display. The picture is black and
-    /// without pieces afterwards. False when it had that size already and was left alone.
-    bool fitPicture();
+    /// Makes the picture as large as the widget is on its display; pens grow as the widget does
+    /// beyond `smallest`. The picture is black and without pieces afterwards. False when it had
+    /// that size already and was left alone. As long as it has another one, it is shown scaled.
+    bool fitPicture(const QSize& smallest);
 
     /// Whose piece stands at a position of this widget; 0 where there is none.
     int pieceAt(QPointF position) const;
@@ -47,6 +48,8 @@ class picGameField : public QWidget {
 
   private:
     QImage shown() const;
+    QSize fittingSize() const;
+    bool isFitting() const;
     QRectF logical(const PixelRect& area) const;
 
     FieldPicture& m_picture;

@@ -41,11 +41,11 @@ frmGetPlayers::frmGetPlayers(const QtScreenPorts& screen, const frmGetPlayersPor
                screen},
       m_lobby{m_shared,
               {ports.file, ports.clock, ports.boxes, m_settings, ports.sounds, ports.links, *this}},
-      grid{new QtPlayerGrid{this}} {
+      grid{new QtPlayerGrid{board()}} {
     m_places.put(grid, kGrid, QtPlaces::kGrows);
     makeButtons();
     for (const int side : {1, 2}) {
-        frame[side] = new QtChosenPlayer{side, this};
+        frame[side] = new QtChosenPlayer{side, board()};
         frame[side]->setObjectName(QStringLiteral("frame(%1)").arg(side));
         m_places.put(frame[side], kChosen[side], kChosenFollow[side]);
     }
@@ -58,7 +58,7 @@ frmGetPlayers::frmGetPlayers(const QtScreenPorts& screen, const frmGetPlayersPor
 }
 
 void frmGetPlayers::makeButtons() {
-    QtFormButtons buttons{objectName(), m_shapes, *this};
+    QtFormButtons buttons{objectName(), m_shapes, *board()};
     const auto make = [&](const char* name, const QRect& place, const QtPlaces::Follows& follows,
                           const QString& toolTip = {}) {
         GlintButton* const button = buttons.make(QLatin1String{name}, place, toolTip);
@@ -80,7 +80,7 @@ void frmGetPlayers::makeButtons() {
 }
 
 void frmGetPlayers::makeComputerBox() {
-    auto* panel = new QFrame{this};
+    auto* panel = new QFrame{board()};
     panel->setObjectName(QStringLiteral("strip"));
     m_places.put(panel, kComputerPanel, QtPlaces::kLowerRight);
     chkComputer = new QCheckBox{tr("Play the\nComputer!"), panel};
@@ -100,7 +100,7 @@ void frmGetPlayers::makeOptions() {
 
 QtOptionGroup* frmGetPlayers::makeOptionGroup(const QString& name, const QString& title,
                                               const QStringList& captions, int column) {
-    auto* group = new QtOptionGroup{name, title, captions, this};
+    auto* group = new QtOptionGroup{name, title, captions, board()};
     m_places.put(group, kFirstOptions.translated(column * kNextOptions, 0),
                  kFirstOptionsFollow + column * kNextOptionsFollow);
     return group;
@@ -178,9 +178,8 @@ void frmGetPlayers::askedToClose() {
     m_lobby.cmdQuit_Click();
 }
 
-void frmGetPlayers::resizeEvent(QResizeEvent* event) {
-    QtScreen::resizeEvent(event);
-    m_places.grow(size() - kScreen);
+void frmGetPlayers::boardResized() {
+    m_places.grow(board()->size() - kScreen);
 }
 
 void frmGetPlayers::fillGrid(std::vector<PlayerRecord> records) {

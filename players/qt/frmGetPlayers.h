@@ -44,7 +44,7 @@ class frmGetPlayers : public QtScreen, private LobbyView {
     void programLeft();
 
   protected:
-    void resizeEvent(QResizeEvent* event) override;
+    void boardResized() override;
 
   private:
     void Form_Activate() override;

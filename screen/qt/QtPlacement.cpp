@@ -11,12 +11,6 @@ namespace skylob {
 
 namespace {
 
-QScreen* displayOf(const QWidget* before) {
-    if (before) return before->screen();
-    QScreen* pointed = QGuiApplication::screenAt(QCursor::pos());
-    return pointed ? pointed : QGuiApplication::primaryScreen();
-}
-
 /// Windows are placed by their frames, whose size a new one does not know: as wide as the others'.
 void centre(QWidget& window, const QPoint& middle, const QRect& display, const QSize& frame) {
     const QPoint corner = middle - window.rect().center();
@@ -27,6 +21,22 @@ void centre(QWidget& window, const QPoint& middle, const QRect& display, const Q
 }
 
 }  // namespace
+
+QScreen* displayOf(const QWidget* before) {
+    if (before) return before->screen();
+    QScreen* pointed = QGuiApplication::screenAt(QCursor::pos());
+    return pointed ? pointed : QGuiApplication::primaryScreen();
+}
+
+QRect roomOn(const QScreen& display, const QWidget* before) {
+    QMargins frame;
+    if (before) {
+        const QRect inner = before->geometry(), outer = before->frameGeometry();
+        frame = {inner.left() - outer.left(), inner.top() - outer.top(),
+                 outer.right() - inner.right(), outer.bottom() - inner.bottom()};
+    }
+    return display.availableGeometry().marginsRemoved(frame);
+}
 
 void centreOver(QWidget& window, const QWidget* before) {
     if (!before) return centreOnDisplay(window, before);

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <QRect>
+
+class QScreen;
 class QWidget;
 
 namespace skylob {
@@ -7,6 +10,13 @@ namespace skylob {
 // Where a window comes up that has not been shown yet: on the display of the window `before` it,
 // which may just have hidden itself. Without one, on the display where the pointer is. What does
 // not fit on its display shows its upper left corner. A desktop may choose places itself.
+
+/// That display.
+QScreen* displayOf(const QWidget* before);
+
+/// What a window can show on a display that has no desktop bars there and leaves room for a frame
+/// like that of the window before it: a new one does not know its own.
+QRect roomOn(const QScreen& display, const QWidget* before);
 
 /// In the middle of the window before it, moved as far as need be to be wholly on the display.
 void centreOver(QWidget& window, const QWidget* before);

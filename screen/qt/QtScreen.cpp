@@ -5,6 +5,7 @@
 #include <QEventLoop>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
+#include <QWindow>
 #include <utility>
 
 #include "controls/qt/GlintButton.h"
@@ -12,6 +13,8 @@
 #include "screen/qt/QtInput.h"
 #include "screen/qt/QtPlacement.h"
 #include "screen/qt/QtScreenFade.h"
+#include "screen/qt/QtScrollBoard.h"
+#include "screen/qt/QtWindowPlaces.h"
 
 namespace skylob {
 
@@ -31,17 +34,35 @@ QtScreen::QtScreen(const QtScreenDesign& design, const QtScreenPorts& ports)
       m_settings{ports.settings},
       m_shapes{ports.shapes},
       m_windows{ports.windows},
-      m_fade{new QtScreenFade{this, ports.shared, ports.settings}} {
+      m_fade{new QtScreenFade{this, ports.shared, ports.settings}},
+      m_smallest{design.size} {
     setObjectName(design.name);
     setWindowTitle(design.caption);
     applyLook(*this);
     if (design.mayGrow) {
         setMinimumSize(design.size);
         resize(design.size);
+        m_scroll = new QtScrollBoard{design.size, this};
+        connect(m_scroll, &QtScrollBoard::boardResized, this, [this] { boardResized(); });
     } else {
         setFixedSize(design.size);
     }
     if (design.fadesIn) m_fade->load();
+}
+
+QWidget* QtScreen::board() const {
+    return m_scroll->board();
+}
+
+void QtScreen::fitInto(const QSize& room) {
+    if (!mayGrow()) return;
+    setMinimumSize(m_smallest.boundedTo(room));
+    if (!(windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen)))
+        resize(size().boundedTo(room));
+}
+
+void QtScreen::fitToDisplay() {
+    fitInto(roomOn(*screen(), this).size());
 }
 
 void QtScreen::installAccessible() {
@@ -66,6 +87,7 @@ bool QtScreen::beginLeaving() {
 }
 
 void QtScreen::finishLeaving(std::function<void()> next, int step) {
+    if (mayGrow()) keepPlace(*this, m_windows);
     m_fade->fadeOut(
         [this, next = std::move(next)] {
             hide();
@@ -80,6 +102,9 @@ void QtScreen::leave(std::function<void()> next, int step) {
 
 void QtScreen::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
+    if (mayGrow())
+        connect(windowHandle(), &QWindow::screenChanged, this, &QtScreen::fitToDisplay,
+                Qt::UniqueConnection);
     if (std::exchange(m_activated, true)) return;
     m_fade->fadeIn();
     Form_Activate();

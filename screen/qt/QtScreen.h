@@ -12,6 +12,7 @@ namespace skylob {
 
 class GlintButton;
 class QtScreenFade;
+class QtScrollBoard;
 class QtShapes;
 class SettingsStore;
 class WindowStore;
@@ -32,7 +33,8 @@ struct QtScreenDesign {
     QSize size;                        ///< logical pixels, without the frame
     Qt::WindowType type = Qt::Window;  ///< Dialog for what is run with showModal()
     bool fadesIn = true;               ///< where the user wants it and the display can
-    bool mayGrow = false;  ///< the user may make it larger: then `size` is its smallest and first
+    bool mayGrow = false;  ///< the user may make it larger: then `size` is its smallest and first,
+                           ///< and where it stands is remembered
 };
 
 /// One screen of the program: a window in the program's look, of fixed size unless it may grow. It
@@ -48,6 +50,12 @@ class QtScreen : public QWidget {
     /// then no other window of the program takes input.
     void showModal(const QWidget* above);
 
+    bool mayGrow() const { return m_scroll != nullptr; }
+
+    /// Keeps a screen that may grow within the room that its display has for it. Where that is less
+    /// than its smallest size, the screen scrolls.
+    void fitInto(const QSize& room);
+
     /// Makes screen readers find a dialog in every modal screen.
     static void installAccessible();
 
@@ -62,6 +70,13 @@ class QtScreen : public QWidget {
     /// The button that Enter presses, as its access key would; null where Enter does nothing. Asked
     /// anew at each press. What the focused control makes of Enter itself goes before.
     virtual GlintButton* primaryButton() const { return nullptr; }
+
+    /// What the widgets of a screen that may grow are to be children of: as large as the screen,
+    /// and never smaller than its smallest size.
+    QWidget* board() const;
+
+    /// The board has another size. Not called before the screen is shown.
+    virtual void boardResized() {}
 
     /// False during a fade and from beginLeaving() on.
     bool mayClose() const;
@@ -87,7 +102,11 @@ class QtScreen : public QWidget {
     WindowStore& m_windows;
 
   private:
+    void fitToDisplay();
+
     QtScreenFade* m_fade;
+    QtScrollBoard* m_scroll = nullptr;  ///< of a screen that may grow
+    const QSize m_smallest;
     QEventLoop* m_modalLoop = nullptr;  ///< while showModal() waits
     bool m_activated = false, m_leaving = false;
 };

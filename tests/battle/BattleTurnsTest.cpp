@@ -140,6 +140,30 @@ TEST_F(BattleShots, LeaveStarsOfTheWidthThatTheRoundBeforeLeftThePenAt) {
     expectWidth(2);
 }
 
+TEST_F(BattleShots, ArePlottedAgainAsIfThePictureHadAlwaysHadItsSize) {
+    SkyRig other;
+    const auto enlarge = [](SkyRig& rig) { rig.picture().resize(1500, 700, 2); };
+    enlarge(other);
+    other.battle.redrawField();
+    for (SkyRig* rig : {static_cast<SkyRig*>(this), &other}) {
+        rig->options().chkTrajectory_Click(true);
+        rig->begin(kMeteor);
+        rig->shoot(kMiss);
+        rig->options().chkTrajectory_Click(false);
+        rig->shoot(kMiss);
+    }
+    const int draws = random.draws();
+    enlarge(*this);
+    battle.replotField();
+    EXPECT_TRUE(pixels() == other.pixels());
+    EXPECT_GT(std::ranges::count(pixels(), 0xFFFF0000u), 50);  // of the trail
+    EXPECT_EQ(random.draws(), draws);
+    passTime();
+    begin(kStorm);
+    battle.replotField();
+    EXPECT_EQ(std::ranges::count(pixels(), 0xFFFF0000u), 0) << "a storm sweeps the sky";
+}
+
 TEST(LastRound, EndsTheSet) {
     StartedRig rig{1};
     rig.shoot(kDirectHitBy[0]);

@@ -147,7 +147,7 @@ class frmPlayGameTest : public QObject {
                     QVERIFY2(widget->sizeHint().width() <= widget->width(), name);
             }
             keys.removeAll({});
-            QCOMPARE(keys.size(), 13);  // S Q O T M L, W P A G V, F1, Esc
+            QCOMPARE(keys.size(), 15);  // S Q O T M L F, W P A G V, F1 F11 Esc
             QCOMPARE(keys.removeDuplicates(), 0);
             QCOMPARE(screen.shoot()->plainCaption().isEmpty(), size == 1);
             QCOMPARE(screen.shoot()->toolTip(),
@@ -172,6 +172,58 @@ class frmPlayGameTest : public QObject {
         screen.form->show();
         QCOMPARE(redPixels(), stars);
         QCOMPARE(screen.form->battle().state().RoundNumber, 1);
+    }
+
+    void takesANewSizeWhenTheShotIsOver() {
+        Screen screen, untouched;
+        const Battlefield& field = screen.form->battle().state().field;
+        FieldPicture& picture = const_cast<Battle&>(screen.form->battle()).picture();
+        // What is seen at a point of the field, wherever it is shown.
+        const auto seen = [&](int x, int y) {
+            const QImage image = screen.field()->grab().toImage();
+            return image.pixel((x - 1) * (image.width() - 1) / 999,
+                               (1000 - y) * (image.height() - 1) / 999);
+        };
+        const QRgb ground = field.groundColour.pixel();
+        int flights = 0;
+        screen.pacer.duringFlight = [&] {
+            if (++flights != 3) return;
+            screen.form->resize(1500, 900);
+            QCOMPARE(screen.field()->size(), QSize(1476, 684));
+            QCOMPARE(picture.width(), 984);
+            for (const int x : {3, 550, 998}) {
+                QCOMPARE(seen(x, field.heightAt(x) - 5), ground);
+                QVERIFY(seen(x, field.heightAt(x) + 5) != ground);
+            }
+        };
+        for (Screen* each : {&untouched, &screen}) QTest::mouseClick(each->shoot(), Qt::LeftButton);
+        QCOMPARE(picture.width(), 1476);
+        QCOMPARE(picture.height(), 684);
+        const int landedAt = screen.form->battle().shots().at(0).landedAt.x;
+        for (int x = 1; x <= kColumns; ++x) {  // under the pieces and above them
+            if (std::abs(x - landedAt) < 10) continue;
+            QCOMPARE(picture.pixel(x, field.heightAt(x) - 20), field.groundColour);
+            QVERIFY(picture.pixel(x, field.heightAt(x) + 40) != field.groundColour);
+        }
+        QCOMPARE(screen.random.draws(), untouched.random.draws());
+        QTest::mouseClick(screen.field(), Qt::LeftButton, {}, {1275, 664});  // the right piece
+        QCOMPARE(screen.shots(), 2u);
+    }
+
+    void fillsTheScreenAndScrollsWhereThatIsSmall() {
+        Screen screen{1};
+        for (const bool full : {true, false}) {
+            QTest::keyClick(screen.form.get(), Qt::Key_F11);
+            QCOMPARE(screen.form->isFullScreen(), full);
+        }
+        screen.form->fitInto({640, 450});
+        QCOMPARE(screen.form->size(), QSize(640, 450));
+        for (QWidget* control :
+             std::initializer_list<QWidget*>{screen.bar("scrollSpeed(1)"), screen.box("chkWind"),
+                                             screen.bar("scrollAngle(1)"), screen.shoot()}) {
+            control->setFocus();
+            QCOMPARE(control->visibleRegion().boundingRect(), control->rect());
+        }
     }
 
     void endsAMeteorOrAStormForWhatThePlayerDoes() {

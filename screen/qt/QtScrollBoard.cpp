@@ -1,0 +1,38 @@
+#include "screen/qt/QtScrollBoard.h"
+
+#include <QApplication>
+#include <QEvent>
+
+namespace skylob {
+
+QtScrollBoard::QtScrollBoard(const QSize& smallest, QWidget* screen) : QScrollArea{screen} {
+    auto* board = new QWidget;
+    board->setMinimumSize(smallest);
+    setWidgetResizable(true);
+    setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::NoFocus);
+    setWidget(board);
+    // The screen's own ground is to be seen.
+    for (QWidget* widget : {board, viewport()}) widget->setAutoFillBackground(false);
+    screen->installEventFilter(this);
+    connect(qApp, &QApplication::focusChanged, this, &QtScrollBoard::followFocus);
+}
+
+void QtScrollBoard::followFocus() {
+    QWidget* const focus = QApplication::focusWidget();
+    if (focus && widget()->isAncestorOf(focus)) ensureWidgetVisible(focus);
+}
+
+bool QtScrollBoard::eventFilter(QObject* watched, QEvent* event) {
+    const bool refused = QScrollArea::eventFilter(watched, event);
+    if (event->type() != QEvent::Resize) return refused;
+    if (watched == parentWidget()) {
+        resize(parentWidget()->size());
+        followFocus();
+    } else if (watched == widget()) {
+        emit boardResized();
+    }
+    return refused;
+}
+
+}  // namespace skylob

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QScrollArea>
+
+namespace skylob {
+
+/// The ground on which a screen's widgets stand where the window's size is not fixed. It fills the
+/// screen. Where that is smaller than the widgets need, it scrolls, and follows the keyboard focus.
+class QtScrollBoard : public QScrollArea {
+    Q_OBJECT
+
+  public:
+    /// `screen` is to be the parent as well; `smallest` is what the widgets need.
+    QtScrollBoard(const QSize& smallest, QWidget* screen);
+
+    /// What the widgets are to be children of.
+    QWidget* board() const { return widget(); }
+
+  signals:
+    void boardResized();
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    void followFocus();
+};
+
+}  // namespace skylob
