@@ -14,6 +14,7 @@
 
 #include "battle/qt/QtEffectTimers.h"
 #include "battle/qt/QtSidePanel.h"
+#include "battle/qt/QtStormHold.h"
 #include "battle/qt/frmPlayGameLayout.h"
 #include "battle/qt/picGameField.h"
 #include "controls/qt/GlintButton.h"
@@ -24,6 +25,8 @@
 namespace skylob {
 
 namespace {
+
+constexpr int kReportHeight = 20;
 
 void enable(GlintButton& button, bool enabled) {
     if (button.state().Enabled != enabled) button.design().setEnabled(enabled);
@@ -43,6 +46,7 @@ frmPlayGame::frmPlayGame(const QtScreenPorts& screen, const BattlePorts& ports)
       m_timers{new QtEffectTimers{this, m_battle}},
       m_field{new picGameField{m_battle.picture(), m_shapes, this}} {
     m_field->setGeometry(m_layout.field);
+    makeReport();
     makeSidePanels();
     makeButtons();
     makeOptions();
@@ -50,6 +54,18 @@ frmPlayGame::frmPlayGame(const QtScreenPorts& screen, const BattlePorts& ports)
     addShortcuts();
     setTabOrder();
     frmPlayGame::showPanel(m_battle.panel());
+}
+
+frmPlayGame::~frmPlayGame() = default;
+
+void frmPlayGame::makeReport() {
+    labelReport = new QLabel{this};
+    labelReport->setObjectName(QStringLiteral("labelReport"));
+    labelReport->setTextFormat(Qt::PlainText);
+    const QRect& field = m_layout.field;
+    labelReport->setGeometry(field.x(), field.bottom() + 2, field.width(), kReportHeight);
+    labelReport->setAutoFillBackground(true);
+    labelReport->hide();
 }
 
 void frmPlayGame::makeSidePanels() {
@@ -185,6 +201,7 @@ void frmPlayGame::Form_Activate() {
 }
 
 void frmPlayGame::fitField() {
+    if (m_stormHold) return;  // it is done afterwards
     const bool refitted = m_field->fitPicture();
     const int width = displayWidth();
     const bool anotherDisplay = std::exchange(m_displayWidth, width) != width;
@@ -194,8 +211,9 @@ void frmPlayGame::fitField() {
 void frmPlayGame::showEvent(QShowEvent* event) {
     QtScreen::showEvent(event);
     fitField();
-    // What is not in the persistent picture, such as a shell's trail, is lost with the window.
-    m_battle.picture().refresh();
+    // What is not in the persistent picture, such as a shell's trail, is lost with the window. A
+    // storm's bolts are not: they stand until it is over.
+    if (!m_stormHold) m_battle.picture().refresh();
     m_field->update();
     connect(windowHandle(), &QWindow::screenChanged, this, &frmPlayGame::fitField,
             Qt::UniqueConnection);
@@ -267,12 +285,45 @@ void frmPlayGame::releaseInput() {
     m_gate->dropInputAndOpen();
 }
 
+void frmPlayGame::showStorm() {
+    if (!m_stormHold) {
+        labelReport->show();
+        m_stormHold = std::make_unique<QtStormHold>(
+            *this, *labelReport,
+            QList<QObject*>{m_field, m_side[1], m_side[2], scrollGameSpeed, cmdShoot, cmdQuit,
+                            chkSound, chkTrajectory, chkMeteors, chkLightning, chkWind});
+    }
+    m_stormHold->fitVeil();
+    m_field->showStorm();
+}
+
+void frmPlayGame::endStorm() {
+    if (!m_stormHold) return;
+    auto tasks = m_stormHold->takeTasks();
+    m_stormHold.reset();
+    labelReport->hide();
+    m_field->endStorm();
+    fitField();
+    showPanel(m_battle.panel());
+    for (auto& task : tasks) queue(std::move(task));
+}
+
+void frmPlayGame::showReport(const std::string& report) {
+    labelReport->setText(QString::fromStdString(report));
+}
+
 int frmPlayGame::displayWidth() const {
     return screen()->size().width();
 }
 
 void frmPlayGame::queue(std::function<void()> task) {
-    QMetaObject::invokeMethod(this, std::move(task), Qt::QueuedConnection);
+    const auto run = [this, task = std::move(task)] {
+        if (m_stormHold)
+            m_stormHold->keep(task);
+        else
+            task();
+    };
+    QMetaObject::invokeMethod(this, run, Qt::QueuedConnection);
 }
 
 void frmPlayGame::showSummary(SummaryKind kind) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <memory>
+
 #include "battle/Battle.h"
 #include "battle/BattleView.h"
 #include "screen/qt/QtScreen.h"
@@ -14,6 +16,7 @@ class GlintButton;
 class QtEffectTimers;
 class QtInputGate;
 class QtSidePanel;
+class QtStormHold;
 class picGameField;
 struct frmPlayGameLayout;
 
@@ -26,6 +29,7 @@ class frmPlayGame : public QtScreen, private BattleView {
     /// Laid out for shared.ScreenSize; the set starts when the screen is shown. Everything in
     /// `ports` must outlive the screen.
     frmPlayGame(const QtScreenPorts& screen, const BattlePorts& ports);
+    ~frmPlayGame() override;
 
     const Battle& battle() const { return m_battle; }
 
@@ -51,11 +55,15 @@ class frmPlayGame : public QtScreen, private BattleView {
     void showCursor(BattleCursor cursor) override;
     void holdInput() override;
     void releaseInput() override;
+    void showStorm() override;
+    void endStorm() override;
+    void showReport(const std::string& report) override;
     int displayWidth() const override;
     void queue(std::function<void()> task) override;
     void showSummary(SummaryKind kind) override;
     void closeBattle() override;
 
+    void makeReport();
     void makeSidePanels();
     void makeButtons();
     void makeOptions();
@@ -75,11 +83,12 @@ class frmPlayGame : public QtScreen, private BattleView {
     QtEffectTimers* m_timers;
     picGameField* m_field;
     PerSide<QtSidePanel*> m_side;
-    QLabel *labelRoundNumber, *labelGameSpeed;
+    QLabel *labelReport, *labelRoundNumber, *labelGameSpeed;
     QScrollBar* scrollGameSpeed;
     GlintButton *cmdShoot, *cmdQuit;
     QCheckBox *chkSound, *chkTrajectory, *chkMeteors, *chkLightning, *chkWind;
-    int m_displayWidth = 0;  ///< that the field was drawn for
+    std::unique_ptr<QtStormHold> m_stormHold;  ///< while a storm holds the field
+    int m_displayWidth = 0;                    ///< that the field was drawn for
     bool m_focusStaysOnShoot = false;
 };
 

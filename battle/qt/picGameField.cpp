@@ -4,6 +4,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QToolTip>
+#include <QWindow>
 #include <algorithm>
 #include <utility>
 
@@ -55,7 +56,33 @@ void picGameField::paintEvent(QPaintEvent* event) {
     const qreal ratio = devicePixelRatioF();
     const QRectF source{event->rect().x() * ratio, event->rect().y() * ratio,
                         event->rect().width() * ratio, event->rect().height() * ratio};
-    QPainter{this}.drawImage(QRectF{event->rect()}, image, source);
+    QPainter painter{this};
+    painter.drawImage(QRectF{event->rect()}, image, source);
+    paintStorm(painter);
+}
+
+void picGameField::showStorm() {
+    const QWindow* display = window()->windowHandle();
+    if (!isVisible() || !display || !display->isExposed()) return;  // nobody sees it
+    m_storm.advance(m_picture);
+    repaintStorm();
+}
+
+void picGameField::endStorm() {
+    m_storm.end();
+    repaintStorm();
+}
+
+void picGameField::repaintStorm() {
+    QRegion changes;
+    for (const PixelRect& area : m_storm.changes()) changes += logical(area).toAlignedRect();
+    repaint(changes);
+}
+
+void picGameField::paintStorm(QPainter& painter) const {
+    painter.scale(1 / devicePixelRatioF(), 1 / devicePixelRatioF());
+    for (const auto& [area, pixel] : m_storm.lights())
+        painter.fillRect(area.x, area.y, area.width, area.height, QColor::fromRgb(pixel));
 }
 
 void picGameField::mousePressEvent(QMouseEvent* event) {

@@ -3,6 +3,7 @@
 #include <QWidget>
 
 #include "battle/FieldPicture.h"
+#include "battle/StormShow.h"
 
 namespace skylob {
 
@@ -23,6 +24,10 @@ class picGameField : public QWidget {
     /// Brings what has changed in the picture to the display before it returns.
     void showChanges();
 
+    /// Lets a storm's show go on by a picture, over the rules' picture, or ends it.
+    void showStorm();
+    void endStorm();
+
   signals:
     /// A side's piece was clicked.
     void pieceClicked(int side);
@@ -34,11 +39,14 @@ class picGameField : public QWidget {
     bool event(QEvent* event) override;
 
   private:
+    void repaintStorm();
+    void paintStorm(QPainter& painter) const;
     QRectF logical(const PixelRect& area) const;
     int pieceAt(QPointF position) const;
 
     FieldPicture& m_picture;
     const QtShapes& m_shapes;
+    StormShow m_storm;
     int m_pressedPiece = 0;
 };
 

@@ -20,6 +20,7 @@ struct RecordingView : HeadlessView {
         inputHeld = false;
         log.push_back("release input");
     }
+    void showReport(const std::string& report) override { reports.push_back(report); }
     void queue(std::function<void()> task) override {
         log.push_back("queue");
         HeadlessView::queue(std::move(task));
@@ -37,6 +38,7 @@ struct RecordingView : HeadlessView {
 
     Log& log;
     std::function<void()> onShowField;
+    Log reports;
     bool inputHeld = false;
     int width = 801, panelsShown = 0;
 };
