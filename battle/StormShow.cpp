@@ -12,10 +12,10 @@ constexpr int kDrops = 80;
 constexpr int kSlant = 5;  // a drop is blown one drop's width to the left for each 5 it falls
 constexpr std::uint32_t kNearDrop = 0xFF5B6E94u, kFarDrop = 0xFF35425Fu;
 
-// The sky in a flicker, the last picture first, and how rarely one comes: every four seconds.
+// The sky in a flicker, the last picture first, and how rarely one comes: every three seconds.
 constexpr std::array<std::uint32_t, 5> kFlashes{0xFF070A12u, 0xFF161C30u, 0xFF0B0F1Bu, 0xFF242D49u,
                                                 0xFF121727u};
-constexpr int kPicturesForAFlicker = 40;
+constexpr int kPicturesForAFlicker = 30;
 
 int dropWidth(int height) {
     return std::max(1, (height + 256) / 512);
@@ -84,10 +84,12 @@ void StormShow::fall(Drop& drop, const FieldPicture& picture) {
     if (drop.y >= m_height) drop = {below(m_width + m_height / kSlant), -below(way), drop.isNear};
 
     const int step = width * kSlant, steps = (length + step - 1) / step;
+    const std::size_t before = m_lights.size();
     for (int down = 0; down < steps; ++down)
         lightUp({drop.x - down * width, drop.y + down * step, width,
                  std::min(step, length - down * step)},
                 drop.isNear ? kNearDrop : kFarDrop, picture);
+    if (m_lights.size() == before) drop.y = m_height;  // behind a hill: the next one, please
     const PixelRect around =
         within({drop.x - (steps - 1) * width, drop.y, steps * width, length}, picture);
     if (!around.isEmpty()) m_lit.push_back(around);

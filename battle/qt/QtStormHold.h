@@ -3,9 +3,7 @@
 #include <QList>
 #include <QSignalBlocker>
 #include <QString>
-#include <functional>
 #include <memory>
-#include <utility>
 #include <vector>
 
 class QLabel;
@@ -28,17 +26,12 @@ class QtStormHold {
     /// Brings the veil in line with the screen's present size.
     void fitVeil();
 
-    /// Keeps a queued call for later. takeTasks() gives all of them, in their order.
-    void keep(std::function<void()> task) { m_tasks.push_back(std::move(task)); }
-    std::vector<std::function<void()>> takeTasks() { return std::exchange(m_tasks, {}); }
-
   private:
     QWidget& m_screen;
     QLabel& m_line;
     const QString m_lineBefore;
     const std::unique_ptr<QWidget> m_veil;
     std::vector<QSignalBlocker> m_deaf;
-    std::vector<std::function<void()>> m_tasks;
 };
 
 }  // namespace skylob

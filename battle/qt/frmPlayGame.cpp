@@ -8,6 +8,7 @@
 #include <QScreen>
 #include <QScrollBar>
 #include <QShortcut>
+#include <QTimer>
 #include <QWindow>
 #include <algorithm>
 #include <utility>
@@ -288,6 +289,7 @@ void frmPlayGame::releaseInput() {
 void frmPlayGame::showStorm() {
     if (!m_stormHold) {
         labelReport->show();
+        labelReport->raise();
         m_stormHold = std::make_unique<QtStormHold>(
             *this, *labelReport,
             QList<QObject*>{m_field, m_side[1], m_side[2], scrollGameSpeed, cmdShoot, cmdQuit,
@@ -299,13 +301,11 @@ void frmPlayGame::showStorm() {
 
 void frmPlayGame::endStorm() {
     if (!m_stormHold) return;
-    auto tasks = m_stormHold->takeTasks();
     m_stormHold.reset();
     labelReport->hide();
     m_field->endStorm();
     fitField();
     showPanel(m_battle.panel());
-    for (auto& task : tasks) queue(std::move(task));
 }
 
 void frmPlayGame::showReport(const std::string& report) {
@@ -317,13 +317,12 @@ int frmPlayGame::displayWidth() const {
 }
 
 void frmPlayGame::queue(std::function<void()> task) {
-    const auto run = [this, task = std::move(task)] {
-        if (m_stormHold)
-            m_stormHold->keep(task);
-        else
-            task();
-    };
-    QMetaObject::invokeMethod(this, run, Qt::QueuedConnection);
+    // A timer and not a posted call: the pacer's watched pause leaves timers out, and calls in.
+    auto* timer = new QTimer{this};
+    timer->setSingleShot(true);
+    connect(timer, &QTimer::timeout, this, std::move(task));
+    connect(timer, &QTimer::timeout, timer, &QObject::deleteLater);
+    timer->start(0);
 }
 
 void frmPlayGame::showSummary(SummaryKind kind) {

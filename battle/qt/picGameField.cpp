@@ -3,6 +3,7 @@
 #include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScopedValueRollback>
 #include <QToolTip>
 #include <QWindow>
 #include <algorithm>
@@ -54,10 +55,12 @@ void picGameField::paintEvent(QPaintEvent* event) {
     QImage image{reinterpret_cast<const uchar*>(m_picture.screenPixels()), m_picture.width(),
                  m_picture.height(), QImage::Format_RGB32};
     const qreal ratio = devicePixelRatioF();
-    const QRectF source{event->rect().x() * ratio, event->rect().y() * ratio,
-                        event->rect().width() * ratio, event->rect().height() * ratio};
     QPainter painter{this};
-    painter.drawImage(QRectF{event->rect()}, image, source);
+    const QList<QRect> all{event->rect()};
+    for (const QRect& part : event->rect() == m_stormStep ? m_stormParts : all)
+        painter.drawImage(
+            QRectF{part}, image,
+            {part.x() * ratio, part.y() * ratio, part.width() * ratio, part.height() * ratio});
     paintStorm(painter);
 }
 
@@ -74,9 +77,15 @@ void picGameField::endStorm() {
 }
 
 void picGameField::repaintStorm() {
-    QRegion changes;
-    for (const PixelRect& area : m_storm.changes()) changes += logical(area).toAlignedRect();
-    repaint(changes);
+    m_stormParts.clear();
+    QRect around;
+    for (const PixelRect& area : m_storm.changes()) {
+        m_stormParts.append(logical(area).toAlignedRect());
+        around |= m_stormParts.last();
+    }
+    // Clipping to a hundred small rectangles would cost twice as much as sending one large one.
+    const QScopedValueRollback step{m_stormStep, around};
+    repaint(around);
 }
 
 void picGameField::paintStorm(QPainter& painter) const {

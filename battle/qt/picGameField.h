@@ -47,6 +47,8 @@ class picGameField : public QWidget {
     FieldPicture& m_picture;
     const QtShapes& m_shapes;
     StormShow m_storm;
+    QList<QRect> m_stormParts;  ///< the parts of the storm's next picture that differ from the last
+    QRect m_stormStep;          ///< around them, while they are repainted
     int m_pressedPiece = 0;
 };
 

@@ -20,6 +20,7 @@ struct RecordingView : HeadlessView {
         inputHeld = false;
         log.push_back("release input");
     }
+    void endStorm() override { reports.push_back("over"); }
     void showReport(const std::string& report) override { reports.push_back(report); }
     void queue(std::function<void()> task) override {
         log.push_back("queue");
