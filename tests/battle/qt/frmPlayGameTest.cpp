@@ -275,7 +275,7 @@ class frmPlayGameTest : public QObject {
         frmPlayGame& form = *screen.form;
         const auto seen = [&form] { return form.screen()->grabWindow(form.winId()).toImage(); };
         const QPoint golden = screen.shoot()->geometry().bottomRight() - QPoint{20, 20};
-        const int brightness = seen().pixelColor(golden).lightness();
+        const int brightness = form.grab().toImage().pixelColor(golden).lightness();
         QImage before;
         screen.pacer.inStorm = [&](std::int32_t left) {
             const QImage image = std::exchange(before, seen());
@@ -294,7 +294,7 @@ class frmPlayGameTest : public QObject {
         screen.clock.time += std::chrono::hours{1};
         screen.random.script({0});
         QMetaObject::invokeMethod(form.findChild<QTimer*>("timerLightning"), "timeout");
-        QVERIFY(!before.isNull() && !form.isVisible() && !form.testAttribute(Qt::WA_SetCursor));
+        QVERIFY(!before.isNull() && !form.isVisible() && form.cursor().shape() == Qt::ArrowCursor);
         QCOMPARE(screen.bar("scrollGameSpeed")->value(), 99);
     }
 
