@@ -26,6 +26,7 @@ class InstantPacer : public Pacer {
     void startPacing() override {}
     void countedWait(std::int32_t) override {}
     void Wait(float) override {}
+    void waitWatched(float, const Watch&) override {}
     void yieldToEvents() override {}
 };
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 
 namespace skylob {
 
@@ -20,6 +21,15 @@ class Pacer {
 
     /// Sleeps for `seconds` (0 or more), rounded to whole milliseconds, halves to even.
     virtual void Wait(float seconds) = 0;
+
+    /// Told of a pause under way: the milliseconds that are left of it, 1 or more.
+    using Watch = std::function<void(std::int32_t millisecondsLeft)>;
+
+    /// Sleeps exactly as long as Wait(seconds), but in slices of at most 100 ms, before each of
+    /// which the windows of the program are served, painting, sizes and what the window manager
+    /// wants, a window closed included, and `watch` is called. Input keeps until the next
+    /// yieldToEvents(), the ticks of timers until events are served again, each once at most.
+    virtual void waitWatched(float seconds, const Watch& watch) = 0;
 
     /// Lets pending window events be handled, once.
     virtual void yieldToEvents() = 0;

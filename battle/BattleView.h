@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 
 #include "base/SummaryKind.h"
 #include "battle/BattlePanel.h"
@@ -29,6 +30,15 @@ class BattleView {
     /// Calls do not nest. Modal boxes over the screen are not concerned.
     virtual void holdInput() = 0;
     virtual void releaseInput() = 0;
+
+    /// While a storm holds the field: the screen looks so, though its controls stay as they are,
+    /// and moves on by a picture with each call. In the pause the input is held; only the window's
+    /// closing gets through. After endStorm() the report is what it was before.
+    virtual void showStorm() = 0;
+    virtual void endStorm() = 0;
+
+    /// The line below the field.
+    virtual void showReport(const std::string& report) = 0;
 
     /// The width of the display that the screen is on, in its own pixels.
     virtual int displayWidth() const = 0;

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <functional>
 #include <queue>
+#include <string>
 
 #include "base/NullPorts.h"
 #include "base/SeededRandom.h"
@@ -18,6 +19,9 @@ class HeadlessView : public BattleView {
     void showCursor(BattleCursor) override {}
     void holdInput() override {}
     void releaseInput() override {}
+    void showStorm() override {}
+    void endStorm() override {}
+    void showReport(const std::string&) override {}
     int displayWidth() const override { return 1024; }
     void queue(std::function<void()> task) override { m_tasks.push(std::move(task)); }
     void showSummary(SummaryKind) override {}

@@ -56,14 +56,23 @@ Bolt boltPath(FieldPoint start, const Battlefield& field, RandomSource& random,
     return bolt;
 }
 
+std::string stormReport(std::int32_t millisecondsLeft, bool closing) {
+    const std::int32_t seconds = (millisecondsLeft + 999) / 1000;
+    const std::int32_t second = seconds % 60;
+    std::string report = "A storm holds the field.  " + std::to_string(seconds / 60) +
+                         (second < 10 ? ":0" : ":") + std::to_string(second);
+    if (closing) report += "  Closing waits until it is over.";
+    return report;
+}
+
 void LightningStorm::rage() {
     const int bolts = RandomInt(m_sky.random, 1, 4);
     strike(bolts);
     if (m_sky.effect.isInterrupted()) return clearSky();
     m_view.holdInput();
-    // Quirk "distant thunder": whole seconds, and nothing responds meanwhile.
+    // Quirk "distant thunder": whole seconds, and no input is taken meanwhile.
     const int pause = RandomInt(m_sky.random, kPauseSeconds, kPauseSeconds * (bolts + 1));
-    m_pacer.Wait(static_cast<float>(pause));
+    holdTheField(pause);
     thunder(bolts);
     clearSky();
     // A window can be closed even while its input is held.
@@ -91,6 +100,14 @@ void LightningStorm::draw(const Bolt& bolt) {
         m_sky.animation.show();
         m_sky.effect.serveEvents();
     }
+}
+
+void LightningStorm::holdTheField(int seconds) {
+    m_pacer.waitWatched(static_cast<float>(seconds), [this](std::int32_t millisecondsLeft) {
+        m_view.showStorm();
+        m_view.showReport(stormReport(millisecondsLeft, m_sky.effect.isInterrupted()));
+    });
+    m_view.endStorm();
 }
 
 void LightningStorm::thunder(int bolts) {

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
+#include <string>
 #include <vector>
 
 #include "battle/BattleView.h"
@@ -23,6 +25,10 @@ Bolt boltPath(FieldPoint start, const Battlefield& field, RandomSource& random,
 /// the rest at a point of the middle third of the one before.
 FieldPoint boltStart(const Bolt& previous, RandomSource& random);
 
+/// What the player reads while a storm holds the field, with minutes and seconds to go. `closing`:
+/// the window has been asked to close, which waits for the storm's end.
+std::string stormReport(std::int32_t millisecondsLeft, bool closing);
+
 /// Thunderstorms over the battlefield: one to four bolts, a long pause, thunder.
 class LightningStorm {
   public:
@@ -37,6 +43,7 @@ class LightningStorm {
   private:
     void strike(int bolts);
     void draw(const Bolt& bolt);
+    void holdTheField(int seconds);
     void thunder(int bolts);
     void clearSky();
 

@@ -8,6 +8,7 @@
 #include <QScrollBar>
 #include <QShortcut>
 #include <QTextDocument>
+#include <QTimer>
 #include <QWindow>
 #include <algorithm>
 #include <utility>
@@ -19,6 +20,7 @@
 #include "battle/qt/QtHints.h"
 #include "battle/qt/QtReportLabel.h"
 #include "battle/qt/QtSidePanel.h"
+#include "battle/qt/QtStormHold.h"
 #include "battle/qt/frmPlayGameLayout.h"
 #include "battle/qt/picGameField.h"
 #include "controls/qt/GlintButton.h"
@@ -60,6 +62,8 @@ frmPlayGame::frmPlayGame(const QtScreenPorts& screen, const BattlePorts& ports, 
     place(m_layout);
     frmPlayGame::showPanel(m_battle.panel());
 }
+
+frmPlayGame::~frmPlayGame() = default;
 
 void frmPlayGame::makeReportRow() {
     labelReport = new QtReportLabel{board()};
@@ -241,7 +245,7 @@ void frmPlayGame::boardResized() {
 /// Called wherever the size or the display may be another one, or a shot or an effect over: till
 /// then the picture is shown scaled.
 void frmPlayGame::fitField() {
-    if (!m_battle.fieldIsStill()) return;
+    if (m_stormHold || !m_battle.fieldIsStill()) return;  // it is done afterwards
     const bool refitted = m_field->fitPicture(m_layout.field.size());
     const int width = displayWidth();
     const bool anotherDisplay = std::exchange(m_displayWidth, width) != width;
@@ -251,8 +255,9 @@ void frmPlayGame::fitField() {
 void frmPlayGame::showEvent(QShowEvent* event) {
     QtScreen::showEvent(event);
     fitField();
-    // What is not in the persistent picture, such as a shell's trail, is lost with the window.
-    m_battle.picture().refresh();
+    // What is not in the persistent picture, such as a shell's trail, is lost with the window. A
+    // storm's bolts are not: they stand until it is over.
+    if (!m_stormHold) m_battle.picture().refresh();
     m_field->showChanges();
     connect(windowHandle(), &QWindow::screenChanged, this, &frmPlayGame::fitField,
             Qt::UniqueConnection);
@@ -347,12 +352,39 @@ void frmPlayGame::releaseInput() {
     m_gate->dropInputAndOpen();
 }
 
+void frmPlayGame::showStorm() {
+    if (!m_stormHold)
+        m_stormHold = std::make_unique<QtStormHold>(
+            *board(), labelReport->geometry().bottom() + 1,
+            QList<QObject*>{m_field, m_side[1], m_side[2], scrollGameSpeed, cmdShoot, cmdQuit,
+                            chkSound, chkTrajectory, chkMeteors, chkLightning, chkWind});
+    m_stormHold->fitVeil(labelReport->geometry().bottom() + 1);
+    m_field->showStorm();
+}
+
+void frmPlayGame::endStorm() {
+    if (!m_stormHold) return;
+    m_stormHold.reset();
+    m_field->endStorm();
+    fitField();
+    showPanel(m_battle.panel());
+}
+
+void frmPlayGame::showReport(const std::string& report) {
+    labelReport->showReport(QString::fromStdString(report));
+}
+
 int frmPlayGame::displayWidth() const {
     return qRound(screen()->size().width() * screen()->devicePixelRatio());
 }
 
 void frmPlayGame::queue(std::function<void()> task) {
-    QMetaObject::invokeMethod(this, std::move(task), Qt::QueuedConnection);
+    // A timer and not a posted call: the pacer's watched pause leaves timers out, and calls in.
+    auto* timer = new QTimer{this};
+    timer->setSingleShot(true);
+    connect(timer, &QTimer::timeout, this, std::move(task));
+    connect(timer, &QTimer::timeout, timer, &QObject::deleteLater);
+    timer->start(0);
 }
 
 void frmPlayGame::showSummary(SummaryKind kind) {

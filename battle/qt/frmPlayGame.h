@@ -1,5 +1,7 @@
 #pragma once
 
+#include <memory>
+
 #include "battle/Battle.h"
 #include "battle/BattleView.h"
 #include "battle/FieldLayer.h"
@@ -19,6 +21,7 @@ class QtHints;
 class QtInputGate;
 class QtReportLabel;
 class QtSidePanel;
+class QtStormHold;
 class picGameField;
 struct frmPlayGameLayout;
 
@@ -32,6 +35,7 @@ class frmPlayGame : public QtScreen, private BattleView {
     /// when the screen is shown. Everything in `ports` must outlive the screen.
     frmPlayGame(const QtScreenPorts& screen, const BattlePorts& ports,
                 const QSize& room = {QWIDGETSIZE_MAX, QWIDGETSIZE_MAX});
+    ~frmPlayGame() override;
 
     const Battle& battle() const { return m_battle; }
 
@@ -63,6 +67,9 @@ class frmPlayGame : public QtScreen, private BattleView {
     void showCursor(BattleCursor cursor) override;
     void holdInput() override;
     void releaseInput() override;
+    void showStorm() override;
+    void endStorm() override;
+    void showReport(const std::string& report) override;
     int displayWidth() const override;
     void queue(std::function<void()> task) override;
     void showSummary(SummaryKind kind) override;
@@ -101,7 +108,8 @@ class frmPlayGame : public QtScreen, private BattleView {
     QScrollBar *scrollGameSpeed, *scrollVolume;
     GlintButton *cmdShoot, *cmdQuit;
     QCheckBox *chkSound, *chkTrajectory, *chkMeteors, *chkLightning, *chkWind, *chkEffects;
-    int m_displayWidth = 0;  ///< that the field was drawn for
+    std::unique_ptr<QtStormHold> m_stormHold;  ///< while a storm holds the field
+    int m_displayWidth = 0;                    ///< that the field was drawn for
     bool m_focusStaysOnShoot = false;
     QtHints* m_hints = nullptr;
 };

@@ -3,7 +3,9 @@
 #include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScopedValueRollback>
 #include <QToolTip>
+#include <QWindow>
 #include <algorithm>
 #include <utility>
 
@@ -63,17 +65,50 @@ void picGameField::paintEvent(QPaintEvent* event) {
         return;
     }
     const qreal ratio = devicePixelRatioF();
-    for (const QRect& part : event->region()) {
+    const QList<QRect> all{event->region().begin(), event->region().end()};
+    for (const QRect& part : event->rect() == m_stormStep ? m_stormParts : all) {
         const QRectF source{part.x() * ratio, part.y() * ratio, part.width() * ratio,
                             part.height() * ratio};
         painter.drawImage(QRectF{part}, image, source);
     }
+    paintStorm(painter);
 }
 
 /// What the player sees, without a copy.
 QImage picGameField::shown() const {
     return {reinterpret_cast<const uchar*>(m_layer.pixels()), m_layer.width(), m_layer.height(),
             QImage::Format_RGB32};
+}
+
+void picGameField::showStorm() {
+    const QWindow* display = window()->windowHandle();
+    if (!isVisible() || !display || !display->isExposed()) return;  // nobody sees it
+    if (!m_layer.isOn() || !isFitting()) return;
+    m_storm.advance(m_picture);
+    repaintStorm();
+}
+
+void picGameField::endStorm() {
+    m_storm.end();
+    repaintStorm();
+}
+
+void picGameField::repaintStorm() {
+    m_stormParts.clear();
+    QRect around;
+    for (const PixelRect& area : m_storm.changes()) {
+        m_stormParts.append(logical(area).toAlignedRect());
+        around |= m_stormParts.last();
+    }
+    // Clipping to a hundred small rectangles would cost twice as much as sending one large one.
+    const QScopedValueRollback step{m_stormStep, around};
+    repaint(around);
+}
+
+void picGameField::paintStorm(QPainter& painter) const {
+    painter.scale(1 / devicePixelRatioF(), 1 / devicePixelRatioF());
+    for (const auto& [area, pixel] : m_storm.lights())
+        painter.fillRect(area.x, area.y, area.width, area.height, QColor::fromRgb(pixel));
 }
 
 void picGameField::mousePressEvent(QMouseEvent* event) {

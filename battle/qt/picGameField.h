@@ -5,6 +5,7 @@
 
 #include "battle/FieldPicture.h"
 #include "battle/FieldPoint.h"
+#include "battle/StormShow.h"
 
 namespace skylob {
 
@@ -36,6 +37,10 @@ class picGameField : public QWidget {
     /// Brings what has changed in the picture and its light to the display before it returns.
     void showChanges();
 
+    /// Lets a storm's show go on by a picture, over the rules' picture, or ends it.
+    void showStorm();
+    void endStorm();
+
   signals:
     /// A side's piece was clicked.
     void pieceClicked(int side);
@@ -50,11 +55,16 @@ class picGameField : public QWidget {
     QImage shown() const;
     QSize fittingSize() const;
     bool isFitting() const;
+    void repaintStorm();
+    void paintStorm(QPainter& painter) const;
     QRectF logical(const PixelRect& area) const;
 
     FieldPicture& m_picture;
     FieldLayer& m_layer;
     const QtShapes& m_shapes;
+    StormShow m_storm;
+    QList<QRect> m_stormParts;  ///< the parts of the storm's next picture that differ from the last
+    QRect m_stormStep;          ///< around them, while they are repainted
     int m_pressedPiece = 0;
     QPointF m_pressedAt;
 };

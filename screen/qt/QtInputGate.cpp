@@ -5,7 +5,7 @@
 #include <QWidget>
 #include <QWindow>
 
-#include "screen/qt/QtInput.h"
+#include "base/qt/QtInput.h"
 
 namespace skylob {
 

@@ -6,7 +6,7 @@
 #include <QWindow>
 #include <utility>
 
-#include "screen/qt/QtInput.h"
+#include "base/qt/QtInput.h"
 
 namespace skylob {
 

@@ -8,9 +8,9 @@
 #include <QWindow>
 #include <utility>
 
+#include "base/qt/QtInput.h"
 #include "controls/qt/GlintButton.h"
 #include "look/qt/QtLook.h"
-#include "screen/qt/QtInput.h"
 #include "screen/qt/QtPlacement.h"
 #include "screen/qt/QtScreenFade.h"
 #include "screen/qt/QtScrollBoard.h"

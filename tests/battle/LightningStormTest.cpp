@@ -117,6 +117,23 @@ TEST(Storm, LastsFrom50SecondsTo50AndAsManyForEachBolt) {
     }
 }
 
+TEST_F(Storms, SayHowLongTheyHoldTheFieldAndRememberOneRequestToClose) {
+    pacer.millisecondsLeft = {75000, 60001, 60000, 9001, 1};
+    begin(kStorm, {0, 0});
+    const std::string says = "A storm holds the field.  ";
+    EXPECT_EQ(view.reports, (Log{says + "1:15", says + "1:01", says + "1:00", says + "0:10",
+                                 says + "0:01", "over"}));
+    passTime();
+    pacer.millisecondsLeft = {4000};
+    pacer.onWait = [&] {
+        for (int request = 1; request <= 2; ++request) battle.cmdQuit_Click();
+    };
+    view.reports.clear();
+    begin(kStorm, {0, 0});
+    EXPECT_EQ(view.reports, (Log{says + "0:04  Closing waits until it is over.", "over"}));
+    EXPECT_EQ(events(), (Log{"wait 75000", "release input", "close"}));
+}
+
 TEST_F(Storms, LetTheWindowBeClosedAfterTheirThunder) {
     atYield(496 + 5 + 1, [&] { battle.cmdQuit_Click(); });
     begin(kStorm, {0, 0});  // without sound

@@ -20,6 +20,8 @@ struct RecordingView : HeadlessView {
         inputHeld = false;
         log.push_back("release input");
     }
+    void endStorm() override { reports.push_back("over"); }
+    void showReport(const std::string& report) override { reports.push_back(report); }
     void queue(std::function<void()> task) override {
         log.push_back("queue");
         HeadlessView::queue(std::move(task));
@@ -41,6 +43,7 @@ struct RecordingView : HeadlessView {
 
     Log& log;
     std::function<void()> onShowField, onShowRules;
+    Log reports;
     bool inputHeld = false;
     int width = 801, panelsShown = 0;
 };

@@ -25,7 +25,15 @@ class InterruptedPacer : public InstantPacer {
         QCoreApplication::processEvents();
         if (atYield) atYield();
     }
+    void waitWatched(float, const Watch& watch) override {
+        for (const std::int32_t left : {61'000, 60'000, 1}) {
+            watch(left);
+            QCoreApplication::processEvents();
+            if (inStorm) inStorm(left);
+        }
+    }
     std::function<void()> duringFlight, atYield;
+    std::function<void(std::int32_t)> inStorm;
 };
 
 /// The battle screen, shown, on the field that chance of 0.5 makes (see BattleRig).

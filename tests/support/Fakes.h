@@ -56,6 +56,10 @@ struct RecordingPacer : Pacer {
         log.push_back("wait " + std::to_string(waitMilliseconds(seconds)));
         if (onWait) onWait();
     }
+    void waitWatched(float seconds, const Watch& watch) override {
+        Wait(seconds);
+        for (const std::int32_t left : millisecondsLeft) watch(left);
+    }
     void yieldToEvents() override {
         log.push_back("yield");
         if (const auto action = std::exchange(onYield, {})) action();
@@ -65,6 +69,7 @@ struct RecordingPacer : Pacer {
     std::vector<std::int32_t> counts;  ///< since the last startPacing()
     std::function<void()> onYield;     ///< run once, at the next yield
     std::function<void()> onWait;
+    std::vector<std::int32_t> millisecondsLeft;  ///< when a watch is called
 };
 
 struct RecordingSounds : SoundPlayer {

@@ -256,6 +256,34 @@ class frmPlayGameTest : public QObject {
         }
     }
 
+    void looksAliveInAStormAndClosesAfterIt() {
+        Screen screen;
+        frmPlayGame& form = *screen.form;
+        const auto seen = [&form] { return form.screen()->grabWindow(form.winId()).toImage(); };
+        const QPoint golden = screen.shoot()->geometry().bottomRight() - QPoint{20, 20};
+        const int brightness = form.grab().toImage().pixelColor(golden).lightness();
+        QImage before;
+        screen.pacer.inStorm = [&](std::int32_t left) {
+            const QImage image = std::exchange(before, seen());
+            QVERIFY(before != image);
+            QCOMPARE(before, form.grab().toImage());  // painted bit by bit, and all at once
+            QVERIFY(before.pixelColor(golden).lightness() < brightness * 2 / 3);
+            QVERIFY(screen.shoot()->isEnabled() && form.cursor().shape() == Qt::WaitCursor);
+            const char* const says =
+                left > 60'000 ? "1:01" : "0:01  Closing waits until it is over.";
+            if (left != 60'000)
+                QVERIFY(screen.shows(QStringLiteral("A storm holds the field.  ") + says));
+            screen.bar("scrollGameSpeed")->setValue(left % 99);  // as a screen reader does
+            QVERIFY(screen.shows("Game Speed: 99"));
+            if (left == 61'000) QCoreApplication::postEvent(form.windowHandle(), new QCloseEvent);
+        };
+        screen.clock.time += std::chrono::hours{1};
+        screen.random.script({0});
+        QMetaObject::invokeMethod(form.findChild<QTimer*>("timerLightning"), "timeout");
+        QVERIFY(!before.isNull() && !form.isVisible() && form.cursor().shape() == Qt::ArrowCursor);
+        QCOMPARE(screen.bar("scrollGameSpeed")->value(), 99);
+    }
+
     void boxesAreWideEnoughForTheirTitles() {
         const char* const title = "Change the Highlighted Player's Name";
         QtMessageBoxes boxes;

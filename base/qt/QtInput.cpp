@@ -1,4 +1,4 @@
-#include "screen/qt/QtInput.h"
+#include "base/qt/QtInput.h"
 
 namespace skylob {
 
