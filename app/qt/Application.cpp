@@ -65,8 +65,8 @@ void Application::after(Event event) {
 
 Application::Application(int& argc, char** argv, const CommandLine& commandLine)
     : QApplication{argc, argv},
-      m_random{commandLine.seed},
       m_shapes{programDrawings()},
+      m_random{commandLine.seed},
       m_texts{programTexts()},
       m_playerFile{m_files, m_shared.PlayerFileName} {
     GlintButtonAccessible::install();
