@@ -81,16 +81,16 @@ class Application : public QApplication {
 
     QtModalGuard m_modalGuard;
     QtEnterGuard m_enterGuard;
+    const QtShapes m_shapes;
+    QtMessageBoxes m_boxes{m_shapes};
     SingleCopy m_singleCopy;
     SeededRandom m_random;
     SystemClock m_clock;
     QtPacer m_pacer;
     SdlSoundPlayer m_sounds;
-    QtMessageBoxes m_boxes;
     QtSettingsStore m_settings;
     QtWindowStore m_windowsFile;
     PlainStart m_windows;
-    const QtShapes m_shapes;
     QtLinkOpener m_links;
     DiskFiles m_files;
     const StringTable m_texts;

@@ -186,13 +186,14 @@ change bullseye bullseye_dry \
     reverb 45 40 80 100 0 -4 fade h 0 3.30 0.30
 finish bullseye bullseye 6993 8 330 -0.7
 
-# nearmiss: the whistle comes closer, then the blast.
-layer whistle synth 0.55 sine 2100/800 gain -6 tremolo 21 25 \
-    fade p 0.45 0.55 0.02
-noise hiss 0.55 14 whitenoise bandpass 1500 800h gain -n -8 \
-    fade p 0.45 0.55 0.02
-mix nearmiss_dry whistle@0*0.5 hiss@0*0.3 \
-    crack@0.52*0.45 body@0.52*0.5 rumble@0.52*0.3 drop@0.52*0.4
+# nearmiss: the blast at once, as the shell is seen to hit; then a splinter
+# whines away.
+layer whine synth 0.96 sine 2300/750 gain -6 tremolo 21 25 \
+    fade p 0.06 0.96 0.70
+noise hiss 0.96 14 whitenoise bandpass 1500 800h gain -n -8 \
+    fade p 0.06 0.96 0.70
+mix nearmiss_dry crack@0*0.45 body@0*0.5 rumble@0*0.3 drop@0*0.4 \
+    whine@0.16*0.26 hiss@0.16*0.14
 change nearmiss nearmiss_dry overdrive 8 gain -3 \
     reverb 25 50 50 100 0 -6 fade h 0 1.10 0.20
 finish nearmiss nearmiss 11025 8 110 -0.7

@@ -3,7 +3,6 @@
 #include <QDialog>
 #include <QGroupBox>
 #include <QLabel>
-#include <QMessageBox>
 #include <QScrollBar>
 #include <QShortcut>
 #include <QTest>
@@ -286,7 +285,8 @@ class frmPlayGameTest : public QObject {
 
     void boxesAreWideEnoughForTheirTitles() {
         const char* const title = "Change the Highlighted Player's Name";
-        QtMessageBoxes boxes;
+        const QtShapes drawings{programDrawings()};
+        QtMessageBoxes boxes{drawings};
         int room = 0;
         bool isTextCut = false;
         const auto measure = [&] {
@@ -310,7 +310,8 @@ class frmPlayGameTest : public QObject {
     }
 
     void boxesShowPlainTextAboveTheModalWindowAndTakeClosingForNo() {
-        QtMessageBoxes boxes;
+        const QtShapes drawings{programDrawings()};
+        QtMessageBoxes boxes{drawings};
         QDialog modal;
         QWidget behind;
         modal.setModal(true);
@@ -318,9 +319,10 @@ class frmPlayGameTest : public QObject {
         behind.show();
         QVERIFY(QTest::qWaitForWindowActive(&behind));
         QTimer::singleShot(0, this, [&modal] {
-            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            QVERIFY(box && box->textFormat() == Qt::PlainText);
-            QCOMPARE(box->text(), QStringLiteral("<b>?</b>\n\nReally"));
+            QWidget* const box = QApplication::activeModalWidget();
+            const auto* const label = box->findChild<QLabel*>("labelText");
+            QVERIFY(label && label->textFormat() == Qt::PlainText);
+            QCOMPARE(label->text(), QStringLiteral("<b>?</b>\n\nReally"));
             QCOMPARE(box->windowHandle()->transientParent(), modal.windowHandle());
             QTest::keyClick(box, Qt::Key_Escape);
         });

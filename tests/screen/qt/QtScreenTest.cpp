@@ -5,6 +5,7 @@
 
 #include <QAccessible>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QScreen>
 #include <QTest>
 #include <QTimer>
@@ -14,6 +15,7 @@
 #include "controls/qt/GlintButton.h"
 #include "look/qt/QtShapes.h"
 #include "screen/qt/QtEnterGuard.h"
+#include "screen/qt/QtMessageBoxes.h"
 #include "screen/qt/QtWindowPlaces.h"
 
 namespace skylob::test {
@@ -170,6 +172,42 @@ class QtScreenTest : public QObject {
         Screen screen{design, ports};
         bringToPlace(screen, windows, &before, PlaceMemory::OnAnyDisplay);
         QCOMPARE(screen.size(), design.size);
+    }
+
+    void answersBoxesFromTheKeyboard() {
+        QtMessageBoxes boxes{shapes};
+        const auto answer = [&](auto show, std::vector<std::pair<Qt::Key, bool>> keys) {
+            QTimer::singleShot(0, this, [keys] {
+                QWidget* const box = QApplication::activeModalWidget();
+                QVERIFY(QTest::qWaitForWindowActive(box));
+                auto* const accessible = QAccessible::queryAccessibleInterface(box);
+                QCOMPARE(accessible->role(), QAccessible::Dialog);
+                QCOMPARE(accessible->text(QAccessible::Name), QStringLiteral("Title [*]"));
+                for (const auto& [key, alt] : keys)
+                    QTest::keyClick(box->focusWidget(), key,
+                                    alt ? Qt::AltModifier : Qt::NoModifier);
+            });
+            return show();
+        };
+        const auto question = [&](BoxAnswer preset, std::vector<std::pair<Qt::Key, bool>> keys) {
+            const MessageBox box{"Title [*]", "?", BoxIcon::Question, BoxButtons::YesNo, preset};
+            return answer([&] { return boxes.show(box); }, keys);
+        };
+        QVERIFY(question(BoxAnswer::Yes, {{Qt::Key_Return, false}}) == BoxAnswer::Yes);
+        QVERIFY(question(BoxAnswer::No, {{Qt::Key_Enter, false}}) == BoxAnswer::No);
+        QVERIFY(question(BoxAnswer::No, {{Qt::Key_Space, false}}) == BoxAnswer::No);
+        QVERIFY(question(BoxAnswer::No, {{Qt::Key_Y, true}}) == BoxAnswer::Yes);
+        QVERIFY(question(BoxAnswer::Yes, {{Qt::Key_N, true}}) == BoxAnswer::No);
+        QVERIFY(question(BoxAnswer::Yes, {{Qt::Key_Escape, false}}) == BoxAnswer::No);
+        QVERIFY(question(BoxAnswer::Yes, {{Qt::Key_Tab, false}, {Qt::Key_Return, false}}) ==
+                BoxAnswer::No);
+
+        const auto entry = [&](std::vector<std::pair<Qt::Key, bool>> keys) {
+            return answer([&] { return boxes.ask({"Title [*]", "to...", "A\xCC\x8Asa"}); }, keys);
+        };
+        QCOMPARE(entry({{Qt::Key_Return, false}}).value_or("none"), std::string{"\xC3\x85sa"});
+        QCOMPARE(entry({{Qt::Key_B, false}, {Qt::Key_O, true}}).value_or("none"), std::string{"b"});
+        QVERIFY(!entry({{Qt::Key_C, true}}) && !entry({{Qt::Key_Escape, false}}));
     }
 
   private:
