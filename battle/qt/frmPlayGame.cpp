@@ -65,7 +65,6 @@ void frmPlayGame::makeReport() {
     labelReport->setTextFormat(Qt::PlainText);
     const QRect& field = m_layout.field;
     labelReport->setGeometry(field.x(), field.bottom() + 2, field.width(), kReportHeight);
-    labelReport->setAutoFillBackground(true);
     labelReport->hide();
 }
 
