@@ -37,6 +37,8 @@ CommandLine parseCommandLine(std::span<const std::string_view> arguments) {
         }
         if (argument == "--user-data") {
             result.userData = true;
+        } else if (argument == "--plain") {
+            result.plain = true;
         } else if (argument == "--seed") {
             result.seed = last ? std::nullopt : parseSeed(arguments[++i]);
             if (!result.seed) return refused("--seed needs a whole number from 0 up");
@@ -59,6 +61,7 @@ std::string_view commandLineHelp() {
            "  --data-dir DIR  keep the player list in the folder DIR, made if it is missing\n"
            "  --user-data     keep it in your own data folder\n"
            "                  (otherwise: in the folder that the program is started in)\n"
+           "  --plain         no light over the battlefield (\"Effects\" in the battle)\n"
            "  --seed N        repeatable chance: the same seed makes the same battlefields\n"
            "  --help          print this text\n"
            "  --version       print the version\n";

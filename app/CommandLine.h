@@ -16,6 +16,7 @@ struct CommandLine {
     std::string error;                   ///< Refused: one line that says why
     std::optional<std::uint64_t> seed;   ///< --seed: makes the run repeatable
     std::optional<std::string> dataDir;  ///< --data-dir: the working directory
+    bool plain = false;                  ///< --plain: no light over the battlefield at first
     bool userData = false;               ///< --user-data: the user's data folder instead
 };
 

@@ -5,6 +5,9 @@
 
 namespace skylob {
 
+/// "1" when there is light over the battlefield, which is what is done without it; "0" when not.
+inline constexpr std::string_view kEffectsKey = "Effects";
+
 /// What is remembered of windows and not of the game: places and sizes, the effects over the field,
 /// the volume, hints that have been seen. Texts by key, in a file of their own: losing it costs
 /// nothing.

@@ -13,6 +13,7 @@
 #include "battle/PixelBlend.h"
 #include "battle/RidgeLight.h"
 #include "battle/ShellLight.h"
+#include "battle/SkyLight.h"
 #include "battle/StarLight.h"
 #include "battle/TrailLight.h"
 
@@ -49,6 +50,7 @@ FieldLayer::FieldLayer(const FieldPicture& picture, const FieldScene& scene,
                        const BattleState& state, GunDrawings* guns)
     : m_picture{picture}, m_scene{scene}, m_state{state} {
     // The lowest first.
+    add<SkyLight>();
     add<RidgeLight>();
     add<MoonLight>();
     add<StarLight>();

@@ -4,33 +4,38 @@
 #include <cmath>
 
 #include "battle/Glow.h"
+#include "battle/SkyLight.h"
 
 namespace skylob {
 
 namespace {
 
-constexpr int kReach = 4;                          // logical pixels
-constexpr double kFaintest = 0.12, kFiner = 0.02;  // strengths
-constexpr double kContrast = 3.1;
+constexpr int kReach = 4;  // logical pixels
+constexpr double kContrast = 3.2;
+constexpr double kFiner = 0.02;  // between two strengths that are tried
 
 double linear(double part) {
     const double share = part / 255;
     return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
 }
 
-/// Relative luminance of the colour at a part of its strength, on black.
-double luminance(Colour colour, double strength) {
-    return 0.2126 * linear(colour.red() * strength) + 0.7152 * linear(colour.green() * strength) +
-           0.0722 * linear(colour.blue() * strength);
+/// Relative luminance of the light of that strength upon the sky; of the sky alone at 0.
+double luminance(Colour light, double strength) {
+    const auto part = [strength](int over, int under) {
+        return linear(over * strength + under * (1 - strength));
+    };
+    const Colour sky = SkyLight::kHorizon;
+    return 0.2126 * part(light.red(), sky.red()) + 0.7152 * part(light.green(), sky.green()) +
+           0.0722 * part(light.blue(), sky.blue());
 }
 
 double contrast(double a, double b) {
     return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
 }
 
-/// The faintest light that is told from the ground.
+/// The faintest light that is told from the ground; none where the sky itself is.
 double strengthOver(Colour ground) {
-    double strength = kFaintest;
+    double strength = 0;
     while (strength < 1 &&
            contrast(luminance(kMoonLight, strength), luminance(ground, 1)) < kContrast)
         strength += kFiner;

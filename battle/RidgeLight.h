@@ -4,8 +4,8 @@
 
 namespace skylob {
 
-/// Moonlight along the ground's edge, in the sky: it parts the dark grounds from the sky. On
-/// bright grounds it is faint, as it would make them harder to see.
+/// Moonlight along the ground's edge, in the sky: it parts the dark grounds from the sky.
+/// Bright grounds have none, as it would make them harder to see.
 class RidgeLight : public LightPainter {
   public:
     void follow(const FieldSight& sight, ChangedAreas& changed) override;

@@ -11,9 +11,9 @@ class ShellLight : public LightPainter {
     void paint(LightCanvas& canvas) const override { m_comet.paint(canvas); }
 
   private:
-    Comet m_comet{{.coreRadius = 2.2,
-                   .glowRadius = 7,
-                   .glowStrength = 0.8,
+    Comet m_comet{{.coreRadius = 2.6,
+                   .glowRadius = 8,
+                   .glowStrength = 0.9,
                    .tailLength = 36,
                    .tailRadius = 2.6,
                    .tailStrength = 0.3,

@@ -66,6 +66,7 @@ void Application::after(Event event) {
 Application::Application(int& argc, char** argv, const CommandLine& commandLine)
     : QApplication{argc, argv},
       m_random{commandLine.seed},
+      m_windows{m_windowsFile, commandLine},
       m_shapes{programDrawings()},
       m_texts{programTexts()},
       m_playerFile{m_files, m_shared.PlayerFileName} {

@@ -4,6 +4,7 @@
 #include <QPointer>
 
 #include "app/CommandLine.h"
+#include "app/PlainStart.h"
 #include "app/SingleCopy.h"
 #include "base/RandomInt.h"
 #include "base/SeededRandom.h"
@@ -83,7 +84,8 @@ class Application : public QApplication {
     SdlSoundPlayer m_sounds;
     QtMessageBoxes m_boxes;
     QtSettingsStore m_settings;
-    QtWindowStore m_windows;
+    QtWindowStore m_windowsFile;
+    PlainStart m_windows;
     const QtShapes m_shapes;
     QtLinkOpener m_links;
     DiskFiles m_files;

@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/WindowStore.h"
 #include "battle/qt/QtEffectTimers.h"
 #include "battle/qt/QtSidePanel.h"
 #include "battle/qt/frmPlayGameLayout.h"
@@ -113,6 +114,11 @@ void frmPlayGame::makeOptions() {
     chkMeteors = makeBox("chkMeteors", tr("&Meteors"), m_layout.chkMeteors, strip);
     chkLightning = makeBox("chkLightning", tr("&Lightning"), m_layout.chkLightning, strip);
     chkWind = makeBox("chkWind", {}, m_layout.chkWind, strip);
+    chkEffects = makeBox("chkEffects", tr("E&ffects"), m_layout.chkEffects, strip);
+    // Quirk "blank at the ends": one on either side.
+    chkEffects->setToolTip(tr(" Light over the battlefield "));
+    chkEffects->setChecked(m_windows.recall(kEffectsKey, "1") != "0");
+    m_layer.setOn(chkEffects->isChecked());
 }
 
 QCheckBox* frmPlayGame::makeBox(const char* name, const QString& caption, const QRect& place,
@@ -143,6 +149,7 @@ void frmPlayGame::connectControls() {
     onClick(chkMeteors, &BattleOptions::chkMeteors_Click);
     onClick(chkLightning, &BattleOptions::chkLightning_Click);
     onClick(chkWind, &BattleOptions::chkWind_Click);
+    connect(chkEffects, &QCheckBox::clicked, this, &frmPlayGame::chkEffects_Click);
     connect(cmdShoot, &GlintButton::Click, this, [this] { m_battle.cmdShoot_Click(); });
     connect(cmdQuit, &GlintButton::Click, this, [this] { m_battle.cmdQuit_Click(); });
     connect(m_field, &picGameField::pieceClicked, this, [this] { m_battle.FieldPiece_Click(); });
@@ -176,7 +183,8 @@ void frmPlayGame::setTabOrder() {
                                 chkTrajectory,
                                 chkMeteors,
                                 chkLightning,
-                                chkWind};
+                                chkWind,
+                                chkEffects};
     for (qsizetype i = 1; i < order.size(); ++i) QWidget::setTabOrder(order[i - 1], order[i]);
 }
 
@@ -214,6 +222,13 @@ void frmPlayGame::showField() {
     m_field->showChanges();
 }
 
+/// No rule knows of this box, and clicking it is no activity.
+void frmPlayGame::chkEffects_Click(bool ticked) {
+    m_windows.keep(kEffectsKey, ticked ? "1" : "0");
+    m_layer.setOn(ticked);
+    m_field->showChanges();
+}
+
 void frmPlayGame::showPanel(const BattlePanel& panel) {
     for (const int side : kSides) {
         m_side[side]->showPanel(panel.side[side], panel.turn == side);
@@ -241,7 +256,7 @@ void frmPlayGame::showCommands(const BattlePanel& panel) {
     for (GlintButton* button : {cmdShoot, cmdQuit}) enable(*button, panel.commandsEnabled);
     for (QWidget* command :
          std::initializer_list<QWidget*>{labelGameSpeed, scrollGameSpeed, chkSound, chkTrajectory,
-                                         chkMeteors, chkLightning, chkWind})
+                                         chkMeteors, chkLightning, chkWind, chkEffects})
         command->setEnabled(panel.commandsEnabled);
     if (!wereEnabled && panel.commandsEnabled) moveFocusToTurn(panel.turn);
 }

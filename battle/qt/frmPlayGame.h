@@ -69,6 +69,7 @@ class frmPlayGame : public QtScreen, private BattleView {
     QString caption(int side) const;
     void showCommands(const BattlePanel& panel);
     void moveFocusToTurn(int turn);
+    void chkEffects_Click(bool ticked);
     void fitField();
 
     const frmPlayGameLayout& m_layout;
@@ -82,7 +83,7 @@ class frmPlayGame : public QtScreen, private BattleView {
     QLabel *labelRoundNumber, *labelGameSpeed;
     QScrollBar* scrollGameSpeed;
     GlintButton *cmdShoot, *cmdQuit;
-    QCheckBox *chkSound, *chkTrajectory, *chkMeteors, *chkLightning, *chkWind;
+    QCheckBox *chkSound, *chkTrajectory, *chkMeteors, *chkLightning, *chkWind, *chkEffects;
     int m_displayWidth = 0;  ///< that the field was drawn for
     bool m_focusStaysOnShoot = false;
 };
