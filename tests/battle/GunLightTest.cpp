@@ -83,6 +83,18 @@ TEST(GunLight, PointsTheBarrelAsTheShellLeaves) {
     }
 }
 
+TEST(GunLight, ChangesWithTheAimAndNowhereElse) {
+    LitRig rig;
+    const PixelRect piece = rig.picture().pieceArea(1);
+    EXPECT_TRUE(rig.layer.update({}).empty());
+    rig.aim(1, {300, 40});
+    const std::vector<PixelRect> areas = rig.layer.update({});
+    ASSERT_EQ(areas.size(), 1u);
+    const PixelRect changed = areas[0];
+    EXPECT_EQ(common(changed, piece), piece);
+    EXPECT_LT(changed.width * changed.height, 6 * piece.width * piece.height);
+}
+
 TEST(BlastLight, FallsOnBlackAndPiecesAloneAndIsGoneWithTheBlast) {
     std::vector<std::ptrdiff_t> brightest;
     for (const Aim& aim : {kHit, kOnOneself, kNear, kFarOff}) {
