@@ -82,19 +82,23 @@ void addSmoke(LightBurst& burst, const BlastMoment& moment, double radius) {
     }
 }
 
+/// A hit is shown a little above the ground: about that far.
+constexpr double kAboveGround = 6;
+
 void addFire(LightBurst& burst, const BlastMoment& moment, double radius) {
     constexpr unsigned kPuffs = 20;
     for (unsigned i = 0; i < kPuffs; ++i) {
         // The outer ones first: they are cooler, and the hot middle lies over them.
         const double away = 1 - (i + 0.5) / kPuffs;
         const double direction = 2 * pi * scattered(100 + i);
+        const double gone = rise(moment.age, 0.45 + 0.3 * (1 - away), 1);
+        const double size = radius * (0.5 - 0.2 * away) * (1 - 0.5 * gone);
         const double right = std::sin(direction) * away * radius;
         const double up = std::cos(direction) * away * radius + 16 * moment.age * moment.age;
         const double heat = 1.15 - 0.55 * away - 0.75 * moment.age * (0.7 + 0.6 * away);
-        const double gone = rise(moment.age, 0.45 + 0.3 * (1 - away), 1);
-        burst.disc(placeOf(moment, right, up),
-                   radius * (0.5 - 0.2 * away) * moment.unit * (1 - 0.5 * gone), heatColour(heat),
-                   0.92 * (1 - gone));
+        // It stands on the ground: what is dug in there is not to be lit.
+        burst.disc(placeOf(moment, right, std::max(up, size - kAboveGround)), size * moment.unit,
+                   heatColour(heat), 0.92 * (1 - gone));
     }
 }
 
@@ -107,7 +111,8 @@ LightBurst fireball(const BlastMoment& moment) {
     burst.glow(moment.at, 85 * moment.unit, kFire, 0.5 * left);
     addSmoke(burst, moment, radius);
     addFire(burst, moment, radius);
-    burst.glow(moment.at, (18 + 26 * moment.age) * moment.unit, kFlash, 0.9 * left * left);
+    burst.glow(placeOf(moment, 0, 9), (18 + 26 * moment.age) * moment.unit, kFlash,
+               0.9 * left * left);
     addSpray(burst, moment, {34, 300, 0, 1.75, 45, 150, 26, 1.9}, kFlash, kEmber);
     return burst;
 }
