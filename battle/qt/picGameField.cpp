@@ -14,6 +14,8 @@ namespace skylob {
 
 namespace {
 
+constexpr int kRoomRound = 12;  // what is to be seen; a hit's blast is nearly as wide
+
 FieldPicture::PieceImage pieceImage(const QImage& drawing) {
     FieldPicture::PieceImage image{drawing.width(), drawing.height(), {}};
     for (int y = 0; y < drawing.height(); ++y) {
@@ -43,6 +45,20 @@ bool picGameField::fitPicture() {
                                                                  QtShapes::Edges::Smooth)));
     }
     return true;
+}
+
+QRect picGameField::placeOfPiece(int side) const {
+    return onDesktop(m_picture.pieceArea(side));
+}
+
+QRect picGameField::placeOf(FieldPoint point) const {
+    return onDesktop(m_picture.dotArea(point.x, point.y));
+}
+
+QRect picGameField::onDesktop(const PixelRect& area) const {
+    const QRect place = logical(area).toAlignedRect().marginsAdded(
+        {kRoomRound, kRoomRound, kRoomRound, kRoomRound});
+    return place.translated(mapToGlobal(QPoint{0, 0}));
 }
 
 void picGameField::showChanges() {

@@ -4,6 +4,7 @@
 #include <QWidget>
 
 #include "battle/FieldPicture.h"
+#include "battle/FieldPoint.h"
 
 namespace skylob {
 
@@ -27,6 +28,11 @@ class picGameField : public QWidget {
     /// Brings what has changed in the picture and its light to the display before it returns.
     void showChanges();
 
+    /// Where on the desktop a side's piece is, and a point of the field, each with some room round
+    /// it.
+    QRect placeOfPiece(int side) const;
+    QRect placeOf(FieldPoint point) const;
+
   signals:
     /// A side's piece was clicked.
     void pieceClicked(int side);
@@ -40,6 +46,7 @@ class picGameField : public QWidget {
   private:
     QImage shown() const;
     QRectF logical(const PixelRect& area) const;
+    QRect onDesktop(const PixelRect& area) const;
     int pieceAt(QPointF position) const;
 
     FieldPicture& m_picture;

@@ -46,7 +46,7 @@ class ApplicationTest : public QObject {
         QCOMPARE(battle->pos(), QPoint(2800 - 1012, 900 - 732));
         battle->move(100, 50);
         onceModal([battle](QWidget* summary) {
-            checkAbove(summary, battle, {304, 180});
+            checkAbove(summary, battle, {304, 192});
             press(summary, "cmdOkay");
         });
         shootStraightUp(battle);
@@ -59,9 +59,9 @@ class ApplicationTest : public QObject {
         });
         press(battle, "cmdQuit");
         QWidget* const listAgain = shown("frmGetPlayers");
-        QCOMPARE(listAgain->pos(), QPoint(212, 150));
+        QCOMPARE(listAgain->pos(), QPoint(212, 162));
         press(listAgain, "cmdHelp");
-        QCOMPARE(shown("frmManual")->pos(), QPoint(244, 132));
+        QCOMPARE(shown("frmManual")->pos(), QPoint(244, 144));
     }
 
   private:
