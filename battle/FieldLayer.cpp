@@ -5,6 +5,7 @@
 
 #include "battle/ArrowLight.h"
 #include "battle/BoltLight.h"
+#include "battle/GhostMark.h"
 #include "battle/MeteorLight.h"
 #include "battle/MoonLight.h"
 #include "battle/PixelBlend.h"
@@ -50,6 +51,7 @@ FieldLayer::FieldLayer(const FieldPicture& picture, const FieldScene& scene,
     add<MoonLight>();
     add<StarLight>();
     add<PieceImages>();
+    add<GhostMark>();
     add<TrailLight>();
     add<ShellLight>();
     // Here is the blasts' place.

@@ -254,6 +254,7 @@ void frmPlayGame::showPanel(const BattlePanel& panel) {
     chkWind->setText(QString::fromStdString(panel.chkWindCaption));
     showCommands(panel);
     m_timers->follow();
+    m_field->showChanges();  // it may be the other side's turn
     // While the thread is blocked nothing else would bring the changes to the display.
     if (m_gate->isClosed()) QCoreApplication::sendPostedEvents(this, QEvent::UpdateRequest);
 }
