@@ -6,6 +6,7 @@
 #include "battle/ArrowLight.h"
 #include "battle/BlastLight.h"
 #include "battle/BoltLight.h"
+#include "battle/GhostMark.h"
 #include "battle/GunLight.h"
 #include "battle/MeteorLight.h"
 #include "battle/MoonLight.h"
@@ -58,6 +59,7 @@ FieldLayer::FieldLayer(const FieldPicture& picture, const FieldScene& scene,
         m_painters.push_back(std::make_unique<GunLight>(*guns));
     else
         add<PieceImages>();
+    add<GhostMark>();
     add<TrailLight>();
     add<MuzzleFlash>();
     add<ShellLight>();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/PerSide.h"
 #include "battle/ChangedAreas.h"
 #include "battle/LightCanvas.h"
 
@@ -8,6 +9,11 @@ namespace skylob {
 /// The colours of what glows.
 inline constexpr Colour kFireLight = Colour::fromRgb(0xFFE98A);
 inline constexpr Colour kMoonLight = Colour::fromRgb(0xBFE9F2);
+
+/// A side's own colour.
+constexpr Colour sideLight(int side) {
+    return Colour::fromRgb(side == kLeftSide ? 0xFF917C : 0xE39BFF);
+}
 
 /// One soft light, as LightCanvas::glow() paints it.
 struct Glow {

@@ -12,10 +12,6 @@ constexpr struct {
 constexpr std::size_t kOldest = 50;  // from then on it does not change
 constexpr double kOldStrength = 0.35;
 
-constexpr Colour lightOf(int side) {
-    return Colour::fromRgb(side == kLeftSide ? 0xFF917C : 0xE39BFF);
-}
-
 /// In a few steps only, so that few points change at a time.
 double strengthAt(std::size_t age) {
     for (const auto& stage : kFading)
@@ -41,7 +37,7 @@ void TrailLight::follow(const FieldSight& sight, ChangedAreas& changed) {
     for (; m_followed < flight.path.size(); ++m_followed) {
         if (!flight.leavesTrail) continue;
         const LightPoint at = sight.middleOf(flight.path[m_followed]);
-        m_beads.push_back({{at, sight.scaled(kRadius), lightOf(flight.side), 0}, {}});
+        m_beads.push_back({{at, sight.scaled(kRadius), sideLight(flight.side), 0}, {}});
     }
     if (m_beads.size() > before) age(before > kOldest ? before - kOldest - 1 : 0, changed);
 }

@@ -131,6 +131,11 @@ void Application::showOver(QtScreen& screen) {
     screen.showModal(m_screen);
 }
 
+void Application::showBeside(QtScreen& summary) {
+    placeClearOf(summary, *m_battle, m_battle->toBeSeen());
+    summary.showModal(m_battle);
+}
+
 void Application::showTitlePage() {
     auto* page = new frmTitlePage{m_screenPorts, m_clock, m_sounds, m_links, m_boxes};
     on(page, &frmTitlePage::newUserCame, Event::NewUserCame);
@@ -197,7 +202,7 @@ void Application::showSummary(SummaryKind kind) {
         m_battle->battle().state().SoundOn ? static_cast<SoundPlayer&>(m_sounds) : silence;
     frmSummary summary{
         m_screenPorts, kind, {m_clock, m_random, sounds, m_boxes, m_texts, m_playerFile}};
-    showOver(summary);
+    showBeside(summary);
 }
 
 void Application::endProgram() {

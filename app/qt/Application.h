@@ -69,6 +69,10 @@ class Application : public QApplication {
     /// Shows the modal screen over the one that is shown, and returns when it has gone.
     void showOver(QtScreen& screen);
 
+    /// Shows a summary of the battle beside what is to be seen of that, and returns when it has
+    /// gone.
+    void showBeside(QtScreen& summary);
+
     void showTitlePage();
     void showNewUser();
     void showPlayerList();

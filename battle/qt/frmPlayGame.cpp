@@ -263,6 +263,15 @@ void frmPlayGame::showEvent(QShowEvent* event) {
             Qt::UniqueConnection);
 }
 
+QList<QRect> frmPlayGame::toBeSeen() const {
+    QList<QRect> places;
+    for (const int side : kSides) places.append(m_field->placeOfPiece(side));
+    if (const auto& report = m_battle.state().report)
+        if (const auto& at = m_battle.scene().lastLanding[report->side])
+            places.append(m_field->placeOf(*at));
+    return places;
+}
+
 void frmPlayGame::askedToClose() {
     m_battle.cmdQuit_Click();
 }

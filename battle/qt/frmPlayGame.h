@@ -39,6 +39,9 @@ class frmPlayGame : public QtScreen, private BattleView {
 
     const Battle& battle() const { return m_battle; }
 
+    /// Where on the desktop the pieces and the last landing of the round are.
+    QList<QRect> toBeSeen() const;
+
   signals:
     /// The receiver is to show the summary, and to return when that is over.
     void roundDecided();

@@ -17,6 +17,12 @@
 
 namespace skylob {
 
+namespace {
+
+constexpr int kRoomRound = 12;  // what is to be seen; a hit's blast is nearly as wide
+
+}  // namespace
+
 picGameField::picGameField(FieldPicture& picture, FieldLayer& layer, const QtShapes& shapes,
                            QWidget* parent)
     : QWidget{parent}, m_picture{picture}, m_layer{layer}, m_shapes{shapes} {
@@ -44,6 +50,20 @@ bool picGameField::fitPicture(const QSize& smallest) {
                                                                  QtShapes::Edges::Smooth)));
     }
     return true;
+}
+
+QRect picGameField::placeOfPiece(int side) const {
+    return onDesktop(m_picture.pieceArea(side));
+}
+
+QRect picGameField::placeOf(FieldPoint point) const {
+    return onDesktop(m_picture.dotArea(point.x, point.y));
+}
+
+QRect picGameField::onDesktop(const PixelRect& area) const {
+    const QRect place = logical(area).toAlignedRect().marginsAdded(
+        {kRoomRound, kRoomRound, kRoomRound, kRoomRound});
+    return place.translated(mapToGlobal(QPoint{0, 0}));
 }
 
 void picGameField::showChanges() {

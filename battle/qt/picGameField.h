@@ -41,6 +41,11 @@ class picGameField : public QWidget {
     void showStorm();
     void endStorm();
 
+    /// Where on the desktop a side's piece is, and a point of the field, each with some room round
+    /// it.
+    QRect placeOfPiece(int side) const;
+    QRect placeOf(FieldPoint point) const;
+
   signals:
     /// A side's piece was clicked.
     void pieceClicked(int side);
@@ -58,6 +63,7 @@ class picGameField : public QWidget {
     void repaintStorm();
     void paintStorm(QPainter& painter) const;
     QRectF logical(const PixelRect& area) const;
+    QRect onDesktop(const PixelRect& area) const;
 
     FieldPicture& m_picture;
     FieldLayer& m_layer;

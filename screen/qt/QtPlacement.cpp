@@ -7,6 +7,8 @@
 #include <QWindow>
 #include <algorithm>
 
+#include "screen/ClearPlace.h"
+
 namespace skylob {
 
 namespace {
@@ -18,6 +20,20 @@ void centre(QWidget& window, const QPoint& middle, const QRect& display, const Q
     const QPoint last = display.bottomRight() - QPoint{size.width() - 1, size.height() - 1};
     window.move(std::max(std::min(corner.x(), last.x()), display.left()),
                 std::max(std::min(corner.y(), last.y()), display.top()));
+}
+
+Area areaOf(const QRect& rect) {
+    return {rect.x(), rect.y(), rect.width(), rect.height()};
+}
+
+/// The part of an area that is on the display; of one that is elsewhere, the display.
+QRect seenPart(const QRect& area, const QRect& display) {
+    const QRect seen = display & area;
+    return seen.isEmpty() ? display : seen;
+}
+
+QSize frameOf(const QWidget& window) {
+    return window.frameGeometry().size() - window.size();
 }
 
 }  // namespace
@@ -38,14 +54,24 @@ QRect roomOn(const QScreen& display, const QWidget* before) {
     return display.availableGeometry().marginsRemoved(frame);
 }
 
+void placeClearOf(QWidget& window, const QWidget& before, const QList<QRect>& toBeSeen) {
+    window.setScreen(before.screen());
+    const QRect display = before.screen()->availableGeometry();
+    std::vector<Area> areas;
+    for (const QRect& part : toBeSeen) areas.push_back(areaOf(part));
+    const QSize size = window.size() + frameOf(before);
+    const Area place = clearPlace(size.width(), size.height(), areaOf(display),
+                                  areaOf(seenPart(before.frameGeometry(), display)), areas);
+    window.move(place.x, place.y);
+}
+
 void centreOver(QWidget& window, const QWidget* before) {
     if (!before) return centreOnDisplay(window, before);
     window.setScreen(before->screen());
     const QRect display = before->screen()->availableGeometry();
     // Of a window that is larger than the display the middle is not the display's.
-    const QRect seen = display & QRect{before->pos(), before->size()};
-    centre(window, (seen.isEmpty() ? display : seen).center(), display,
-           before->frameGeometry().size() - before->size());
+    centre(window, seenPart({before->pos(), before->size()}, display).center(), display,
+           frameOf(*before));
 }
 
 void centreOnDisplay(QWidget& window, const QWidget* before) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QRect>
 
 class QScreen;
@@ -20,6 +21,10 @@ QRect roomOn(const QScreen& display, const QWidget* before);
 
 /// In the middle of the window before it, moved as far as need be to be wholly on the display.
 void centreOver(QWidget& window, const QWidget* before);
+
+/// Over the window before it, where it hides as little as can be of what is `toBeSeen` on the
+/// desktop: beside the middle, if need be beside the window.
+void placeClearOf(QWidget& window, const QWidget& before, const QList<QRect>& toBeSeen);
 
 /// In the middle of the display.
 void centreOnDisplay(QWidget& window, const QWidget* before);

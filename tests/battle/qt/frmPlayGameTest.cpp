@@ -124,6 +124,8 @@ class frmPlayGameTest : public QObject {
     void fitsAllTextsInAllSizesWithoutClashes() {
         for (const int size : {1, 2, 3}) {
             Screen screen{size, "WWWWWWWWWWWWWWWWWWWW"};
+            for (int shot = 1; shot <= 2; ++shot) QTest::mouseClick(screen.shoot(), Qt::LeftButton);
+            QVERIFY(screen.shows("was 300"));
             screen.random.script({0});
             screen.box("chkWind")->click();  // "Wind  <--39"
             QStringList keys;

@@ -1,0 +1,70 @@
+#include "screen/ClearPlace.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <utility>
+
+namespace skylob {
+
+namespace {
+
+/// One direction of an area.
+struct Span {
+    int start, length;
+
+    int end() const { return start + length; }
+    int centred(int other) const { return start + (length - other) / 2; }
+};
+
+Span across(const Area& area) {
+    return {area.x, area.width};
+}
+Span down(const Area& area) {
+    return {area.y, area.height};
+}
+
+int overlap(Span one, Span other) {
+    return std::max(std::min(one.end(), other.end()) - std::max(one.start, other.start), 0);
+}
+
+std::int64_t hidden(const Area& window, const std::vector<Area>& toBeSeen) {
+    std::int64_t pixels = 0;
+    for (const Area& part : toBeSeen)
+        pixels +=
+            std::int64_t{overlap(across(window), across(part))} * overlap(down(window), down(part));
+    return pixels;
+}
+
+/// In the middle, at the display's edges, and touching what is to be seen on either side: the best
+/// place is made of two of these.
+std::vector<int> starts(int length, Span display, Span over, const std::vector<Area>& toBeSeen,
+                        Span (*direction)(const Area&)) {
+    std::vector<int> found{over.centred(length), display.start, display.end() - length};
+    for (const Area& part : toBeSeen) {
+        found.push_back(direction(part).start - length);
+        found.push_back(direction(part).end());
+    }
+    const int last = std::max(display.start, display.end() - length);
+    for (int& start : found) start = std::clamp(start, display.start, last);
+    return found;
+}
+
+}  // namespace
+
+Area clearPlace(int width, int height, const Area& display, const Area& over,
+                const std::vector<Area>& toBeSeen) {
+    const auto drawback = [&](const Area& place) {
+        const std::int64_t dx = place.x - across(over).centred(width);
+        const std::int64_t dy = place.y - down(over).centred(height);
+        return std::pair{hidden(place, toBeSeen), dx * dx + dy * dy};
+    };
+    std::vector<Area> places;
+    for (const int x : starts(width, across(display), across(over), toBeSeen, across))
+        for (const int y : starts(height, down(display), down(over), toBeSeen, down))
+            places.push_back({x, y, width, height});
+    return *std::min_element(places.begin(), places.end(), [&](const Area& one, const Area& other) {
+        return drawback(one) < drawback(other);
+    });
+}
+
+}  // namespace skylob
