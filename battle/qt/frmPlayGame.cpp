@@ -246,8 +246,10 @@ void frmPlayGame::showPanel(const BattlePanel& panel) {
     showCommands(panel);
     m_timers->follow();
     fitField();
+    if (!m_gate->isClosed()) return;
+    bringIntoView(m_field);
     // While the thread is blocked nothing else would bring the changes to the display.
-    if (m_gate->isClosed()) QCoreApplication::sendPostedEvents(this, QEvent::UpdateRequest);
+    QCoreApplication::sendPostedEvents(this, QEvent::UpdateRequest);
 }
 
 void frmPlayGame::showCommands(const BattlePanel& panel) {
