@@ -307,8 +307,10 @@ void frmPlayGame::showPanel(const BattlePanel& panel) {
     m_timers->follow();
     fitField();
     m_field->showChanges();  // a barrel points another way, or it is the other side's turn
+    if (!m_gate->isClosed()) return;
+    bringIntoView(m_field);
     // While the thread is blocked nothing else would bring the changes to the display.
-    if (m_gate->isClosed()) QCoreApplication::sendPostedEvents(this, QEvent::UpdateRequest);
+    QCoreApplication::sendPostedEvents(this, QEvent::UpdateRequest);
 }
 
 void frmPlayGame::showReportRow(const BattlePanel& panel) {

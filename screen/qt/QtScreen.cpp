@@ -54,6 +54,10 @@ QWidget* QtScreen::board() const {
     return m_scroll->board();
 }
 
+void QtScreen::bringIntoView(QWidget* widget) {
+    m_scroll->ensureWidgetVisible(widget, 0, 0);
+}
+
 void QtScreen::fitInto(const QSize& room) {
     if (!mayGrow()) return;
     setMinimumSize(m_smallest.boundedTo(room));

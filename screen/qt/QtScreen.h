@@ -75,6 +75,9 @@ class QtScreen : public QWidget {
     /// and never smaller than its smallest size.
     QWidget* board() const;
 
+    /// Where the board scrolls: brings that widget into view, until the focus moves on.
+    void bringIntoView(QWidget* widget);
+
     /// The board has another size. Not called before the screen is shown.
     virtual void boardResized() {}
 

@@ -20,7 +20,12 @@ QtScrollBoard::QtScrollBoard(const QSize& smallest, QWidget* screen) : QScrollAr
 
 void QtScrollBoard::followFocus() {
     QWidget* const focus = QApplication::focusWidget();
-    if (focus && widget()->isAncestorOf(focus)) ensureWidgetVisible(focus);
+    if (!focus || !widget()->isAncestorOf(focus)) return;
+    // With the frame around it, if there is room for that: it says what the control is for.
+    QWidget* const frame = focus->parentWidget();
+    if (frame != widget() && frame->size().boundedTo(viewport()->size()) == frame->size())
+        ensureWidgetVisible(frame, 0, 0);
+    ensureWidgetVisible(focus);
 }
 
 bool QtScrollBoard::eventFilter(QObject* watched, QEvent* event) {

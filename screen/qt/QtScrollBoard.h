@@ -16,14 +16,14 @@ class QtScrollBoard : public QScrollArea {
     /// What the widgets are to be children of.
     QWidget* board() const { return widget(); }
 
+    /// Brings the widget that has the keyboard focus into view.
+    void followFocus();
+
   signals:
     void boardResized();
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
-
-  private:
-    void followFocus();
 };
 
 }  // namespace skylob

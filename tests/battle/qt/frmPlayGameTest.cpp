@@ -225,6 +225,10 @@ class frmPlayGameTest : public QObject {
             control->setFocus();
             QCOMPARE(control->visibleRegion().boundingRect(), control->rect());
         }
+        screen.pacer.duringFlight = [&] {
+            QCOMPARE(screen.field()->visibleRegion().boundingRect().height(), 400);
+        };
+        QTest::mouseClick(screen.shoot(), Qt::LeftButton);
     }
 
     void endsAMeteorOrAStormForWhatThePlayerDoes() {
