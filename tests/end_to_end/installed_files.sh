@@ -7,7 +7,8 @@ cmake --install "$2" --prefix "$work/usr" >"$work/installed" || fail "$(<"$work/
 cd "$work/usr"
 desktop-file-validate share/applications/skylob.desktop || fail "the desktop entry"
 appstreamcli validate --no-net --no-color share/metainfo/*.xml || fail "the metainfo"
-PATH=$work/usr/bin:$PATH $(sed -n 's/^Exec=//p' share/applications/skylob.desktop) --version
+installed=$(find "$PWD" -name skylob -type f -perm -u+x) # in bin, or where a package wants it
+PATH=${installed%/*}:$PATH $(sed -n 's/^Exec=//p' share/applications/skylob.desktop) --version
 
 for size in 16 24 32 48 64 128 256; do
     icon=share/icons/hicolor/${size}x$size/apps/skylob.png
@@ -16,10 +17,10 @@ done
 [[ -s share/icons/hicolor/scalable/apps/skylob.svg ]] || fail "no scalable icon"
 
 options() { grep -oE -- '--[a-z][a-z-]+' | sort -u; }
-bin/skylob --help | options >told
+"$installed" --help | options >told
 sed 's/\\-/-/g' share/man/man6/skylob.6 | options | diff told - || fail "the man page's options"
-bash -c 'source /usr/share/bash-completion/bash_completion
+installed=$installed bash -c 'source /usr/share/bash-completion/bash_completion
     source share/bash-completion/completions/skylob
-    COMP_WORDS=(bin/skylob --) COMP_CWORD=1 COMP_LINE="bin/skylob --" COMP_POINT=13
-    _skylob bin/skylob -- bin/skylob
+    COMP_WORDS=("$installed" --) COMP_CWORD=1 COMP_LINE="$installed --" COMP_POINT=$((${#installed} + 3))
+    _skylob "$installed" -- "$installed"
     printf "%s\n" "${COMPREPLY[@]}"' | options | diff told - || fail "the completion's options"
