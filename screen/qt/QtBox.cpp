@@ -14,7 +14,7 @@
 #include "controls/qt/QtPropertyBagFile.h"
 #include "look/qt/QtLook.h"
 #include "look/qt/QtShapes.h"
-#include "screen/qt/QtInput.h"
+#include "base/qt/QtInput.h"
 
 namespace skylob {
 
