@@ -158,10 +158,6 @@ TEST_F(BattleShots, ArePlottedAgainAsIfThePictureHadAlwaysHadItsSize) {
     battle.replotField();
     EXPECT_TRUE(pixels() == other.pixels());
     EXPECT_EQ(random.draws(), draws);
-    passTime();
-    begin(kStorm);
-    battle.replotField();
-    EXPECT_EQ(std::ranges::count(pixels(), 0xFFFF0000u), 0) << "a storm sweeps the sky";
 }
 
 TEST(LastRound, EndsTheSet) {

@@ -25,14 +25,4 @@ TEST(WindowPlace, IsOnTheDisplayThatShowsMostOfIt) {
     for (const auto& [area, display] : cases) EXPECT_EQ(displayShowing(area, displays), display);
 }
 
-TEST(WindowPlace, IsMovedAndShrunkNoMoreThanNeeded) {
-    const std::pair<DesktopArea, DesktopArea> cases[] = {
-        {{900, 40, 300, 200}, {900, 40, 300, 200}},
-        {{0, 0, 300, 200}, {800, 30, 300, 200}},
-        {{5000, 5000, 300, 200}, {1500, 530, 300, 200}},
-        {{-99, 100, 4000, 701}, {800, 30, 1000, 700}}};
-    for (const auto& [area, brought] : cases)
-        EXPECT_EQ(broughtInto(area, {800, 30, 1000, 700}), brought);
-}
-
 }  // namespace skylob::test
