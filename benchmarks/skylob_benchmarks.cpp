@@ -96,7 +96,7 @@ class Flight : private HeadlessView {
         m_window.show();
         while (!m_window.windowHandle()->isExposed())
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-        m_widget.fitPicture();
+        m_widget.fitPicture(layout.field.size());
         SeededRandom random{1};
         generateBattlefield(m_field, random, 1, kRounds);
         drawBattlefield(m_field, m_picture, kGroundLineWidth);
