@@ -101,7 +101,7 @@ class Flight : private HeadlessView {
         m_window.show();
         while (!m_window.windowHandle()->isExposed())
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-        m_widget.fitPicture();
+        m_widget.fitPicture(layout.field.size());
         SeededRandom random{1};
         generateBattlefield(m_state.field, random, 1, kRounds);
         drawBattlefield(m_state.field, m_picture, kGroundLineWidth);

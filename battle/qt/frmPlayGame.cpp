@@ -386,7 +386,9 @@ void frmPlayGame::showReport(const std::string& report) {
 }
 
 int frmPlayGame::displayWidth() const {
-    return qRound(screen()->size().width() * screen()->devicePixelRatio());
+    // The board is wider where it scrolls: with fine lines its ground would have gaps.
+    const int width = std::max(screen()->size().width(), board()->width());
+    return qRound(width * screen()->devicePixelRatio());
 }
 
 void frmPlayGame::queue(std::function<void()> task) {

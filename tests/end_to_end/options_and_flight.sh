@@ -21,8 +21,8 @@ expect_flight
 expect_flight
 await_turn
 # A ticked box is full of the accent colour.
-ticked() { look "$battle" && (($(pixels_of '#6FE0EC' "24x24+$1+668") > 100)); }
-trajectory=464 wind=828
+ticked() { look "$battle" && (($(pixels_of '#6FE0EC' "24x24+$1+692") > 100)); }
+trajectory=436 wind=756
 ticked $trajectory || fail "no trajectory"
 battle alt+t alt+w
 wait_for not ticked $trajectory || fail "the trajectory stays"

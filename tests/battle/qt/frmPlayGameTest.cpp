@@ -9,6 +9,7 @@
 #include <QTimer>
 #include <QWindow>
 
+#include "battle/qt/frmPlayGameLayout.h"
 #include "battle/qt/picGameField.h"
 #include "controls/qt/GlintButton.h"
 #include "screen/qt/QtMessageBoxes.h"
@@ -178,34 +179,27 @@ class frmPlayGameTest : public QObject {
     void takesANewSizeWhenTheShotIsOver() {
         Screen screen, untouched;
         const Battlefield& field = screen.form->battle().state().field;
-        FieldPicture& picture = const_cast<Battle&>(screen.form->battle()).picture();
-        // What is seen at a point of the field, wherever it is shown.
-        const auto seen = [&](int x, int y) {
-            const QImage image = screen.field()->grab().toImage();
-            return image.pixel((x - 1) * (image.width() - 1) / 999,
-                               (1000 - y) * (image.height() - 1) / 999);
-        };
+        const auto shown = [&] { return screen.field()->grab().toImage(); };
         const QRgb ground = field.groundColour.pixel();
         int flights = 0;
         screen.pacer.duringFlight = [&] {
             if (++flights != 3) return;
             screen.form->resize(1500, 900);
-            QCOMPARE(screen.field()->size(), QSize(1476, 684));
-            QCOMPARE(picture.width(), 984);
-            for (const int x : {3, 550, 998}) {
-                QCOMPARE(seen(x, field.heightAt(x) - 5), ground);
-                QVERIFY(seen(x, field.heightAt(x) + 5) != ground);
-            }
+            QCOMPARE(shown().size(), QSize(1476, 684));
+            QCOMPARE(shown().pixel(810, 197), ground);  // the mountain's top, at 550, 720
+            QVERIFY(shown().pixel(810, 185) != ground);
         };
         for (Screen* each : {&untouched, &screen}) QTest::mouseClick(each->shoot(), Qt::LeftButton);
-        QCOMPARE(picture.width(), 1476);
-        QCOMPARE(picture.height(), 684);
-        const int landedAt = screen.form->battle().shots().at(0).landedAt.x;
-        for (int x = 1; x <= kColumns; ++x) {  // under the pieces and above them
-            if (std::abs(x - landedAt) < 10) continue;
-            QCOMPARE(picture.pixel(x, field.heightAt(x) - 20), field.groundColour);
-            QVERIFY(picture.pixel(x, field.heightAt(x) + 40) != field.groundColour);
-        }
+        const auto seenAt = [plotted = shown()](int x, int y) {
+            return plotted.pixel(qRound((x - 1) * 1475 / 999.0),
+                                 683 - qRound((y - 1) * 683 / 999.0));
+        };
+        qsizetype stars = 0, columns = 0;
+        for (const auto& star : field.stars) stars += seenAt(star.x, star.y) == star.colour.pixel();
+        for (int x = 1; x <= kColumns; ++x)
+            columns += seenAt(x, field.heightAt(x) - 20) == ground &&
+                       seenAt(x, field.heightAt(x) + 40) != ground;
+        QVERIFY(stars > 860 && columns > 980);  // a trail and a mark hide the others
         QCOMPARE(screen.random.draws(), untouched.random.draws());
         QTest::mouseClick(screen.field(), Qt::LeftButton, {}, {1275, 664});  // the right piece
         QCOMPARE(screen.shots(), 2u);
@@ -218,17 +212,48 @@ class frmPlayGameTest : public QObject {
             QCOMPARE(screen.form->isFullScreen(), full);
         }
         screen.form->fitInto({640, 450});
-        QCOMPARE(screen.form->size(), QSize(640, 450));
-        for (QWidget* control :
-             std::initializer_list<QWidget*>{screen.bar("scrollSpeed(1)"), screen.box("chkWind"),
-                                             screen.bar("scrollAngle(1)"), screen.shoot()}) {
+        const auto inView = [](QWidget* widget) { return widget->visibleRegion().boundingRect(); };
+        for (QWidget* control : {static_cast<QWidget*>(screen.bar("scrollSpeed(1)")),
+                                 static_cast<QWidget*>(screen.box("chkWind"))}) {
             control->setFocus();
-            QCOMPARE(control->visibleRegion().boundingRect(), control->rect());
+            QCOMPARE(inView(control), control->rect());
         }
-        screen.pacer.duringFlight = [&] {
-            QCOMPARE(screen.field()->visibleRegion().boundingRect().height(), 400);
-        };
+        screen.pacer.duringFlight = [&] { QCOMPARE(inView(screen.field()).height(), 400); };
         QTest::mouseClick(screen.shoot(), Qt::LeftButton);
+    }
+
+    void laysOutAnySize() {
+        const struct {
+            int chosen;
+            QSize screen;
+            QList<QRect> places;  // field, side 2, shoot, effects
+        } layouts[] = {
+            {1,
+             {640, 480},
+             {{8, 8, 768, 400}, {8, 438, 424, 88}, {440, 438, 56, 88}, {644, 2, 100, 24}}},
+            {1,
+             {884, 570},
+             {{8, 8, 868, 400}, {8, 438, 424, 88}, {490, 438, 56, 88}, {744, 2, 100, 24}}},
+            {2,
+             {1008, 1040},
+             {{12, 12, 984, 824}, {652, 872, 344, 120}, {368, 904, 176, 88}, {876, 4, 96, 24}}},
+            {3,
+             {1920, 1080},
+             {{12, 12, 1896, 896}, {1468, 944, 440, 84}, {792, 972, 228, 56}, {1756, 4, 110, 24}}}};
+        for (const auto& [chosen, screen, places] : layouts) {
+            const frmPlayGameLayout at = stretched(layoutForScreenSize(chosen), screen);
+            QCOMPARE((QList<QRect>{at.field, at.frame[2], at.cmdShoot, at.chkEffects}), places);
+        }
+        const std::tuple<int, QSize, int> rooms[] = {
+            {3, {1264, 764}, 3},  {3, {1263, 764}, 2}, {3, {1008, 727}, 1}, {2, {5000, 3000}, 2},
+            {1, {5000, 3000}, 1}, {3, {640, 460}, 1},  {9, {1300, 800}, 2}};
+        for (const auto& [chosen, room, taken] : rooms)
+            QCOMPARE(layoutForRoom(chosen, room).screen, layoutForScreenSize(taken).screen);
+        const std::tuple<QSize, qreal, int> pens[] = {
+            {{984, 512}, 1.25, 1}, {{984, 512}, 1.5, 2}, {{1896, 830}, 1, 2}, {{1896, 830}, 2, 3},
+            {{1896, 600}, 1, 1},   {{2000, 512}, 1, 2},  {{984, 3000}, 1, 1}};
+        for (const auto& [field, ratio, width] : pens)
+            QCOMPARE(dotScaleOf({984, 512}, field, ratio), width);
     }
 
     void endsAMeteorOrAStormForWhatThePlayerDoes() {

@@ -126,52 +126,31 @@ class QtScreenTest : public QObject {
         QCOMPARE(others, 0);
     }
 
-    void comesBackToWhereItWasLeft_data() {
-        QTest::addColumn<QByteArray>("remembered");
-        QTest::addColumn<QRect>("place");
-        QTest::addColumn<Qt::WindowState>("state");
-        // This platform's frames are 2 pixels wide.
-        const QRect room =
-            QGuiApplication::primaryScreen()->availableGeometry().adjusted(2, 2, -2, -2);
-        QTest::newRow("its place")
-            << QByteArray{"50,60,300,150,normal"} << QRect{50, 60, 300, 150} << Qt::WindowNoState;
-        QTest::newRow("no more a display")
-            << QByteArray{"9000,-900,300,150,normal"} << QRect{room.right() - 299, 2, 300, 150}
-            << Qt::WindowNoState;
-        QTest::newRow("larger than the display")
-            << QByteArray{"9,9,9000,9000,normal"} << room << Qt::WindowNoState;
-        QTest::newRow("smaller than itself")
-            << QByteArray{"50,60,30,15,normal"} << QRect{50, 60, 200, 100} << Qt::WindowNoState;
-        QTest::newRow("maximised") << QByteArray{"50,60,300,150,maximised"}
-                                   << QRect{50, 60, 300, 150} << Qt::WindowMaximized;
-        QTest::newRow("full screen") << QByteArray{"50,60,300,150,fullscreen"}
-                                     << QRect{50, 60, 300, 150} << Qt::WindowFullScreen;
-    }
-
     void comesBackToWhereItWasLeft() {
-        QFETCH(QByteArray, remembered);
-        QFETCH(QRect, place);
-        QFETCH(Qt::WindowState, state);
-        windows.keep("name", remembered.toStdString());
-        const QtScreenDesign design{
-            .name = "name", .caption = "", .size = {200, 100}, .mayGrow = true};
+        const QRect room = QGuiApplication::primaryScreen()->availableGeometry().adjusted(
+            2, 2, -2, -2);  // this platform's frames
+        const std::tuple<const char*, QRect, Qt::WindowStates> cases[] = {
+            {"50,60,300,150,normal", {50, 60, 300, 150}, {}},
+            {"9000,-900,300,150,normal", {room.right() - 299, 2, 300, 150}, {}},
+            {"9,9,9000,9000,normal", room, {}},
+            {"50,60,30,15,normal", {50, 60, 200, 100}, {}},
+            {"50,60,300,150,maximised", {50, 60, 300, 150}, Qt::WindowMaximized},
+            {"50,60,300,150,fullscreen", {50, 60, 300, 150}, Qt::WindowFullScreen}};
         QWidget before;
         before.show();
-        for (int time = 0; time < 2; ++time) {  // as given, and as it has noted that itself
-            Screen screen{design, ports};
-            bringToPlace(screen, windows, &before, PlaceMemory::OnAnyDisplay);
-            screen.show();
-            QTRY_VERIFY(screen.mayClose());
-            QCOMPARE(screen.windowState() & ~Qt::WindowActive, state);
-            QCOMPARE(state == Qt::WindowNoState ? screen.geometry() : screen.normalGeometry(),
-                     place);
-            screen.close();
-            QTRY_COMPARE(screen.left, 1);
+        for (const auto& [remembered, place, state] : cases) {
+            windows.keep("name", remembered);
+            for (int time = 0; time < 2; ++time) {  // as given, and as it has noted that itself
+                Screen screen{{"name", "", {200, 100}, Qt::Window, true, true}, ports};
+                bringToPlace(screen, windows, &before, PlaceMemory::OnAnyDisplay);
+                screen.show();
+                QTRY_VERIFY(screen.mayClose());
+                QCOMPARE(screen.windowState() & ~Qt::WindowActive, state);
+                QCOMPARE(state ? screen.normalGeometry() : screen.geometry(), place);
+                screen.close();
+                QTRY_COMPARE(screen.left, 1);
+            }
         }
-        windows.keep("name", "garbage");
-        Screen screen{design, ports};
-        bringToPlace(screen, windows, &before, PlaceMemory::OnAnyDisplay);
-        QCOMPARE(screen.size(), design.size);
     }
 
     void answersBoxesFromTheKeyboard() {
