@@ -68,6 +68,7 @@ class Battle {
 
     /// The picture to show; its size is the screen's to choose.
     FieldPicture& picture() { return m_picture; }
+    const FieldPicture& picture() const { return m_picture; }
     /// What is happening on it, for the eyes.
     const FieldScene& scene() const { return m_animation.scene(); }
     /// Neither a shot nor a meteor nor a storm is under way: the picture may be resized.

@@ -24,6 +24,8 @@ class CommandLineTest : public QObject {
         QCOMPARE(parse({"--data-dir", "my f\u00f6lder"}).dataDir, "my f\u00f6lder");
         QVERIFY(parse({"--user-data"}).userData);
         QVERIFY(!parse({}).userData);
+        QVERIFY(parse({"--plain", "--seed=5"}).plain);
+        QVERIFY(!parse({}).plain);
         for (const auto& refused :
              {parse({"--seed"}), parse({"--seed", "-1"}), parse({"--seed", "1x"}),
               parse({"--seed="}), parse({"--data-dir", ""}), parse({"--fast"}), parse({"-seed=1"}),
