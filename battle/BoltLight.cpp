@@ -14,8 +14,9 @@ constexpr double kStrength = 0.2;  // each point's; they lie close together
 constexpr std::size_t kEvery = 2;  // point has a light
 constexpr Colour kSkyLight = kMoonLight;
 constexpr double kSkyStrength = 0.14, kEverywhere = 0.05;
-constexpr double kSkyWidth = 0.2;   // of the picture's
-constexpr double kAtTheFoot = 0.3;  // of the light at the top
+constexpr double kClearOfGround = 16;  // logical pixels
+constexpr double kSkyWidth = 0.2;      // of the picture's
+constexpr double kAtTheFoot = 0.3;     // of the light at the top
 
 }  // namespace
 
@@ -26,6 +27,7 @@ void BoltLight::follow(const FieldSight& sight, ChangedAreas& changed) {
     m_skyline = &sight.skyline;
     m_height = sight.picture.height();
     m_radius = sight.scaled(kRadius);
+    m_far = sight.scaled(kClearOfGround);
     m_bolts.resize(bolts.size());
     for (std::size_t i = 0; i < bolts.size(); ++i) {
         for (std::size_t k = m_bolts[i].size(); k < bolts[i].size(); ++k) {
@@ -61,9 +63,12 @@ void BoltLight::paintSky(LightCanvas& canvas) const {
     const PixelRect& area = canvas.area();
     for (int y = area.y; y < area.bottom(); ++y) {
         const double share = 1 - (1 - kAtTheFoot) * y / m_height;
-        for (int x = area.x; x < area.right(); ++x)
-            if (y < m_skyline->top(x))
-                canvas.pixel(x, y, kSkyLight, share * m_sky[static_cast<std::size_t>(x)]);
+        for (int x = area.x; x < area.right(); ++x) {
+            const double clearance = m_skyline->clearance(x, y, m_far);
+            if (clearance > 0)
+                canvas.pixel(x, y, kSkyLight,
+                             clearance * share * m_sky[static_cast<std::size_t>(x)]);
+        }
     }
 }
 

@@ -20,7 +20,7 @@ class BoltLight : public LightPainter {
     void paintBolt(const Path& bolt, LightCanvas& canvas) const;
 
     const Skyline* m_skyline = nullptr;
-    double m_radius = 0;
+    double m_radius = 0, m_far = 0;
     int m_height = 0;  ///< of the picture
     std::vector<Path> m_bolts;
     std::vector<double> m_sky;  ///< how strong its light is at the top, by column

@@ -6,7 +6,7 @@ namespace skylob {
 
 namespace {
 
-constexpr double kSpacing = 1.5;  // of the tail's lights, in logical pixels
+constexpr double kSpacing = 2;  // of the tail's lights, in logical pixels
 
 LightPoint between(LightPoint from, LightPoint to, double share) {
     return {from.x + (to.x - from.x) * share, from.y + (to.y - from.y) * share};

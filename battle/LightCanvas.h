@@ -47,6 +47,8 @@ class LightCanvas {
     void pixel(int x, int y, Colour colour, double strength) {
         lay(row(y) + (x - m_area.x), colour, strength);
     }
+    /// The same for an opaque one.
+    void pixel(int x, int y, Colour colour) { row(y)[x - m_area.x] = colour.pixel(); }
 
     /// Lays the colour where `coverage(x, y)`, asked with the middle of each pixel of the area
     /// between two corners, is more than 0; it is at most 1.

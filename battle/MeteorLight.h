@@ -18,7 +18,7 @@ class MeteorLight : public LightPainter {
                    .glowStrength = 0.7,
                    .tailLength = 80,
                    .tailRadius = 3,
-                   .tailStrength = 0.3,
+                   .tailStrength = 0.36,
                    .head = kFireLight,
                    .tail = Colour::fromRgb(0xFFB347)}};
 };

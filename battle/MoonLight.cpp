@@ -11,7 +11,8 @@ namespace {
 
 constexpr double kReach = 3.2;  // of the moon's radii
 constexpr double kStrongest = 0.3, kFaintest = 0.12;
-constexpr double kDarkSide = 0.25;  // of the light is left there
+constexpr double kClearOfGround = 12;  // logical pixels
+constexpr double kDarkSide = 0.25;     // of the light is left there
 
 }  // namespace
 
@@ -20,6 +21,7 @@ void MoonLight::follow(const FieldSight& sight, ChangedAreas&) {
     const Battlefield& field = sight.state.field;
     const int shadow = moonShadow(field);
     m_skyline = &sight.skyline;
+    m_far = sight.scaled(kClearOfGround);
     m_strength = 0;
     if (!field.hasMoon() || shadow == 0) return;
     m_at = sight.middleOf({field.MoonX, field.moonY});
@@ -36,9 +38,10 @@ void MoonLight::paint(LightCanvas& canvas) const {
                  m_strength, [this, reach](double x, double y) {
                      const double dx = (x - m_at.x) / reach, dy = (y - m_at.y) / reach;
                      const double share = 1 - std::sqrt(dx * dx + dy * dy);
-                     if (share <= 0 || y > m_skyline->top(static_cast<int>(x))) return 0.0;
+                     if (share <= 0) return 0.0;
                      const double side = std::clamp(dx * m_litSide + 0.5, 0.0, 1.0);
-                     return share * (kDarkSide + (1 - kDarkSide) * side);
+                     return share * (kDarkSide + (1 - kDarkSide) * side) *
+                            m_skyline->clearance(static_cast<int>(x), static_cast<int>(y), m_far);
                  });
 }
 

@@ -13,7 +13,7 @@ class MoonLight : public LightPainter {
   private:
     const Skyline* m_skyline = nullptr;
     LightPoint m_at;
-    double m_moonRadius = 0;
+    double m_moonRadius = 0, m_far = 0;
     double m_litSide = 0;  ///< -1: the left one, 1: the right one
     double m_strength = 0;
 };

@@ -19,26 +19,29 @@ double linear(double part) {
     return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
 }
 
-/// Relative luminance of the light of that strength upon the sky; of the sky alone at 0.
-double luminance(Colour light, double strength) {
-    const auto part = [strength](int over, int under) {
-        return linear(over * strength + under * (1 - strength));
+/// Relative luminance of moonlight of that strength upon a colour; of that alone at 0.
+double luminance(Colour under, double strength) {
+    const auto part = [strength](int light, int dark) {
+        return linear(light * strength + dark * (1 - strength));
     };
-    const Colour sky = SkyLight::kHorizon;
-    return 0.2126 * part(light.red(), sky.red()) + 0.7152 * part(light.green(), sky.green()) +
-           0.0722 * part(light.blue(), sky.blue());
+    return 0.2126 * part(kMoonLight.red(), under.red()) +
+           0.7152 * part(kMoonLight.green(), under.green()) +
+           0.0722 * part(kMoonLight.blue(), under.blue());
 }
 
-double contrast(double a, double b) {
-    return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
+/// Whether the light is told from the ground, high up and low down.
+bool isSeen(double strength, Colour ground) {
+    for (const Colour sky : {SkyLight::kZenith, SkyLight::kHorizon}) {
+        const double a = luminance(sky, strength) + 0.05, b = luminance(ground, 0) + 0.05;
+        if (std::max(a, b) < kContrast * std::min(a, b)) return false;
+    }
+    return true;
 }
 
-/// The faintest light that is told from the ground; none where the sky itself is.
+/// The faintest light that is seen; none where the sky itself is.
 double strengthOver(Colour ground) {
     double strength = 0;
-    while (strength < 1 &&
-           contrast(luminance(kMoonLight, strength), luminance(ground, 1)) < kContrast)
-        strength += kFiner;
+    while (strength < 1 && !isSeen(strength, ground)) strength += kFiner;
     return std::min(strength, 1.0);
 }
 

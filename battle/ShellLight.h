@@ -14,9 +14,9 @@ class ShellLight : public LightPainter {
     Comet m_comet{{.coreRadius = 2.6,
                    .glowRadius = 8,
                    .glowStrength = 0.9,
-                   .tailLength = 36,
+                   .tailLength = 30,
                    .tailRadius = 2.6,
-                   .tailStrength = 0.3,
+                   .tailStrength = 0.36,
                    .head = kFireLight,
                    .tail = kFireLight}};
 };

@@ -3,7 +3,6 @@
 namespace skylob {
 
 namespace {
-constexpr Colour kZenith = Colour::fromRgb(0x04060D);
 
 Colour mixed(Colour from, Colour to, int part, int whole) {
     const auto mix = [part, whole](int a, int b) {
@@ -27,7 +26,7 @@ void SkyLight::paint(LightCanvas& canvas) const {
     for (int y = area.y; y < area.bottom(); ++y) {
         const Colour colour = m_rows[static_cast<std::size_t>(y)];
         for (int x = area.x; x < area.right(); ++x)
-            if (y < m_skyline->top(x)) canvas.pixel(x, y, colour, 1);
+            if (y < m_skyline->top(x)) canvas.pixel(x, y, colour);
     }
 }
 

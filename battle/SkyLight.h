@@ -12,7 +12,8 @@ class SkyLight : public LightPainter {
     void follow(const FieldSight& sight, ChangedAreas& changed) override;
     void paint(LightCanvas& canvas) const override;
 
-    /// Its brightest, at the foot of the picture.
+    /// At the top of the picture, and at its foot, where it is brightest.
+    static constexpr Colour kZenith = Colour::fromRgb(0x04060D);
     static constexpr Colour kHorizon = Colour::fromRgb(0x0E1830);
 
   private:

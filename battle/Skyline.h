@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <vector>
 
@@ -18,6 +19,12 @@ class Skyline {
 
     /// The first row of the ground in that column of pixels; the picture's height if there is none.
     int top(int px) const { return m_top[static_cast<std::size_t>(px)]; }
+
+    /// 0 on the ground's edge and below it, 1 well above it, `far` pixels or more: a bright sky
+    /// begins that far above the ground, so that it does not take the edge away.
+    double clearance(int px, int py, double far) const {
+        return std::clamp((top(px) - 1 - py) / far, 0.0, 1.0);
+    }
 
   private:
     std::vector<int> m_top;

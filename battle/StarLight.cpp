@@ -4,7 +4,7 @@ namespace skylob {
 
 namespace {
 
-constexpr int kHeld = 5;  // steps that a strength is held: what changes costs time
+constexpr int kHeld = 8;  // steps that a strength is held: what changes costs time
 constexpr double kStrengths[] = {0.2, 0.45, 0.75, 0.9, 0.75, 0.45, 0.2};
 constexpr int kTwinkle = kHeld * static_cast<int>(std::size(kStrengths));
 constexpr double kRadius = 3;  // logical pixels

@@ -14,7 +14,7 @@ class StarLight : public LightPainter {
     void paint(LightCanvas& canvas) const override;
 
   private:
-    std::array<Glow, 10> m_twinkles;
+    std::array<Glow, 6> m_twinkles;
 };
 
 }  // namespace skylob
