@@ -64,6 +64,7 @@ class Battle {
 
     /// The picture to show; its size is the screen's to choose.
     FieldPicture& picture() { return m_picture; }
+    const FieldPicture& picture() const { return m_picture; }
     /// What is happening on it, for the eyes.
     const FieldScene& scene() const { return m_animation.scene(); }
     /// The picture of the field has another size or another display: draws it anew.

@@ -79,7 +79,8 @@ void BoltLight::paintBolt(const Path& bolt, LightCanvas& canvas) const {
     const auto last =
         std::lower_bound(first, bolt.end(), canvas.area().bottom() + m_radius, isAbove);
     for (auto at = first; at != last; ++at)
-        if ((at - bolt.begin()) % kEvery == 0) canvas.glow(*at, m_radius, kFireLight, kStrength);
+        if (static_cast<std::size_t>(at - bolt.begin()) % kEvery == 0)
+            canvas.glow(*at, m_radius, kFireLight, kStrength);
 }
 
 }  // namespace skylob

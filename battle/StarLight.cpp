@@ -23,6 +23,7 @@ Glow twinkle(const FieldSight& sight, int number) {
     const int time = sight.step + number * 11;  // they do not change together
     const auto turn = static_cast<std::uint32_t>(time / kTwinkle * 31 + number);
     const auto& star = stars[scattered(turn) % stars.size()];
+    if (sight.picture.pixel(star.x, star.y) != star.colour) return {};  // behind the moon
     return {sight.middleOf({star.x, star.y}), sight.scaled(kRadius), kStarLight,
             kStrengths[time % kTwinkle / kHeld]};
 }

@@ -28,6 +28,7 @@ double strengthAt(std::size_t age) {
 void TrailLight::follow(const FieldSight& sight, ChangedAreas& changed) {
     const FieldScene::Flight& flight = sight.scene.flight;
     const bool isNew = flight.inTheAir && !m_inTheAir;
+    const bool hasLanded = m_inTheAir && !flight.inTheAir;
     m_inTheAir = flight.inTheAir;
     if (isNew || flight.path.size() < m_followed) {
         forget(changed);
@@ -44,6 +45,10 @@ void TrailLight::follow(const FieldSight& sight, ChangedAreas& changed) {
         m_beads.push_back({{at, sight.scaled(kRadius), lightOf(flight.side), 0}, {}});
     }
     if (m_beads.size() > before) age(before > kOldest ? before - kOldest - 1 : 0, changed);
+    if (hasLanded && !m_beads.empty()) {  // where it comes down it leaves a black mark
+        changed.add(m_beads.back().area);
+        m_beads.pop_back();
+    }
 }
 
 void TrailLight::forget(ChangedAreas& changed) {

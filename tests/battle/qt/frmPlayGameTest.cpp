@@ -174,6 +174,38 @@ class frmPlayGameTest : public QObject {
         QVERIFY(sound->isChecked() && screen.form->battle().state().SoundOn);
     }
 
+    void switchesTheLightOverTheField() {
+        Screen screen;
+        QCheckBox* const effects = screen.box("chkEffects");
+        QVERIFY(effects->isChecked());
+        const auto rules = [&] {
+            const FieldPicture& of = screen.form->battle().picture();
+            return QImage{reinterpret_cast<const uchar*>(of.screenPixels()), of.width(),
+                          of.height(), QImage::Format_RGB32};
+        };
+        const auto shown = [&] {
+            return screen.field()->grab().toImage().convertToFormat(QImage::Format_RGB32);
+        };
+        QVERIFY(shown() != rules());
+        const auto activity = screen.form->battle().state().TurnStartTime;
+        screen.clock.time += std::chrono::seconds{5};
+        QTest::keyClick(screen.form.get(), Qt::Key_F, Qt::AltModifier);
+        QTRY_VERIFY(!effects->isChecked());
+        QVERIFY(shown() == rules());
+        QVERIFY(screen.form->battle().state().TurnStartTime == activity);
+        QVERIFY(screen.windows.recall(kEffectsKey, "1") == "0");
+        int flights = 0;
+        screen.pacer.duringFlight = [&] {
+            if (++flights % 20 == 0) QVERIFY(shown() == rules());
+        };
+        QTest::mouseClick(screen.shoot(), Qt::LeftButton);
+        QVERIFY(flights > 40);
+        frmPlayGame next{{screen.shared, screen.settings, screen.shapes, screen.windows},
+                         {screen.random, screen.clock, screen.pacer, screen.sounds, screen.boxes,
+                          screen.settings}};
+        QVERIFY(!next.findChild<QCheckBox*>("chkEffects")->isChecked());
+    }
+
     void showsNamesAsTheyAre() {
         Screen screen{2, "<b>A&B</b>", "Computer"};
         const auto frames = screen.form->findChildren<QGroupBox*>();
@@ -206,7 +238,7 @@ class frmPlayGameTest : public QObject {
                     QVERIFY2(widget->sizeHint().width() <= widget->width(), name);
             }
             keys.removeAll({});
-            QCOMPARE(keys.size(), 11);  // S Q O T M L, W P A G, Esc
+            QCOMPARE(keys.size(), 12);  // S Q O T M L F, W P A G, Esc
             QCOMPARE(keys.removeDuplicates(), 0);
             QCOMPARE(screen.shoot()->plainCaption().isEmpty(), size == 1);
             QCOMPARE(screen.shoot()->toolTip(),
