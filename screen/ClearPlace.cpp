@@ -16,10 +16,10 @@ struct Span {
     int centred(int other) const { return start + (length - other) / 2; }
 };
 
-Span across(const Area& area) {
+Span across(const DesktopArea& area) {
     return {area.x, area.width};
 }
-Span down(const Area& area) {
+Span down(const DesktopArea& area) {
     return {area.y, area.height};
 }
 
@@ -27,9 +27,9 @@ int overlap(Span one, Span other) {
     return std::max(std::min(one.end(), other.end()) - std::max(one.start, other.start), 0);
 }
 
-std::int64_t hidden(const Area& window, const std::vector<Area>& toBeSeen) {
+std::int64_t hidden(const DesktopArea& window, const std::vector<DesktopArea>& toBeSeen) {
     std::int64_t pixels = 0;
-    for (const Area& part : toBeSeen)
+    for (const DesktopArea& part : toBeSeen)
         pixels +=
             std::int64_t{overlap(across(window), across(part))} * overlap(down(window), down(part));
     return pixels;
@@ -37,10 +37,11 @@ std::int64_t hidden(const Area& window, const std::vector<Area>& toBeSeen) {
 
 /// In the middle, at the display's edges, and touching what is to be seen on either side: the best
 /// place is made of two of these.
-std::vector<int> starts(int length, Span display, Span over, const std::vector<Area>& toBeSeen,
-                        Span (*direction)(const Area&)) {
+std::vector<int> starts(int length, Span display, Span over,
+                        const std::vector<DesktopArea>& toBeSeen,
+                        Span (*direction)(const DesktopArea&)) {
     std::vector<int> found{over.centred(length), display.start, display.end() - length};
-    for (const Area& part : toBeSeen) {
+    for (const DesktopArea& part : toBeSeen) {
         found.push_back(direction(part).start - length);
         found.push_back(direction(part).end());
     }
@@ -51,20 +52,21 @@ std::vector<int> starts(int length, Span display, Span over, const std::vector<A
 
 }  // namespace
 
-Area clearPlace(int width, int height, const Area& display, const Area& over,
-                const std::vector<Area>& toBeSeen) {
-    const auto drawback = [&](const Area& place) {
+DesktopArea clearPlace(int width, int height, const DesktopArea& display, const DesktopArea& over,
+                       const std::vector<DesktopArea>& toBeSeen) {
+    const auto drawback = [&](const DesktopArea& place) {
         const std::int64_t dx = place.x - across(over).centred(width);
         const std::int64_t dy = place.y - down(over).centred(height);
         return std::pair{hidden(place, toBeSeen), dx * dx + dy * dy};
     };
-    std::vector<Area> places;
+    std::vector<DesktopArea> places;
     for (const int x : starts(width, across(display), across(over), toBeSeen, across))
         for (const int y : starts(height, down(display), down(over), toBeSeen, down))
             places.push_back({x, y, width, height});
-    return *std::min_element(places.begin(), places.end(), [&](const Area& one, const Area& other) {
-        return drawback(one) < drawback(other);
-    });
+    return *std::min_element(places.begin(), places.end(),
+                             [&](const DesktopArea& one, const DesktopArea& other) {
+                                 return drawback(one) < drawback(other);
+                             });
 }
 
 }  // namespace skylob

@@ -10,11 +10,11 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "base/qt/QtInput.h"
 #include "controls/qt/GlintButton.h"
 #include "controls/qt/QtPropertyBagFile.h"
 #include "look/qt/QtLook.h"
 #include "look/qt/QtShapes.h"
-#include "base/qt/QtInput.h"
 
 namespace skylob {
 

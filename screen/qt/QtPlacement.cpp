@@ -22,7 +22,7 @@ void centre(QWidget& window, const QPoint& middle, const QRect& display, const Q
                 std::max(std::min(corner.y(), last.y()), display.top()));
 }
 
-Area areaOf(const QRect& rect) {
+DesktopArea areaOf(const QRect& rect) {
     return {rect.x(), rect.y(), rect.width(), rect.height()};
 }
 
@@ -57,11 +57,11 @@ QRect roomOn(const QScreen& display, const QWidget* before) {
 void placeClearOf(QWidget& window, const QWidget& before, const QList<QRect>& toBeSeen) {
     window.setScreen(before.screen());
     const QRect display = before.screen()->availableGeometry();
-    std::vector<Area> areas;
+    std::vector<DesktopArea> areas;
     for (const QRect& part : toBeSeen) areas.push_back(areaOf(part));
     const QSize size = window.size() + frameOf(before);
-    const Area place = clearPlace(size.width(), size.height(), areaOf(display),
-                                  areaOf(seenPart(before.frameGeometry(), display)), areas);
+    const DesktopArea place = clearPlace(size.width(), size.height(), areaOf(display),
+                                         areaOf(seenPart(before.frameGeometry(), display)), areas);
     window.move(place.x, place.y);
 }
 

@@ -5,13 +5,13 @@
 namespace skylob::test {
 
 TEST(ClearPlace, HidesTheLeastNearTheMiddle) {
-    constexpr Area kDisplay{100, 50, 1000, 800}, kBattle{200, 150, 700, 500};
+    constexpr DesktopArea kDisplay{100, 50, 1000, 800}, kBattle{200, 150, 700, 500};
     struct Row {
         const char* what;
-        Area display;
+        DesktopArea display;
         int width, height;
-        std::vector<Area> toBeSeen;
-        Area place;
+        std::vector<DesktopArea> toBeSeen;
+        DesktopArea place;
     };
     const Row rows[] = {
         {"nothing to be seen: the battle's middle", kDisplay, 300, 200, {}, {400, 300, 300, 200}},
