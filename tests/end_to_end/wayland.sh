@@ -1,0 +1,92 @@
+#!/usr/bin/env bash
+# Usage: wayland.sh PROGRAM
+# Under a Wayland compositor and without any X server a shell is seen flying while the program is busy
+# with it, boxes come up over their screen, and the program ends well. Left out (status 77) where the
+# packages [wayland] are not installed.
+set -euo pipefail
+for tool in sway swaymsg grim wtype jq; do
+    command -v "$tool" >/dev/null || { echo "no $tool" && exit 77; }
+done
+compgen -G "/usr/lib/*/qt6/plugins/platforms/libqwayland-generic.so" >/dev/null ||
+    { echo "no plugin for Wayland" && exit 77; }
+source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
+unset DISPLAY
+export QT_QPA_PLATFORM=wayland
+
+# start_compositor: the display, which refuses to be root's.
+start_compositor() {
+    local as_nobody=() sockets=$work/sockets
+    mkdir -m 700 "$sockets"
+    if ((EUID == 0)); then
+        chmod 711 "$work"
+        chown nobody "$sockets"
+        as_nobody=(setpriv --reuid=nobody --regid=nogroup --clear-groups)
+    fi
+    printf '%s\n' 'xwayland disable' 'output * resolution 1400x900' 'output * bg #808080 solid_color' \
+        'for_window [app_id=".*"] floating enable' >"$work/sway"
+    chmod 644 "$work/sway"
+    XDG_RUNTIME_DIR=$sockets WLR_BACKENDS=headless WLR_RENDERER=pixman WLR_LIBINPUT_NO_DEVICES=1 \
+        "${as_nobody[@]}" sway --config "$work/sway" >"$work/sway.log" 2>&1 &
+    wait_for compgen -G "$sockets/sway-ipc.*.sock" || fail "sway does not start: $(<"$work/sway.log")"
+    SWAYSOCK=$(compgen -G "$sockets/sway-ipc.*.sock")
+    wait_for test -S "$sockets/wayland-1" || fail "no display"
+    export SWAYSOCK WAYLAND_DISPLAY=$sockets/wayland-1
+    # A keyboard that stays: programs would miss the first keys of one that comes for a moment.
+    wtype -s 3600000 -k Shift_L &
+}
+
+# What lib.sh asks an X server for.
+windows() {
+    swaymsg -t get_tree | jq -r --arg name "$1" \
+        ".. | objects | select(.pid and (.name // \"\" | test(\$name))) | $2"
+}
+window() { windows "$1" .id | head -n 1; }
+is_gone() { [[ -z $(window "$1") ]]; }
+takes_keys() { [[ $(windows "$1" .focused) == *true* ]]; }
+look() { grim -t ppm "$work/look.miff"; }
+press() {
+    local key
+    wait_for takes_keys "$1" || fail "the window '$1' takes no keys: $(<"$work/stderr")"
+    for key in "${@:2}"; do
+        if [[ $key == alt+* ]]; then wtype -M alt -k "${key#alt+}" -m alt; else wtype -k "$key"; fi
+    done
+}
+
+# expect_over BOX WINDOW: the box is there, and its middle is the window's, give or take its frame.
+middle_of() { windows "$1" '.rect | "\(.x + .width / 2 | round) \(.y + .height / 2 | round)"'; }
+expect_over() {
+    local x y over_x over_y
+    wait_for takes_keys "$1" || fail "no box '$1'"
+    read -r x y <<<"$(middle_of "$1")"
+    read -r over_x over_y <<<"$(middle_of "$2")"
+    ((x - over_x < 20 && over_x - x < 20 && y - over_y < 40 && over_y - y < 40)) ||
+        fail "the box '$1' is at $x,$y, its screen at $over_x,$over_y"
+}
+
+calm GameSpeed=1
+players Ann Bob
+start_compositor
+start_game --seed 1
+press "$lobby" Delete
+expect_over Confirm "$lobby"
+press Confirm Escape
+gone Confirm
+start_battle
+
+red() { pixels_of '#FF0000'; }
+trail_grows() { look && (($(red) > before)); }
+look
+before=$(red)
+press "$battle" alt+s
+for glance in 1 2 3; do
+    wait_for trail_grows || fail "the trail does not grow in flight: $(red) pixels after $before"
+    before=$(red)
+    (($(pixels_of "$gold") == 0)) || fail "the controls look usable in flight"
+done
+await_turn
+press "$battle" Escape
+gone "$battle"
+press "$lobby" Escape
+expect_over Confirm "$lobby"
+press Confirm alt+y
+expect_exit
