@@ -35,6 +35,7 @@ constexpr const char* kFiles =
     "                                an earlier version's Skylob.Dat gets its name\n"
     "  ~/.local/share/Skylob/        where --user-data keeps it ($XDG_DATA_HOME)\n"
     "  ~/.config/Skylob/Skylob.ini   your settings ($XDG_CONFIG_HOME)\n"
+    "  ~/.config/Skylob/Windows.ini  where windows stood, the volume, the effects\n"
     "  $XDG_RUNTIME_DIR/Skylob.lock  held while the game runs (or in /tmp/skylob-UID)\n";
 
 std::string helpOn(const Option& option) {

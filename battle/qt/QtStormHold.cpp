@@ -30,13 +30,13 @@ class Veil : public QWidget {
 QtStormHold::QtStormHold(QWidget& screen, int top, const QList<QObject*>& controls)
     : m_screen{screen}, m_veil{std::make_unique<Veil>(&screen)} {
     for (QObject* control : controls) m_deaf.emplace_back(control);
-    m_screen.setCursor(Qt::WaitCursor);
+    m_screen.window()->setCursor(Qt::WaitCursor);
     fitVeil(top);
     m_veil->show();
 }
 
 QtStormHold::~QtStormHold() {
-    m_screen.unsetCursor();
+    m_screen.window()->unsetCursor();
 }
 
 void QtStormHold::fitVeil(int top) {

@@ -47,6 +47,7 @@ QtScreen::QtScreen(const QtScreenDesign& design, const QtScreenPorts& ports)
     } else {
         setFixedSize(design.size);
     }
+    if (design.type == Qt::Dialog) setWindowModality(Qt::ApplicationModal);
     if (design.fadesIn) m_fade->load();
 }
 
