@@ -2,7 +2,7 @@
 
 #include <map>
 
-#include "battle/GunDrawings.h"
+#include "battle/light/GunDrawings.h"
 
 class QImage;
 class QPainter;

@@ -13,11 +13,10 @@
 #include <algorithm>
 #include <utility>
 
-#include "base/Volume.h"
-#include "base/WindowStore.h"
 #include "battle/qt/QtDragAim.h"
 #include "battle/qt/QtEffectTimers.h"
 #include "battle/qt/QtHints.h"
+#include "battle/qt/QtOptionStrip.h"
 #include "battle/qt/QtReportLabel.h"
 #include "battle/qt/QtSidePanel.h"
 #include "battle/qt/QtStormHold.h"
@@ -55,7 +54,8 @@ frmPlayGame::frmPlayGame(const QtScreenPorts& screen, const BattlePorts& ports, 
     makeReportRow();
     makeSidePanels();
     makeButtons();
-    makeOptions();
+    m_strip = new QtOptionStrip{m_layout, m_windows, m_battle.options(), board()};
+    m_layer.setOn(m_strip->wantsEffects());
     connectControls();
     addShortcuts();
     setTabOrder();
@@ -112,41 +112,6 @@ void frmPlayGame::makeButtons() {
     cmdQuit = buttons.make(QStringLiteral("cmdQuit"), m_layout.cmdQuit);
 }
 
-void frmPlayGame::makeOptions() {
-    m_strip = new QFrame{board()};
-    m_strip->setObjectName(QStringLiteral("strip"));
-
-    QWidget* const gameSpeedParent = m_layout.gameSpeedInStrip ? m_strip : board();
-    labelGameSpeed = new QLabel{gameSpeedParent};
-    labelGameSpeed->setObjectName(QStringLiteral("labelGameSpeed"));
-    if (!m_layout.gameSpeedInStrip) labelGameSpeed->setAlignment(Qt::AlignCenter);
-    scrollGameSpeed = makeScrollBar(QStringLiteral("scrollGameSpeed"), kGameSpeedRange,
-                                    m_layout.scrollGameSpeed, gameSpeedParent);
-    scrollGameSpeed->setAccessibleName(tr("Game speed"));
-
-    chkSound = makeBox("chkSound", tr("S&ound"));
-    scrollVolume =
-        makeScrollBar(QStringLiteral("scrollVolume"), kVolumeRange, m_layout.scrollVolume, m_strip);
-    scrollVolume->setAccessibleName(tr("Volume"));
-    scrollVolume->setToolTip(tr(" How loud sounds are "));
-    scrollVolume->setValue(recallVolume(m_windows));
-    chkTrajectory = makeBox("chkTrajectory", tr("&Trajectory"));
-    chkMeteors = makeBox("chkMeteors", tr("&Meteors"));
-    chkLightning = makeBox("chkLightning", tr("&Lightning"));
-    chkWind = makeBox("chkWind", {});
-    chkEffects = makeBox("chkEffects", tr("E&ffects"));
-    // Quirk "blank at the ends": one on either side.
-    chkEffects->setToolTip(tr(" Light over the battlefield "));
-    chkEffects->setChecked(m_windows.recall(kEffectsKey, "1") != "0");
-    m_layer.setOn(chkEffects->isChecked());
-}
-
-QCheckBox* frmPlayGame::makeBox(const char* name, const QString& caption) {
-    auto* box = new QCheckBox{caption, m_strip};
-    box->setObjectName(QLatin1String{name});
-    return box;
-}
-
 void frmPlayGame::place(const frmPlayGameLayout& layout) {
     m_fieldEdge->setGeometry(layout.field.adjusted(-1, -1, 1, 1));
     m_field->setGeometry(layout.field);
@@ -156,16 +121,7 @@ void frmPlayGame::place(const frmPlayGameLayout& layout) {
     labelRoundNumber->setGeometry(layout.labelRoundNumber);
     cmdShoot->setGeometry(layout.cmdShoot);
     cmdQuit->setGeometry(layout.cmdQuit);
-    m_strip->setGeometry(layout.strip);
-    labelGameSpeed->setGeometry(layout.labelGameSpeed);
-    scrollGameSpeed->setGeometry(layout.scrollGameSpeed);
-    chkSound->setGeometry(layout.chkSound);
-    scrollVolume->setGeometry(layout.scrollVolume);
-    chkTrajectory->setGeometry(layout.chkTrajectory);
-    chkMeteors->setGeometry(layout.chkMeteors);
-    chkLightning->setGeometry(layout.chkLightning);
-    chkWind->setGeometry(layout.chkWind);
-    chkEffects->setGeometry(layout.chkEffects);
+    m_strip->place(layout);
 }
 
 void frmPlayGame::connectControls() {
@@ -176,20 +132,11 @@ void frmPlayGame::connectControls() {
         connect(m_side[side], &QtSidePanel::angleMoved, this,
                 [this](int which, int value) { m_battle.aims().setAngle(which, value); });
     }
-    connect(scrollVolume, &QScrollBar::valueChanged, this, &frmPlayGame::volumeChosen);
-    BattleOptions& options = m_battle.options();
-    connect(scrollGameSpeed, &QScrollBar::valueChanged, this,
-            [&options](int value) { options.setGameSpeed(value); });
-    const auto onClick = [this, &options](QCheckBox* box, void (BattleOptions::*handler)(bool)) {
-        connect(box, &QCheckBox::clicked, this,
-                [&options, handler](bool ticked) { (options.*handler)(ticked); });
-    };
-    onClick(chkSound, &BattleOptions::chkSound_Click);
-    onClick(chkTrajectory, &BattleOptions::chkTrajectory_Click);
-    onClick(chkMeteors, &BattleOptions::chkMeteors_Click);
-    onClick(chkLightning, &BattleOptions::chkLightning_Click);
-    onClick(chkWind, &BattleOptions::chkWind_Click);
-    connect(chkEffects, &QCheckBox::clicked, this, &frmPlayGame::chkEffects_Click);
+    connect(m_strip, &QtOptionStrip::volumeChosen, this, &frmPlayGame::volumeChosen);
+    connect(m_strip, &QtOptionStrip::effectsChosen, this, [this](bool wanted) {
+        m_layer.setOn(wanted);
+        m_field->showChanges();
+    });
     connect(cmdShoot, &GlintButton::Click, this, [this] { m_battle.cmdShoot_Click(); });
     connect(cmdQuit, &GlintButton::Click, this, [this] { m_battle.cmdQuit_Click(); });
     connect(m_field, &picGameField::pieceClicked, this, [this] { m_battle.FieldPiece_Click(); });
@@ -208,28 +155,21 @@ void frmPlayGame::addShortcuts() {
     onKey(Qt::Key_F11, [this] { setWindowState(windowState() ^ Qt::WindowFullScreen); });
     onKey(Qt::ALT | Qt::Key_P, [shooterSide] { shooterSide()->scrollSpeed()->setFocus(); });
     onKey(Qt::ALT | Qt::Key_A, [shooterSide] { shooterSide()->scrollAngle()->setFocus(); });
-    onKey(Qt::ALT | Qt::Key_G, [this] { scrollGameSpeed->setFocus(); });
-    onKey(Qt::ALT | Qt::Key_V, [this] { scrollVolume->setFocus(); });
-    onKey(Qt::ALT | Qt::Key_W, [this] { chkWind->click(); });
+    onKey(Qt::ALT | Qt::Key_G, [this] { m_strip->gameSpeed()->setFocus(); });
+    onKey(Qt::ALT | Qt::Key_V, [this] { m_strip->volume()->setFocus(); });
+    onKey(Qt::ALT | Qt::Key_W, [this] { m_strip->wind()->click(); });
     if (!m_layout.shootHasCaption)
         onKey(Qt::ALT | Qt::Key_S, [this] { m_battle.cmdShoot_Click(); });
 }
 
 void frmPlayGame::setTabOrder() {
-    const QList<QWidget*> order{m_side[1]->scrollSpeed(),
-                                m_side[1]->scrollAngle(),
-                                m_side[2]->scrollSpeed(),
-                                m_side[2]->scrollAngle(),
-                                cmdShoot,
-                                cmdQuit,
-                                scrollGameSpeed,
-                                chkSound,
-                                scrollVolume,
-                                chkTrajectory,
-                                chkMeteors,
-                                chkLightning,
-                                chkWind,
-                                chkEffects};
+    QList<QWidget*> order{m_side[1]->scrollSpeed(),
+                          m_side[1]->scrollAngle(),
+                          m_side[2]->scrollSpeed(),
+                          m_side[2]->scrollAngle(),
+                          cmdShoot,
+                          cmdQuit};
+    order += m_strip->controls();
     for (qsizetype i = 1; i < order.size(); ++i) QWidget::setTabOrder(order[i - 1], order[i]);
 }
 
@@ -280,13 +220,6 @@ void frmPlayGame::showField() {
     m_field->showChanges();
 }
 
-/// No rule knows of this box, and clicking it is no activity.
-void frmPlayGame::chkEffects_Click(bool ticked) {
-    m_windows.keep(kEffectsKey, ticked ? "1" : "0");
-    m_layer.setOn(ticked);
-    m_field->showChanges();
-}
-
 void frmPlayGame::showPanel(const BattlePanel& panel) {
     for (const int side : kSides) {
         m_side[side]->showPanel(panel.side[side], panel.turn == side);
@@ -295,14 +228,7 @@ void frmPlayGame::showPanel(const BattlePanel& panel) {
     }
     showReportRow(panel);
     labelRoundNumber->setText(QString::fromStdString(panel.labelRoundNumber));
-    labelGameSpeed->setText(QString::fromStdString(panel.labelGameSpeed));
-    scrollGameSpeed->setValue(panel.scrollGameSpeed);
-    chkSound->setChecked(panel.chkSound);
-    chkTrajectory->setChecked(panel.chkTrajectory);
-    chkMeteors->setChecked(panel.chkMeteors);
-    chkLightning->setChecked(panel.chkLightning);
-    chkWind->setChecked(panel.chkWind);
-    chkWind->setText(QString::fromStdString(panel.chkWindCaption));
+    m_strip->showPanel(panel);
     showCommands(panel);
     m_timers->follow();
     fitField();
@@ -325,10 +251,6 @@ void frmPlayGame::showCommands(const BattlePanel& panel) {
     const bool wereEnabled = cmdShoot->isEnabled();
     if (wereEnabled && !panel.commandsEnabled) m_focusStaysOnShoot = cmdShoot->hasFocus();
     for (GlintButton* button : {cmdShoot, cmdQuit}) enable(*button, panel.commandsEnabled);
-    for (QWidget* command : std::initializer_list<QWidget*>{
-             labelGameSpeed, scrollGameSpeed, chkSound, scrollVolume, chkTrajectory, chkMeteors,
-             chkLightning, chkWind, chkEffects})
-        command->setEnabled(panel.commandsEnabled);
     if (!wereEnabled && panel.commandsEnabled) moveFocusToTurn(panel.turn);
     showHints(panel);
 }
@@ -364,12 +286,13 @@ void frmPlayGame::releaseInput() {
 }
 
 void frmPlayGame::showStorm() {
-    if (!m_stormHold)
-        m_stormHold = std::make_unique<QtStormHold>(
-            *board(), labelReport->geometry().bottom() + 1,
-            QList<QObject*>{m_field, m_side[1], m_side[2], scrollGameSpeed, cmdShoot, cmdQuit,
-                            chkSound, chkTrajectory, chkMeteors, chkLightning, chkWind});
-    m_stormHold->fitVeil(labelReport->geometry().bottom() + 1);
+    const int top = labelReport->geometry().bottom() + 1;
+    if (!m_stormHold) {
+        QList<QObject*> reporting{m_field, m_side[1], m_side[2], cmdShoot, cmdQuit};
+        for (QWidget* option : m_strip->controls()) reporting.append(option);
+        m_stormHold = std::make_unique<QtStormHold>(*board(), top, reporting);
+    }
+    m_stormHold->fitVeil(top);
     m_field->showStorm();
 }
 
@@ -413,7 +336,7 @@ void frmPlayGame::showRules() {
 
 void frmPlayGame::closeBattle() {
     m_timers->end();
-    keepVolume(m_windows, scrollVolume->value());
+    m_strip->rememberVolume();
     leave([this] { emit battleClosed(); });
 }
 

@@ -4,14 +4,12 @@
 
 #include "battle/Battle.h"
 #include "battle/BattleView.h"
-#include "battle/FieldLayer.h"
+#include "battle/light/FieldLayer.h"
 #include "battle/qt/QtGunDrawings.h"
 #include "screen/qt/QtScreen.h"
 
-class QCheckBox;
 class QFrame;
 class QLabel;
-class QScrollBar;
 
 namespace skylob {
 
@@ -19,6 +17,7 @@ class GlintButton;
 class QtEffectTimers;
 class QtHints;
 class QtInputGate;
+class QtOptionStrip;
 class QtReportLabel;
 class QtSidePanel;
 class QtStormHold;
@@ -83,8 +82,6 @@ class frmPlayGame : public QtScreen, private BattleView {
     void makeReportRow();
     void showReportRow(const BattlePanel& panel);
     void makeButtons();
-    void makeOptions();
-    QCheckBox* makeBox(const char* name, const QString& caption);
     void place(const frmPlayGameLayout& layout);
     void connectControls();
     void addShortcuts();
@@ -93,7 +90,6 @@ class frmPlayGame : public QtScreen, private BattleView {
     void showCommands(const BattlePanel& panel);
     void showHints(const BattlePanel& panel);
     void moveFocusToTurn(int turn);
-    void chkEffects_Click(bool ticked);
     void fitField();
 
     const frmPlayGameLayout& m_layout;  ///< at the screen's smallest size
@@ -105,12 +101,10 @@ class frmPlayGame : public QtScreen, private BattleView {
     QFrame* m_fieldEdge;
     picGameField* m_field;
     PerSide<QtSidePanel*> m_side;
-    QFrame* m_strip;
+    QtOptionStrip* m_strip;
     QtReportLabel* labelReport;
-    QLabel *labelScore, *labelRoundNumber, *labelGameSpeed;
-    QScrollBar *scrollGameSpeed, *scrollVolume;
+    QLabel *labelScore, *labelRoundNumber;
     GlintButton *cmdShoot, *cmdQuit;
-    QCheckBox *chkSound, *chkTrajectory, *chkMeteors, *chkLightning, *chkWind, *chkEffects;
     std::unique_ptr<QtStormHold> m_stormHold;  ///< while a storm holds the field
     int m_displayWidth = 0;                    ///< that the field was drawn for
     bool m_focusStaysOnShoot = false;

@@ -9,7 +9,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "battle/FieldLayer.h"
+#include "battle/light/FieldLayer.h"
 #include "battle/qt/QtDragAim.h"
 #include "battle/qt/QtGunDrawings.h"
 #include "battle/qt/frmPlayGameLayout.h"

@@ -5,7 +5,7 @@
 
 #include "battle/FieldPicture.h"
 #include "battle/FieldPoint.h"
-#include "battle/StormShow.h"
+#include "battle/light/StormShow.h"
 
 namespace skylob {
 

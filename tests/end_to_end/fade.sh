@@ -38,7 +38,8 @@ gone "$battle"
 leave_program
 
 start_compositing
-SKYLOB_EXPECT_FADES=1 "$2" >"$work/screen" || fail "no fade of a screen: $(<"$work/screen")"
+SKYLOB_EXPECT_FADES=1 "$2" takesNoInputWhileItFadesAndLeavesOnce \
+    isRunUntilEscapeWhereItIsModal >"$work/screen" || fail "no fade of a screen: $(<"$work/screen")"
 start_program
 watch "$title"
 press "$title" space

@@ -36,9 +36,9 @@ play_set() {
     act "$skill" 86,110 1 alt+p
     for round in 1 2 3 4 5; do
         await_turn
-        act "$battle" 322,607 3 alt+a End
-        act "$battle" 141,579 21 alt+p Home
-        act "$battle" 456,612 1 alt+s
+        act "$battle" 271,631 15 alt+a End
+        act "$battle" 141,603 21 alt+p Home
+        act "$battle" 456,636 1 alt+s
         act "Round Summary" 300,402 1 Return
         gone "Round Summary"
     done

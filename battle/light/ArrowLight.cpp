@@ -1,0 +1,37 @@
+#include "battle/light/ArrowLight.h"
+
+#include <cmath>
+
+#include "battle/light/Glow.h"
+
+namespace skylob {
+
+namespace {
+constexpr double kTop = 3, kHeight = 8, kHalfWidth = 5;  // logical pixels
+}
+
+void ArrowLight::follow(const FieldSight& sight, ChangedAreas& changed) {
+    changed.add(m_area);
+    m_area = {};
+    const FieldScene::Flight& flight = sight.scene.flight;
+    if (!flight.inTheAir || flight.path.empty()) return;
+    const LightPoint shell = sight.middleOf(flight.path.back());
+    if (shell.y >= 0) return;
+    pointTo(sight, shell.x);
+    changed.add(m_area);
+}
+
+void ArrowLight::pointTo(const FieldSight& sight, double x) {
+    const double top = sight.scaled(kTop), bottom = top + sight.scaled(kHeight);
+    const double left = x - sight.scaled(kHalfWidth), right = x + sight.scaled(kHalfWidth);
+    m_corners = {LightPoint{x, top}, LightPoint{right, bottom}, LightPoint{left, bottom}};
+    const int first = static_cast<int>(std::floor(left));
+    m_area = {first, 0, static_cast<int>(std::ceil(right)) - first,
+              static_cast<int>(std::ceil(bottom))};
+}
+
+void ArrowLight::paint(LightCanvas& canvas) const {
+    if (!common(m_area, canvas.area()).isEmpty()) canvas.polygon(m_corners, kFireLight);
+}
+
+}  // namespace skylob

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+#include "battle/light/LightPainter.h"
+
+namespace skylob {
+
+class GunDrawings;
+
+/// The field as the player sees it: the rules' picture with light upon it. Light falls on black
+/// pixels and in the place of the pieces' images, which are taken off and painted anew; every
+/// other pixel of the rules' picture keeps its colour. Nothing here is read by a rule or draws a
+/// number.
+class FieldLayer {
+  public:
+    /// All must outlive the layer. Without drawings of guns the pieces are as the rules draw them.
+    /// It is on.
+    FieldLayer(const FieldPicture& picture, const FieldScene& scene, const BattleState& state,
+               GunDrawings* guns = nullptr);
+    ~FieldLayer();
+
+    FieldLayer(const FieldLayer&) = delete;
+    FieldLayer& operator=(const FieldLayer&) = delete;
+
+    /// Off is exactly the rules' picture. To be seen after the next update().
+    void setOn(bool on);
+    bool isOn() const { return m_on; }
+
+    /// Brings the layer in line with the picture, of which `changed` has changed, and with what is
+    /// happening. Returns the areas to be shown anew, valid until the next call.
+    const std::vector<PixelRect>& update(const PixelRect& changed);
+
+    /// What is to be shown, 0xFFRRGGBB row by row; valid until the next update().
+    const std::uint32_t* pixels() const;
+    /// The size of that: the picture's at the last update(), or when off, the picture's.
+    int width() const { return m_on ? m_width : m_picture.width(); }
+    int height() const { return m_on ? m_height : m_picture.height(); }
+
+  private:
+    template <typename Painter>
+    void add();
+    bool takeSize();
+    void look(bool remade);
+    void compose(const PixelRect& area);
+    void composeRow(int y);
+    void composePiece(int side);
+
+    const FieldPicture& m_picture;
+    const FieldScene& m_scene;
+    const BattleState& m_state;
+    std::vector<std::unique_ptr<LightPainter>> m_painters;  ///< the lowest light first
+    bool m_on = true, m_switched = true;
+    int m_width = 0, m_height = 0;
+    int m_makings = 0, m_step = 0;
+    Skyline m_skyline;
+    ChangedAreas m_changed;
+    LightCanvas m_canvas;
+    std::vector<std::uint32_t> m_shown;  ///< empty while it is off
+};
+
+}  // namespace skylob

@@ -1,0 +1,56 @@
+#include "battle/light/GunLight.h"
+
+#include "battle/light/LightBurst.h"
+#include "look/Theme.h"
+
+namespace skylob {
+
+namespace {
+
+constexpr double kSignGlow = 13;  // in units of the gun's grid
+
+Colour sideColour(int side) {
+    return side == kLeftSide ? themeColour("side-1") : themeColour("side-2");
+}
+
+}  // namespace
+
+LightPoint GunLight::Gun::sign() const {
+    const GunScale scale = gunScale(area.width, area.height);
+    return {area.x + kTurnSignX * scale.x, area.y + kTurnSignY * scale.y};
+}
+
+double GunLight::Gun::signGlow() const {
+    return pose.onTurn ? kSignGlow * gunScale(area.width, area.height).barrel : 0;
+}
+
+PixelRect GunLight::Gun::seen() const {
+    if (!drawing) return {};
+    const PixelRect image{area.x + drawing->x, area.y + drawing->y, drawing->image.width,
+                          drawing->image.height};
+    return united(image, areaAround(sign(), signGlow()));
+}
+
+void GunLight::follow(const FieldSight& sight, ChangedAreas& changed) {
+    for (const int side : kSides) {
+        Gun& gun = m_guns[side];
+        const PixelRect area = sight.picture.pieceArea(side);
+        const GunPose pose = gunPose(side, sight);
+        if (gun.pose == pose && gun.area == area) continue;
+        changed.add(gun.seen());
+        gun = {pose, area, nullptr};
+        if (!area.isEmpty()) gun.drawing = m_drawings.draw(pose, {area.width, area.height});
+        changed.add(gun.seen());
+    }
+}
+
+void GunLight::paint(LightCanvas& canvas) const {
+    for (const int side : kSides) {
+        const Gun& gun = m_guns[side];
+        if (!gun.drawing) continue;
+        if (gun.pose.onTurn) canvas.glow(gun.sign(), gun.signGlow(), sideColour(side), 0.4);
+        canvas.image(gun.drawing->image, gun.area.x + gun.drawing->x, gun.area.y + gun.drawing->y);
+    }
+}
+
+}  // namespace skylob

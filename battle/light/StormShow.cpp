@@ -1,0 +1,119 @@
+#include "battle/light/StormShow.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+
+namespace skylob {
+
+namespace {
+
+constexpr int kDrops = 80;
+constexpr int kSlant = 5;  // a drop is blown one drop's width to the left for each 5 it falls
+constexpr std::uint32_t kNearDrop = 0xFF5B6E94u, kFarDrop = 0xFF35425Fu;
+
+// The sky in a flicker, the last picture first, and how rarely one comes: every three seconds.
+constexpr std::array<std::uint32_t, 5> kFlashes{0xFF070A12u, 0xFF161C30u, 0xFF0B0F1Bu, 0xFF242D49u,
+                                                0xFF121727u};
+constexpr int kPicturesForAFlicker = 30;
+
+int dropWidth(int height) {
+    return std::max(1, (height + 256) / 512);
+}
+
+/// The sizes are those of a field of 512 lines.
+int dropLength(int height, bool isNear) {
+    return std::max(2, height * (isNear ? 18 : 12) / 512);
+}
+
+PixelRect within(const PixelRect& area, const FieldPicture& picture) {
+    const int left = std::max(area.x, 0), top = std::max(area.y, 0);
+    return {left, top, std::min(area.x + area.width, picture.width()) - left,
+            std::min(area.y + area.height, picture.height()) - top};
+}
+
+}  // namespace
+
+void StormShow::advance(const FieldPicture& picture) {
+    if (m_width != picture.width() || m_height != picture.height()) strew(picture);
+    m_changes.swap(m_lit);
+    m_lit.clear();
+    m_lights.clear();
+    flicker(picture);
+    for (Drop& drop : m_drops) fall(drop, picture);
+    m_changes.insert(m_changes.end(), m_lit.begin(), m_lit.end());
+}
+
+void StormShow::end() {
+    m_changes.swap(m_lit);
+    m_lit.clear();
+    m_lights.clear();
+    m_flash = 0;
+}
+
+int StormShow::below(int end) {
+    return static_cast<int>(m_chance() % static_cast<unsigned>(std::max(end, 1)));
+}
+
+void StormShow::strew(const FieldPicture& picture) {
+    m_width = picture.width();
+    m_height = picture.height();
+    m_drops.clear();
+    for (int number = 0; number < kDrops; ++number) {
+        const int x = below(m_width), y = below(m_height);
+        m_drops.push_back({x, y, number % 2 == 0});
+    }
+}
+
+void StormShow::flicker(const FieldPicture& picture) {
+    if (m_flash > 0)
+        --m_flash;
+    else if (below(kPicturesForAFlicker) == 0)
+        m_flash = static_cast<int>(kFlashes.size());
+    if (m_flash == 0) return;
+    const PixelRect sky{0, 0, m_width, m_height};
+    lightUp(sky, kFlashes[static_cast<std::size_t>(m_flash - 1)], picture);
+    m_lit.push_back(sky);
+}
+
+void StormShow::fall(Drop& drop, const FieldPicture& picture) {
+    const int width = dropWidth(m_height), length = dropLength(m_height, drop.isNear);
+    const int way = length * 3 / 2;
+    drop.y += way;
+    drop.x -= way / kSlant;
+    if (drop.y >= m_height) drop = {below(m_width + m_height / kSlant), -below(way), drop.isNear};
+
+    const int step = width * kSlant, steps = (length + step - 1) / step;
+    const std::size_t before = m_lights.size();
+    for (int down = 0; down < steps; ++down)
+        lightUp({drop.x - down * width, drop.y + down * step, width,
+                 std::min(step, length - down * step)},
+                drop.isNear ? kNearDrop : kFarDrop, picture);
+    if (m_lights.size() == before) drop.y = m_height;  // behind a hill: the next one, please
+    const PixelRect around =
+        within({drop.x - (steps - 1) * width, drop.y, steps * width, length}, picture);
+    if (!around.isEmpty()) m_lit.push_back(around);
+}
+
+void StormShow::lightUp(const PixelRect& area, std::uint32_t pixel, const FieldPicture& picture) {
+    constexpr std::uint32_t kNothing = kBlack.pixel();
+    const PixelRect seen = within(area, picture);
+    const auto isBlack = [](std::uint32_t at) { return at == kNothing; };
+    for (int y = seen.y; y < seen.y + seen.height; ++y) {
+        const std::uint32_t* row = picture.screenPixels() + std::ptrdiff_t{y} * m_width;
+        const std::uint32_t *from = row + seen.x, *end = from + std::max(seen.width, 0);
+        while ((from = std::find_if(from, end, isBlack)) != end) {
+            const std::uint32_t* to = std::find_if_not(from, end, isBlack);
+            const PixelRect run{static_cast<int>(from - row), y, static_cast<int>(to - from), 1};
+            from = to;
+            PixelRect* above = m_lights.empty() ? nullptr : &m_lights.back().area;
+            if (above && m_lights.back().pixel == pixel && above->x == run.x &&
+                above->width == run.width && above->y + above->height == y)
+                ++above->height;
+            else
+                m_lights.push_back({run, pixel});
+        }
+    }
+}
+
+}  // namespace skylob
