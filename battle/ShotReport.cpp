@@ -49,9 +49,8 @@ bool isLost(RoundEnd end) {
 std::string outcome(const ShotReport& report, const PerSide<std::string>& names) {
     const std::string& name = names[report.side];
     if (report.end != RoundEnd::None)
-        return " " + (isLost(report.end) ? names[opponentOf(report.side)] : name) +
-               " wins the round.";
-    return " " + counted(report.deserted, "man", "men") + " deserted " + name + ".";
+        return (isLost(report.end) ? names[opponentOf(report.side)] : name) + " wins the round.";
+    return counted(report.deserted, "man", "men") + " deserted " + name + ".";
 }
 
 }  // namespace
@@ -63,7 +62,7 @@ std::string reportText(const ShotReport& report, const PerSide<std::string>& nam
                 "°: " + landingText(report, names);
     else
         text += " has no men left to shoot";
-    return text + "." + outcome(report, names);
+    return text + ". " + outcome(report, names);
 }
 
 std::string landingInShort(const ShotReport& report) {
