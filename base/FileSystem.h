@@ -30,7 +30,8 @@ class RandomAccessFile {
     /// The `count` bytes from `offset` on, or as many of them as there are.
     virtual std::string read(std::int64_t offset, std::size_t count) const = 0;
 
-    /// Writes all of `bytes` from `offset` on. When that fails, the file is as it was before.
+    /// Writes all of `bytes` from `offset` on. When that fails, the file is as it was before, or
+    /// the error says that it is not.
     virtual void write(std::int64_t offset, std::string_view bytes) = 0;
 
     /// Returns when everything written so far would survive a loss of power.

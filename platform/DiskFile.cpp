@@ -84,12 +84,11 @@ void DiskFile::write(std::int64_t offset, std::string_view bytes) {
     const std::int64_t lengthBefore = length();
     const std::string before = read(offset, bytes.size());
     if (tryToWrite(offset, bytes)) return;
-    const int reason = errno;
-    // What was there fits again.
-    static_cast<void>(tryToWrite(offset, before));
-    static_cast<void>(::ftruncate(m_descriptor, lengthBefore));
-    errno = reason;
-    failAsSystemSays("Could not write ", m_name);
+    std::string why = std::generic_category().message(errno);
+    tryToWrite(offset, before);  // it fits again
+    if (::ftruncate(m_descriptor, lengthBefore) != 0 || read(offset, bytes.size()) != before)
+        why += "\nPart of it is in the file";
+    failBecause("Could not write ", m_name, why);
 }
 
 /// False, with errno set, when not all of it could be written.

@@ -1,5 +1,6 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/mman.h>
 #include <sys/resource.h>
 #include <unistd.h>
 
@@ -240,8 +241,13 @@ TEST_F(PlayerFileTest, WritesAllOfARecordOrNothing) {
     std::signal(SIGXFSZ, SIG_IGN);
     put(ann + bob);
     limitFileSize(80);  // in the middle of a third record
-    EXPECT_THROW(add("Cyd"), FileError);
+    EXPECT_EQ(errorOf([this] { add("Cyd"); }), "Could not write " + path + ":\nFile too large");
     EXPECT_EQ(bytes(), ann + bob);
+    const int uncut = memfd_create("of which nothing can be cut off", MFD_ALLOW_SEALING);
+    fcntl(uncut, F_ADD_SEALS, F_SEAL_SHRINK);
+    const std::string name = "/proc/self/fd/" + std::to_string(uncut);
+    EXPECT_EQ(errorOf([&name] { DiskFile::tryToOpen(name, O_RDWR)->write(79, "ab"); }),
+              "Could not write " + name + ":\nFile too large\nPart of it is in the file");
     limitFileSize(35);  // in the middle of the second name
     EXPECT_THROW(rename(2, "Bertram the Elder"), FileError);
     file.OpenPlayerFile();

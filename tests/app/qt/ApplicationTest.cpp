@@ -21,7 +21,7 @@ class ApplicationTest : public QObject {
     void bringsEachScreenOnWhereTheOneBeforeItIs() {
         QWidget* const title = shown("frmTitlePage");
         QCOMPARE(title->pos(), QPoint(1400 + 380, 230));  // the pointer's display
-        title->move(100, 100);
+        move(title, {100, 100});
         onceModal([title](QWidget* welcome) {
             checkAbove(welcome, title, {120, 96});
             press(welcome, "cmdContinue");
@@ -30,7 +30,7 @@ class ApplicationTest : public QObject {
 
         QWidget* const list = shown("frmGetPlayers");
         QCOMPARE(list->pos(), QPoint(28, 68));
-        list->move(2800 - 788, 900 - 508);  // the right display's lower right corner
+        move(list, {2800 - 788, 900 - 508});  // the right display's lower right corner
         auto* const grid = list->findChild<QTableView*>("grid");
         QTRY_COMPARE(grid->model()->rowCount(), 1);
         QTest::keyClick(grid, Qt::Key_Return);
@@ -44,7 +44,7 @@ class ApplicationTest : public QObject {
 
         QWidget* const battle = shown("frmPlayGame");
         QCOMPARE(battle->pos(), QPoint(2800 - 1012, 900 - 732));
-        battle->move(100, 50);
+        move(battle, {100, 50});
         onceModal([battle](QWidget* summary) {
             checkAbove(summary, battle, {304, 192});
             press(summary, "cmdOkay");
@@ -70,6 +70,12 @@ class ApplicationTest : public QObject {
         for (QWidget* window : QApplication::topLevelWidgets())
             if (window->isVisible() && window->objectName() == name) return window;
         return nullptr;
+    }
+
+    /// Of a window that changes displays, newer toolkits tell the place only afterwards.
+    static void move(QWidget* screen, const QPoint& place) {
+        screen->move(place);
+        QTRY_COMPARE(screen->pos(), place);
     }
 
     static void press(QWidget* screen, const char* button) {
