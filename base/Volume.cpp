@@ -1,20 +1,22 @@
 #include "base/Volume.h"
 
-#include <charconv>
 #include <string>
+
+#include "base/WholeNumber.h"
 
 namespace skylob {
 
+namespace {
+constexpr std::string_view kKey = "Volume";
+}
+
 int recallVolume(const WindowStore& windows) {
-    const std::string kept = windows.recall("Volume", "");
-    int percent = 0;
-    const auto [end, error] = std::from_chars(kept.data(), kept.data() + kept.size(), percent);
-    const bool isNumber = error == std::errc{} && end == kept.data() + kept.size();
-    return isNumber && percent >= 0 && percent <= kFullVolume ? percent : kFullVolume;
+    const int percent = wholeNumber(windows.recall(kKey, "")).value_or(kFullVolume);
+    return percent >= 0 && percent <= kFullVolume ? percent : kFullVolume;
 }
 
 void keepVolume(WindowStore& windows, int percent) {
-    windows.keep("Volume", std::to_string(percent));
+    windows.keep(kKey, std::to_string(percent));
 }
 
 }  // namespace skylob

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "base/Volume.h"
+
 namespace skylob {
 
 /// A scroll bar's ends, and how far the Page keys move it; the arrow keys move every bar by 1. A
@@ -16,6 +18,6 @@ struct BarRange {
 inline constexpr BarRange kSpeedRange{100, 999, 10};
 inline constexpr BarRange kAngleRange{10, 90, 5};
 inline constexpr BarRange kGameSpeedRange{1, 99, 10};
-inline constexpr BarRange kVolumeRange{0, 100, 10};  ///< in percent
+inline constexpr BarRange kVolumeRange{0, kFullVolume, 10};  ///< in percent
 
 }  // namespace skylob

@@ -47,8 +47,7 @@ void showScore(BattlePanel& panel, const basSkylob& shared) {
     panel.score = "Rounds won: " + name[1] + " " + won[1] + ", " + name[2] + " " + won[2];
 }
 
-std::string reportOrNotice(const BattleState& state, const basSkylob& shared) {
-    if (!state.notice.empty()) return state.notice;
+std::string reportLine(const BattleState& state, const basSkylob& shared) {
     return state.report ? reportText(*state.report, shared.PlayerName) : std::string{};
 }
 
@@ -69,7 +68,7 @@ BattlePanel panelOf(const BattleState& state, const basSkylob& shared) {
                                  std::to_string(shared.NumRounds);
         showScore(panel, shared);
     }
-    panel.labelReport = reportOrNotice(state, shared);
+    panel.labelReport = reportLine(state, shared);
     panel.chkSound = state.SoundOn;
     panel.chkTrajectory = state.ShowTrajectory;
     panel.chkMeteors = state.chkMeteors;

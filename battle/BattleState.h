@@ -1,7 +1,6 @@
 #pragma once
 
 #include <optional>
-#include <string>
 
 #include "base/Clock.h"
 #include "base/PerSide.h"
@@ -44,7 +43,6 @@ struct BattleState {
 
     std::optional<ShotReport> report;             ///< of the last shot of the set
     PerSide<std::optional<ShotReport>> lastShot;  ///< each side's, of this round
-    std::string notice;  ///< where the report stands, instead of it; empty: there is none
 
     int NearMissKills = 0;  ///< men killed by the last near miss
     int LastImpactX = 0;    ///< where the computer's last shell came down

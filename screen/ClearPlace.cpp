@@ -23,15 +23,9 @@ Span down(const DesktopArea& area) {
     return {area.y, area.height};
 }
 
-int overlap(Span one, Span other) {
-    return std::max(std::min(one.end(), other.end()) - std::max(one.start, other.start), 0);
-}
-
 std::int64_t hidden(const DesktopArea& window, const std::vector<DesktopArea>& toBeSeen) {
     std::int64_t pixels = 0;
-    for (const DesktopArea& part : toBeSeen)
-        pixels +=
-            std::int64_t{overlap(across(window), across(part))} * overlap(down(window), down(part));
+    for (const DesktopArea& part : toBeSeen) pixels += sharedPixels(window, part);
     return pixels;
 }
 

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
-#include <cstdint>
 #include <utility>
+
+#include "base/WholeNumber.h"
 
 namespace skylob {
 
@@ -18,13 +18,6 @@ constexpr std::array<std::pair<WindowState, std::string_view>, 3> kStates{
      {WindowState::Maximised, "maximised"},
      {WindowState::FullScreen, "fullscreen"}}};
 
-std::optional<int> numberOf(std::string_view text) {
-    int number = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (error != std::errc{} || end != text.data() + text.size()) return {};
-    return number;
-}
-
 /// Takes off what stands in front of the first comma.
 std::string_view takeField(std::string_view& text) {
     const std::string_view field = text.substr(0, text.find(','));
@@ -37,11 +30,11 @@ std::int64_t sharedLength(int start, int length, int otherStart, int otherLength
     return std::max(0, end - std::max(start, otherStart));
 }
 
+}  // namespace
+
 std::int64_t sharedPixels(const DesktopArea& a, const DesktopArea& b) {
     return sharedLength(a.x, a.width, b.x, b.width) * sharedLength(a.y, a.height, b.y, b.height);
 }
-
-}  // namespace
 
 std::string toText(const WindowPlace& place) {
     std::string text;
@@ -56,7 +49,7 @@ std::optional<WindowPlace> placeOf(std::string_view text) {
     WindowPlace place;
     auto& [x, y, width, height] = place.area;
     for (int* const number : {&x, &y, &width, &height}) {
-        const std::optional<int> read = numberOf(takeField(text));
+        const std::optional<int> read = wholeNumber(takeField(text));
         if (!read || *read < -kFarthest || *read > kFarthest) return {};
         *number = *read;
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -15,6 +16,9 @@ struct DesktopArea {
 
     bool operator==(const DesktopArea&) const = default;
 };
+
+/// How many pixels the two have in common.
+std::int64_t sharedPixels(const DesktopArea& a, const DesktopArea& b);
 
 enum class WindowState { Normal, Maximised, FullScreen };
 

@@ -23,9 +23,12 @@ bool isInput(QEvent::Type type) {
     }
 }
 
-bool isEnter(const QKeyEvent& event) {
-    const bool alone = (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
-    return alone && (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter);
+bool isAlone(const QKeyEvent& event) {
+    return (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+}
+
+bool isEnterKey(const QKeyEvent& event) {
+    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
 
 }  // namespace skylob

@@ -27,9 +27,7 @@ int dropLength(int height, bool isNear) {
 }
 
 PixelRect within(const PixelRect& area, const FieldPicture& picture) {
-    const int left = std::max(area.x, 0), top = std::max(area.y, 0);
-    return {left, top, std::min(area.x + area.width, picture.width()) - left,
-            std::min(area.y + area.height, picture.height()) - top};
+    return common(area, {0, 0, picture.width(), picture.height()});
 }
 
 }  // namespace
@@ -99,16 +97,16 @@ void StormShow::lightUp(const PixelRect& area, std::uint32_t pixel, const FieldP
     constexpr std::uint32_t kNothing = kBlack.pixel();
     const PixelRect seen = within(area, picture);
     const auto isBlack = [](std::uint32_t at) { return at == kNothing; };
-    for (int y = seen.y; y < seen.y + seen.height; ++y) {
+    for (int y = seen.y; y < seen.bottom(); ++y) {
         const std::uint32_t* row = picture.screenPixels() + std::ptrdiff_t{y} * m_width;
-        const std::uint32_t *from = row + seen.x, *end = from + std::max(seen.width, 0);
+        const std::uint32_t *from = row + seen.x, *end = from + seen.width;
         while ((from = std::find_if(from, end, isBlack)) != end) {
             const std::uint32_t* to = std::find_if_not(from, end, isBlack);
             const PixelRect run{static_cast<int>(from - row), y, static_cast<int>(to - from), 1};
             from = to;
             PixelRect* above = m_lights.empty() ? nullptr : &m_lights.back().area;
             if (above && m_lights.back().pixel == pixel && above->x == run.x &&
-                above->width == run.width && above->y + above->height == y)
+                above->width == run.width && above->bottom() == y)
                 ++above->height;
             else
                 m_lights.push_back({run, pixel});

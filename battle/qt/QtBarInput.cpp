@@ -6,6 +6,8 @@
 #include <QTimer>
 #include <QWheelEvent>
 
+#include "base/qt/QtInput.h"
+
 namespace skylob {
 
 namespace {
@@ -15,9 +17,8 @@ constexpr int kPatience = 1000;  // milliseconds
 
 /// The digit of a key that is pressed alone; -1 for any other.
 int digitOf(const QKeyEvent& key) {
-    const bool isAlone = (key.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
     const bool isDigit = key.key() >= Qt::Key_0 && key.key() <= Qt::Key_9;
-    return isAlone && isDigit ? key.key() - Qt::Key_0 : -1;
+    return isDigit && isAlone(key) ? key.key() - Qt::Key_0 : -1;
 }
 
 }  // namespace

@@ -49,11 +49,7 @@ bool QtDragAim::fieldEvent(QEvent* event) {
     switch (event->type()) {
         case QEvent::MouseButtonPress:
             m_swallowsRelease = false;
-            if (mouse.button() == Qt::LeftButton && mayDrag() &&
-                m_field->pieceAt(mouse.position()) == m_battle.state().Shooter) {
-                m_drag = Drag{mouse.position(), mouse.position()};
-                qApp->installEventFilter(this);
-            }
+            if (mouse.button() == Qt::LeftButton) press(mouse.position());
             return false;
         case QEvent::MouseMove:
             if (m_drag) moveTo(mouse.position());
@@ -62,6 +58,7 @@ bool QtDragAim::fieldEvent(QEvent* event) {
             return mouse.button() == Qt::LeftButton && release();
         case QEvent::Hide:
         case QEvent::EnabledChange:
+        case QEvent::WindowBlocked:  // the release would be lost on the box above
             drop();
             return false;
         default:
@@ -71,6 +68,12 @@ bool QtDragAim::fieldEvent(QEvent* event) {
 
 bool QtDragAim::mayDrag() const {
     return m_battle.panel().commandsEnabled;
+}
+
+void QtDragAim::press(const QPointF& at) {
+    if (!mayDrag() || m_field->pieceAt(at) != m_battle.state().Shooter) return;
+    m_drag = Drag{at, at};
+    qApp->installEventFilter(this);
 }
 
 void QtDragAim::moveTo(const QPointF& at) {

@@ -30,6 +30,7 @@ class QtDragAim : public QWidget {
     bool eventFilter(QObject* watched, QEvent* event) override;
     bool fieldEvent(QEvent* event);
     bool mayDrag() const;
+    void press(const QPointF& at);
     void moveTo(const QPointF& at);
     bool release();
     void aim(const QPointF& at);

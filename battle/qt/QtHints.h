@@ -4,8 +4,6 @@
 
 #include "base/WindowStore.h"
 
-class QScrollBar;
-
 namespace skylob {
 
 class GlintButton;

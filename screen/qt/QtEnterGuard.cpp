@@ -1,17 +1,10 @@
 #include "screen/qt/QtEnterGuard.h"
 
 #include <QApplication>
-#include <QKeyEvent>
+
+#include "base/qt/QtInput.h"
 
 namespace skylob {
-
-namespace {
-
-bool isEnterKey(const QKeyEvent& event) {
-    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-}
-
-}  // namespace
 
 QtEnterGuard::QtEnterGuard() {
     qApp->installEventFilter(this);

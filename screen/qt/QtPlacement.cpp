@@ -22,10 +22,6 @@ void centre(QWidget& window, const QPoint& middle, const QRect& display, const Q
                 std::max(std::min(corner.y(), last.y()), display.top()));
 }
 
-DesktopArea areaOf(const QRect& rect) {
-    return {rect.x(), rect.y(), rect.width(), rect.height()};
-}
-
 /// The part of an area that is on the display; of one that is elsewhere, the display.
 QRect seenPart(const QRect& area, const QRect& display) {
     const QRect seen = display & area;
@@ -37,6 +33,10 @@ QSize frameOf(const QWidget& window) {
 }
 
 }  // namespace
+
+DesktopArea areaOf(const QRect& rect) {
+    return {rect.x(), rect.y(), rect.width(), rect.height()};
+}
 
 QScreen* displayOf(const QWidget* before) {
     if (before) return before->screen();

@@ -3,6 +3,8 @@
 #include <QList>
 #include <QRect>
 
+#include "screen/WindowPlace.h"
+
 class QScreen;
 class QWidget;
 
@@ -11,6 +13,8 @@ namespace skylob {
 // Where a window comes up that has not been shown yet: on the display of the window `before` it,
 // which may just have hidden itself. Without one, on the display where the pointer is. What does
 // not fit on its display shows its upper left corner. A desktop may choose places itself.
+
+DesktopArea areaOf(const QRect& rect);
 
 /// That display.
 QScreen* displayOf(const QWidget* before);

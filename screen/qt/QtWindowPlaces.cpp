@@ -14,10 +14,6 @@ namespace skylob {
 
 namespace {
 
-DesktopArea toArea(const QRect& rect) {
-    return {rect.x(), rect.y(), rect.width(), rect.height()};
-}
-
 QRect toRect(const DesktopArea& area) {
     return {area.x, area.y, area.width, area.height};
 }
@@ -59,7 +55,7 @@ Site siteOf(const QString& name, const WindowStore& windows, const QWidget* befo
     QList<QScreen*> displays{site.display};
     displays += QGuiApplication::screens();
     std::vector<DesktopArea> areas;
-    for (const QScreen* display : displays) areas.push_back(toArea(display->geometry()));
+    for (const QScreen* display : displays) areas.push_back(areaOf(display->geometry()));
     QScreen* const showing =
         displays.at(static_cast<qsizetype>(displayShowing(site.place->area, areas)));
     site.holds = memory == PlaceMemory::OnAnyDisplay || showing == site.display;
@@ -72,7 +68,7 @@ Site siteOf(const QString& name, const WindowStore& windows, const QWidget* befo
 void keepPlace(const QtScreen& screen, WindowStore& windows) {
     const WindowState state = stateOf(screen);
     const QRect area = state == WindowState::Normal ? screen.geometry() : screen.normalGeometry();
-    windows.keep(keyOf(screen.objectName()), toText({toArea(area), state}));
+    windows.keep(keyOf(screen.objectName()), toText({areaOf(area), state}));
 }
 
 void bringToPlace(QtScreen& screen, const WindowStore& windows, const QWidget* before,
@@ -86,7 +82,7 @@ void bringToPlace(QtScreen& screen, const WindowStore& windows, const QWidget* b
     } else {
         const QRect area{toRect(site.place->area).topLeft(), screen.size()};
         screen.setScreen(site.display);
-        screen.setGeometry(toRect(broughtInto(toArea(area), toArea(room))));
+        screen.setGeometry(toRect(broughtInto(areaOf(area), areaOf(room))));
     }
     if (site.place) screen.setWindowState(toQt(site.place->state));
 }

@@ -79,7 +79,7 @@ struct LitBattle : SkyRig {
         return false;
     }
 
-    static constexpr int kEdge = 1000;
+    static constexpr int kEdge = 500;
     FieldLayer layer{battle.picture(), battle.scene(), battle.state()};
     FieldLayer whole{battle.picture(), battle.scene(), battle.state()};
     std::vector<std::uint32_t> window = std::vector<std::uint32_t>(kEdge * kEdge), refreshed;

@@ -78,7 +78,8 @@ class frmPlayGameTest : public QObject {
         QTest::mouseClick(shoot, Qt::LeftButton);
         QCoreApplication::processEvents();
         QCOMPARE(screen.shots(), 1u);
-        QVERIFY(flights >= 3 && screen.form->isVisible());
+        QVERIFY(flights >= 3);
+        QVERIFY(screen.form->isVisible());
         QCOMPARE(enemySpeed->value(), 300);
         QVERIFY(screen.shows("Speed: 300"));
         QTest::mouseClick(shoot, Qt::LeftButton);
@@ -109,10 +110,11 @@ class frmPlayGameTest : public QObject {
         screen.pacer.atYield = [&] { QTRY_VERIFY(hasClicked); };  // the computer's turn by now
         sound->animateClick();
         QTest::mouseClick(screen.shoot(), Qt::LeftButton);
-        QVERIFY(hasClicked && !sound->isChecked() && !screen.form->battle().state().SoundOn);
+        const bool& isOn = screen.form->battle().state().SoundOn;
+        QCOMPARE((QList{hasClicked, sound->isChecked(), isOn}), (QList{true, false, false}));
         QTRY_VERIFY(sound->isEnabled());
         sound->click();
-        QVERIFY(sound->isChecked() && screen.form->battle().state().SoundOn);
+        QCOMPARE((QList{sound->isChecked(), isOn}), (QList{true, true}));
     }
 
     void switchesTheLightOverTheField() {
@@ -231,7 +233,8 @@ class frmPlayGameTest : public QObject {
         for (int x = 1; x <= kColumns; ++x)
             columns += seenAt(x, field.heightAt(x) - 20) == ground &&
                        seenAt(x, field.heightAt(x) + 40) != ground;
-        QVERIFY(stars > 860 && columns > 980);  // a trail and a mark hide the others
+        QVERIFY2(stars > 860, qPrintable(QString::number(stars)));      // a trail hides the others
+        QVERIFY2(columns > 980, qPrintable(QString::number(columns)));  // and a mark
         QCOMPARE(screen.random.draws(), untouched.random.draws());
         QTest::mouseClick(screen.field(), Qt::LeftButton, {}, {1275, 664});  // the right piece
         QCOMPARE(screen.shots(), 2u);
@@ -314,7 +317,8 @@ class frmPlayGameTest : public QObject {
                 QVERIFY(yields < 25);
             }
             QCOMPARE(screen.shots(), 1u);
-            QVERIFY(!meteors->isChecked() && !screen.form->isVisible() && !timer->isActive());
+            QCOMPARE((QList{meteors->isChecked(), screen.form->isVisible(), timer->isActive()}),
+                     QList<bool>(3, false));
         }
     }
 
@@ -330,7 +334,8 @@ class frmPlayGameTest : public QObject {
             QVERIFY(before != image);
             QCOMPARE(before, form.grab().toImage());  // painted bit by bit, and all at once
             QVERIFY(before.pixelColor(golden).lightness() < brightness * 2 / 3);
-            QVERIFY(screen.shoot()->isEnabled() && form.cursor().shape() == Qt::WaitCursor);
+            QVERIFY(screen.shoot()->isEnabled());
+            QCOMPARE(form.cursor().shape(), Qt::WaitCursor);
             const char* const says =
                 left > 60'000 ? "1:01" : "0:01  Closing waits until it is over.";
             if (left != 60'000)
@@ -342,7 +347,8 @@ class frmPlayGameTest : public QObject {
         screen.clock.time += std::chrono::hours{1};
         screen.random.script({0});
         QMetaObject::invokeMethod(form.findChild<QTimer*>("timerLightning"), "timeout");
-        QVERIFY(!before.isNull() && !form.isVisible() && form.cursor().shape() == Qt::ArrowCursor);
+        QCOMPARE((QList{before.isNull(), form.isVisible()}), (QList{false, false}));
+        QCOMPARE(form.cursor().shape(), Qt::ArrowCursor);
         QCOMPARE(screen.bar("scrollGameSpeed")->value(), 99);
     }
 
@@ -384,7 +390,7 @@ class frmPlayGameTest : public QObject {
         QTimer::singleShot(0, this, [&modal] {
             QWidget* const box = QApplication::activeModalWidget();
             const auto* const label = box->findChild<QLabel*>("labelText");
-            QVERIFY(label && label->textFormat() == Qt::PlainText);
+            QCOMPARE(label->textFormat(), Qt::PlainText);
             QCOMPARE(label->text(), QStringLiteral("<b>?</b>\n\nReally"));
             QCOMPARE(box->windowHandle()->transientParent(), modal.windowHandle());
             QTest::keyClick(box, Qt::Key_Escape);
