@@ -20,10 +20,19 @@ namespace skylob {
 
 namespace {
 
+/// Whether it is modal may be told the screen after the toolkit has made this.
+class ScreenAccessible : public QAccessibleWidget {
+  public:
+    explicit ScreenAccessible(QtScreen* screen) : QAccessibleWidget{screen} {}
+
+    QAccessible::Role role() const override {
+        return widget()->isModal() ? QAccessible::Dialog : QAccessibleWidget::role();
+    }
+};
+
 QAccessibleInterface* makeAccessible(const QString&, QObject* object) {
     auto* screen = qobject_cast<QtScreen*>(object);
-    return screen && screen->isModal() ? new QAccessibleWidget{screen, QAccessible::Dialog}
-                                       : nullptr;
+    return screen ? new ScreenAccessible{screen} : nullptr;
 }
 
 }  // namespace
