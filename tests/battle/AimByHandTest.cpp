@@ -20,7 +20,9 @@ TEST(AimByHand, TypedNumbersAreSetWhenTheyAreCompleteAndInRange) {
         std::string values;
         for (const char key : std::string_view{keys}) {
             const auto value = key == '.' ? number.finish() : number.type(key - '0');
-            if (value) values += (values.empty() ? "" : " ") + std::to_string(*value);
+            if (!value) continue;
+            if (!values.empty()) values += ' ';
+            values += std::to_string(*value);
         }
         EXPECT_EQ(values, set) << keys;
     }
