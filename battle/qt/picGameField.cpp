@@ -3,6 +3,7 @@
 #include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScopedValueRollback>
 #include <QToolTip>
 #include <QWindow>
 #include <algorithm>
@@ -84,7 +85,8 @@ void picGameField::paintEvent(QPaintEvent* event) {
         return;
     }
     const qreal ratio = devicePixelRatioF();
-    for (const QRect& part : event->region()) {
+    const QList<QRect> all{event->region().begin(), event->region().end()};
+    for (const QRect& part : event->rect() == m_stormStep ? m_stormParts : all) {
         const QRectF source{part.x() * ratio, part.y() * ratio, part.width() * ratio,
                             part.height() * ratio};
         painter.drawImage(QRectF{part}, image, source);
@@ -112,9 +114,15 @@ void picGameField::endStorm() {
 }
 
 void picGameField::repaintStorm() {
-    QRegion changed;
-    for (const PixelRect& area : m_storm.changes()) changed += logical(area).toAlignedRect();
-    repaint(changed);
+    m_stormParts.clear();
+    QRect around;
+    for (const PixelRect& area : m_storm.changes()) {
+        m_stormParts.append(logical(area).toAlignedRect());
+        around |= m_stormParts.last();
+    }
+    // Clipping to a hundred small rectangles would cost twice as much as sending one large one.
+    const QScopedValueRollback step{m_stormStep, around};
+    repaint(around);
 }
 
 void picGameField::paintStorm(QPainter& painter) const {
