@@ -11,7 +11,6 @@ namespace skylob {
 namespace {
 
 constexpr int kSmallestSize = 12;
-constexpr bool kHasAnnouncements = QT_VERSION >= QT_VERSION_CHECK(6, 8, 0);
 
 QString withoutClock(QString text) {
     static const QRegularExpression clock{QStringLiteral("\\d+:\\d\\d")};
@@ -22,15 +21,15 @@ QString withoutClock(QString text) {
 
 QtReportLabel::QtReportLabel(QWidget* parent) : QLabel{parent} {
     setTextFormat(Qt::PlainText);
-    // Without announcements, what readers speak when it comes up is a notification.
-    if (!kHasAnnouncements) setSpokenRole(*this, QAccessible::Notification);
-    hide();
+    // Readers speak these when they come up, this one with the screen.
+    setSpokenRole(*this, QAccessible::Notification);
+    setAccessibleName(tr("The battle begins"));
 }
 
 void QtReportLabel::showReport(const QString& text) {
     if (text == m_text) return;
     put(text, text);
-    if (text == m_report) return;
+    if (text.isEmpty() || text == m_report) return;
     m_report = text;
     speak();
 }
@@ -45,23 +44,17 @@ void QtReportLabel::showCountdown(const QString& text) {
 
 void QtReportLabel::put(const QString& text, const QString& spoken) {
     m_text = text;
-    setAccessibleName(spoken);
+    setSpokenName(*this, spoken.isEmpty() ? tr("The battle begins") : spoken);
     showFitting(*this, text, {kTextSize, kSmallestSize});
-    if (text.isEmpty()) hide();
 }
 
 void QtReportLabel::speak() {
-    if (m_text.isEmpty()) return;
-    const bool comesUp = isHidden();
-    show();
 #if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
     QAccessibleAnnouncementEvent event{this, accessibleName()};
-    QAccessible::updateAccessibility(&event);
 #else
-    if (comesUp) return;  // the toolkit has told of that
     QAccessibleEvent event{this, QAccessible::ObjectShow};
-    QAccessible::updateAccessibility(&event);
 #endif
+    QAccessible::updateAccessibility(&event);
 }
 
 void QtReportLabel::resizeEvent(QResizeEvent* event) {
