@@ -13,6 +13,9 @@ class GunLight : public LightPainter {
     void follow(const FieldSight& sight, ChangedAreas& changed) override;
     void paint(LightCanvas& canvas) const override;
 
+    /// Whether a gun, or the sign over it, is shown in that device pixel.
+    bool covers(int px, int py) const;
+
   private:
     struct Gun {
         GunPose pose;
@@ -21,6 +24,7 @@ class GunLight : public LightPainter {
 
         LightPoint sign() const;
         double signGlow() const;
+        PixelRect image() const;
         PixelRect seen() const;
     };
 
