@@ -13,6 +13,7 @@
 #include "app/qt/Application.h"
 #include "app/qt/QtCommandLine.h"
 #include "base/Release.h"
+#include "platform/qt/QtPictureTransport.h"
 
 namespace {
 
@@ -81,6 +82,7 @@ int main(int argc, char** argv) {
     }
     if (!enterDataFolder(commandLine)) return kUnusableArguments;
     if (!hasDisplay()) return EXIT_FAILURE;
+    skylob::sendPicturesInline();
     int toolkitArguments = 1;  // the arguments are ours alone
     const auto usualHandler = qInstallMessageHandler(endWhereThereIsNoDisplay);
     skylob::Application application{toolkitArguments, argv, commandLine};

@@ -3,7 +3,6 @@
 #include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QScopedValueRollback>
 #include <QToolTip>
 #include <QWindow>
 #include <algorithm>
@@ -85,8 +84,7 @@ void picGameField::paintEvent(QPaintEvent* event) {
         return;
     }
     const qreal ratio = devicePixelRatioF();
-    const QList<QRect> all{event->region().begin(), event->region().end()};
-    for (const QRect& part : event->rect() == m_stormStep ? m_stormParts : all) {
+    for (const QRect& part : event->region()) {
         const QRectF source{part.x() * ratio, part.y() * ratio, part.width() * ratio,
                             part.height() * ratio};
         painter.drawImage(QRectF{part}, image, source);
@@ -114,15 +112,9 @@ void picGameField::endStorm() {
 }
 
 void picGameField::repaintStorm() {
-    m_stormParts.clear();
-    QRect around;
-    for (const PixelRect& area : m_storm.changes()) {
-        m_stormParts.append(logical(area).toAlignedRect());
-        around |= m_stormParts.last();
-    }
-    // Clipping to a hundred small rectangles would cost twice as much as sending one large one.
-    const QScopedValueRollback step{m_stormStep, around};
-    repaint(around);
+    QRegion changed;
+    for (const PixelRect& area : m_storm.changes()) changed += logical(area).toAlignedRect();
+    repaint(changed);
 }
 
 void picGameField::paintStorm(QPainter& painter) const {

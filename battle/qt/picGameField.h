@@ -69,8 +69,6 @@ class picGameField : public QWidget {
     FieldLayer& m_layer;
     const QtShapes& m_shapes;
     StormShow m_storm;
-    QList<QRect> m_stormParts;  ///< the parts of the storm's next picture that differ from the last
-    QRect m_stormStep;          ///< around them, while they are repainted
     int m_pressedPiece = 0;
     QPointF m_pressedAt;
 };
