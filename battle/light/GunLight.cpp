@@ -1,19 +1,13 @@
 #include "battle/light/GunLight.h"
 
-#include "battle/light/LightBurst.h"
+#include "battle/light/LightMath.h"
 #include "look/Theme.h"
 
 namespace skylob {
 
 namespace {
-
 constexpr double kSignGlow = 13;  // in units of the gun's grid
-
-Colour sideColour(int side) {
-    return side == kLeftSide ? themeColour("side-1") : themeColour("side-2");
 }
-
-}  // namespace
 
 LightPoint GunLight::Gun::sign() const {
     const GunScale scale = gunScale(area.width, area.height);
