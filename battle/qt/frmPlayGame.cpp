@@ -173,6 +173,7 @@ void frmPlayGame::askedToClose() {
 }
 
 void frmPlayGame::showField() {
+    if (const auto place = m_field->placeOfShell(m_battle.scene())) bringIntoView(*m_field, *place);
     m_field->showChanges();
 }
 

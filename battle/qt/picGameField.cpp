@@ -59,6 +59,17 @@ QRect picGameField::placeOf(FieldPoint point) const {
     return onDesktop(m_picture.dotArea(point.x, point.y));
 }
 
+std::optional<QPoint> picGameField::placeOfShell(const FieldScene& scene) const {
+    const auto& [side, inTheAir, leavesTrail, path] = scene.flight;
+    std::optional<FieldPoint> at;
+    if (inTheAir && !path.empty()) at = path.back();
+    if (scene.blast) at = scene.blast->at;
+    if (!at) return std::nullopt;
+    const QPointF place = widgetPoint(*at);
+    return QPoint{qRound(std::clamp(place.x(), 0.0, width() - 1.0)),
+                  qRound(std::clamp(place.y(), 0.0, height() - 1.0))};
+}
+
 QRect picGameField::onDesktop(const PixelRect& area) const {
     const QRect place = logical(area).toAlignedRect().marginsAdded(
         {kRoomRound, kRoomRound, kRoomRound, kRoomRound});

@@ -2,9 +2,11 @@
 
 #include <QImage>
 #include <QWidget>
+#include <optional>
 
 #include "battle/FieldPicture.h"
 #include "battle/FieldPoint.h"
+#include "battle/FieldScene.h"
 #include "battle/light/StormShow.h"
 
 namespace skylob {
@@ -40,6 +42,9 @@ class picGameField : public QWidget {
     /// Lets a storm's show go on by a picture, over the rules' picture, or ends it.
     void showStorm();
     void endStorm();
+
+    /// Where on this widget a shell flies or bursts; nothing when none does.
+    std::optional<QPoint> placeOfShell(const FieldScene& scene) const;
 
     /// Where on the desktop a side's piece is, and a point of the field, each with some room round
     /// it.

@@ -253,8 +253,15 @@ class frmPlayGameTest : public QObject {
             control->setFocus();
             QCOMPARE(inView(control), control->rect());
         }
-        screen.pacer.duringFlight = [&] { QCOMPARE(inView(screen.field()).height(), 400); };
-        QTest::mouseClick(screen.shoot(), Qt::LeftButton);
+        screen.form->fitInto({480, 450});
+        screen.pacer.duringFlight = [&] {
+            QCOMPARE(inView(screen.field()).height(), 400);
+            const auto shell = screen.field()->placeOfShell(screen.form->battle().scene());
+            QVERIFY(inView(screen.field()).contains(shell.value()));
+        };
+        for (int shot = 1; shot <= 2; ++shot)
+            QTest::keyClick(screen.form.get(), Qt::Key_S, Qt::AltModifier);
+        QCOMPARE(screen.shots(), 2u);
     }
 
     void laysOutAnySize() {
