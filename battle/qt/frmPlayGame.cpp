@@ -217,7 +217,7 @@ void frmPlayGame::showHints(const BattlePanel& panel) {
     if (m_hints && !panel.commandsEnabled)
         m_hints->end();
     else if (panel.commandsEnabled && QtHints::areWanted(m_windows))
-        m_hints = new QtHints{m_side[panel.turn], cmdShoot, m_layout.labelReport, m_windows};
+        m_hints = new QtHints{m_side[panel.turn], cmdShoot, labelReport, m_windows};
 }
 
 void frmPlayGame::moveFocusToTurn(int turn) {

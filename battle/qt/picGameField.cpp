@@ -77,10 +77,14 @@ QRect picGameField::onDesktop(const PixelRect& area) const {
 }
 
 void picGameField::showChanges() {
+    repaintAreas(m_layer.update(m_picture.takeDirty()));
+}
+
+void picGameField::repaintAreas(const std::vector<PixelRect>& areas) {
     QRegion changed;
     // Scaled, a pixel reaches into its neighbours.
     const int reach = isFitting() ? 0 : 1;
-    for (const PixelRect& area : m_layer.update(m_picture.takeDirty()))
+    for (const PixelRect& area : areas)
         changed += logical(area).toAlignedRect().adjusted(-reach, -reach, reach, reach);
     if (!changed.isEmpty()) repaint(changed);
 }
@@ -89,16 +93,16 @@ void picGameField::paintEvent(QPaintEvent* event) {
     const QImage image = shown();
     if (image.isNull()) return;
     QPainter painter{this};
-    if (image.size() != fittingSize()) {
+    if (image.size() == fittingSize()) {
+        const qreal ratio = devicePixelRatioF();
+        for (const QRect& part : event->region()) {
+            const QRectF source{part.x() * ratio, part.y() * ratio, part.width() * ratio,
+                                part.height() * ratio};
+            painter.drawImage(QRectF{part}, image, source);
+        }
+    } else {
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
         painter.drawImage(QRectF{rect()}, image);
-        return;
-    }
-    const qreal ratio = devicePixelRatioF();
-    for (const QRect& part : event->region()) {
-        const QRectF source{part.x() * ratio, part.y() * ratio, part.width() * ratio,
-                            part.height() * ratio};
-        painter.drawImage(QRectF{part}, image, source);
     }
     paintStorm(painter);
 }
@@ -112,26 +116,21 @@ QImage picGameField::shown() const {
 void picGameField::showStorm() {
     const QWindow* display = window()->windowHandle();
     if (!isVisible() || !display || !display->isExposed()) return;  // nobody sees it
-    if (!m_layer.isOn() || !isFitting()) return;
+    if (!m_layer.isOn()) return;
     m_storm.advance(m_layer);
-    repaintStorm();
+    repaintAreas(m_storm.changes());
 }
 
 void picGameField::endStorm() {
     m_storm.end();
-    repaintStorm();
-}
-
-void picGameField::repaintStorm() {
-    QRegion changed;
-    for (const PixelRect& area : m_storm.changes()) changed += logical(area).toAlignedRect();
-    repaint(changed);
+    repaintAreas(m_storm.changes());
 }
 
 void picGameField::paintStorm(QPainter& painter) const {
-    painter.scale(1 / devicePixelRatioF(), 1 / devicePixelRatioF());
-    for (const auto& [area, pixel] : m_storm.lights())
-        painter.fillRect(area.x, area.y, area.width, area.height, QColor::fromRgb(pixel));
+    const QRectF pixel = logical({0, 0, 1, 1});
+    painter.scale(pixel.width(), pixel.height());
+    for (const auto& [area, colour] : m_storm.lights())
+        painter.fillRect(area.x, area.y, area.width, area.height, QColor::fromRgb(colour));
 }
 
 void picGameField::mousePressEvent(QMouseEvent* event) {

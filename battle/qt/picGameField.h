@@ -65,7 +65,7 @@ class picGameField : public QWidget {
     QImage shown() const;
     QSize fittingSize() const;
     bool isFitting() const;
-    void repaintStorm();
+    void repaintAreas(const std::vector<PixelRect>& areas);
     void paintStorm(QPainter& painter) const;
     QRectF logical(const PixelRect& area) const;
     QRect onDesktop(const PixelRect& area) const;
