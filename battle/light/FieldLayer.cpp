@@ -90,10 +90,12 @@ const std::uint32_t* FieldLayer::pixels() const {
     return m_on ? m_shown.data() : m_picture.screenPixels();
 }
 
-bool FieldLayer::takesLight(int px, int py) const {
-    const std::ptrdiff_t at = std::ptrdiff_t{py} * m_picture.width() + px;
-    return m_picture.screenPixels()[at] == kBlackPixel &&
-           !(m_on && m_guns && m_guns->covers(px, py));
+bool FieldLayer::showsGuns(int py) const {
+    return m_on && m_guns && m_guns->isIn(py);
+}
+
+bool FieldLayer::showsGun(int px, int py) const {
+    return showsGuns(py) && m_guns->covers(px, py);
 }
 
 const std::vector<PixelRect>& FieldLayer::update(const PixelRect& changed) {

@@ -40,9 +40,12 @@ class FieldLayer {
     int width() const { return m_on ? m_width : m_picture.width(); }
     int height() const { return m_on ? m_height : m_picture.height(); }
 
-    /// Whether what lights the sky may fall on that pixel: it is black in the rules' picture, and
-    /// no part of a gun that the layer shows.
-    bool takesLight(int px, int py) const;
+    /// The rules' picture under it, of that size.
+    const std::uint32_t* rules() const { return m_picture.screenPixels(); }
+
+    /// Whether a gun is shown in that row, and in that pixel; never by the rules' own images.
+    bool showsGuns(int py) const;
+    bool showsGun(int px, int py) const;
 
   private:
     template <typename Painter, typename... Ports>

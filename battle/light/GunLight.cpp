@@ -1,5 +1,7 @@
 #include "battle/light/GunLight.h"
 
+#include <algorithm>
+
 #include "battle/light/LightMath.h"
 #include "look/Theme.h"
 
@@ -38,6 +40,13 @@ void GunLight::follow(const FieldSight& sight, ChangedAreas& changed) {
         if (!area.isEmpty()) gun.drawing = m_drawings.draw(pose, {area.width, area.height});
         changed.add(gun.seen());
     }
+}
+
+bool GunLight::isIn(int py) const {
+    return std::any_of(kSides.begin(), kSides.end(), [&](int side) {
+        const PixelRect image = m_guns[side].image();
+        return py >= image.y && py < image.bottom();
+    });
 }
 
 bool GunLight::covers(int px, int py) const {

@@ -13,7 +13,8 @@ class GunLight : public LightPainter {
     void follow(const FieldSight& sight, ChangedAreas& changed) override;
     void paint(LightCanvas& canvas) const override;
 
-    /// Whether a gun, or the sign over it, is shown in that device pixel.
+    /// Whether a gun, or the sign over it, is shown in that row or device pixel.
+    bool isIn(int py) const;
     bool covers(int px, int py) const;
 
   private:

@@ -19,10 +19,9 @@ constexpr std::array<std::uint32_t, 5> kFlashes{0xFF0F1524u, 0xFF242D49u, 0xFF14
                                                 0xFF1A2138u};
 constexpr int kPicturesForAFlicker = 30;
 
-/// In 1/8 of a part, as the eye weighs red, green and blue.
-int brightness(std::uint32_t pixel) {
-    const auto part = [pixel](int shift) { return static_cast<int>(pixel >> shift & 0xFF); };
-    return 2 * part(16) + 5 * part(8) + part(0);
+/// Its green, of which the eye makes most; a whole sky is asked for it ten times a second.
+std::uint32_t brightness(std::uint32_t pixel) {
+    return pixel & 0xFF00u;
 }
 
 int dropWidth(int height) {
@@ -103,11 +102,14 @@ void StormShow::fall(Drop& drop, const FieldLayer& layer) {
 
 void StormShow::lightUp(const PixelRect& area, std::uint32_t pixel, const FieldLayer& layer) {
     const PixelRect seen = within(area, layer);
-    const int bright = brightness(pixel);
+    const std::uint32_t bright = brightness(pixel);
     for (int y = seen.y; y < seen.bottom(); ++y) {
-        const std::uint32_t* const row = layer.pixels() + std::ptrdiff_t{y} * m_width;
+        const std::uint32_t* const shown = layer.pixels() + std::ptrdiff_t{y} * m_width;
+        const std::uint32_t* const rules = layer.rules() + std::ptrdiff_t{y} * m_width;
+        const bool hasGuns = layer.showsGuns(y);  // a whole sky is asked pixel by pixel
         const auto isLit = [&](int x) {
-            return brightness(row[x]) < bright && layer.takesLight(x, y);
+            return rules[x] == kBlack.pixel() && brightness(shown[x]) < bright &&
+                   !(hasGuns && layer.showsGun(x, y));
         };
         for (int x = seen.x; x < seen.right(); ++x) {
             const int from = x;
