@@ -14,9 +14,10 @@ constexpr int kDrops = 80;
 constexpr int kSlant = 5;  // a drop is blown one drop's width to the left for each 5 it falls
 constexpr std::uint32_t kNearDrop = 0xFF5B6E94u, kFarDrop = 0xFF35425Fu;
 
-// The sky in a flicker, the last picture first, and how rarely one comes: every three seconds.
-constexpr std::array<std::uint32_t, 5> kFlashes{0xFF0F1524u, 0xFF242D49u, 0xFF141A2Cu, 0xFF323D5Cu,
-                                                0xFF1A2138u};
+// What lies over the sky in a flicker, the last picture first, and how rarely one comes: every
+// three seconds.
+constexpr std::array<std::uint32_t, 5> kFlashes{0x108FA5D8u, 0x388FA5D8u, 0x188FA5D8u, 0x4D8FA5D8u,
+                                                0x208FA5D8u};
 constexpr int kPicturesForAFlicker = 30;
 
 /// Its green, of which the eye makes most; a whole sky is asked for it ten times a second.

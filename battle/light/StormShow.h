@@ -16,7 +16,7 @@ class FieldLayer;
 /// the same. All measures are device pixels of the picture.
 class StormShow {
   public:
-    /// Pixels to be shown as 0xFFRRGGBB; later lights lie over earlier ones.
+    /// Lies over what is shown there, and over earlier lights, as 0xAARRGGBB.
     struct Light {
         PixelRect area;
         std::uint32_t pixel = 0;

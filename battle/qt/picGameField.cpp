@@ -130,7 +130,7 @@ void picGameField::paintStorm(QPainter& painter) const {
     const QRectF pixel = logical({0, 0, 1, 1});
     painter.scale(pixel.width(), pixel.height());
     for (const auto& [area, colour] : m_storm.lights())
-        painter.fillRect(area.x, area.y, area.width, area.height, QColor::fromRgb(colour));
+        painter.fillRect(area.x, area.y, area.width, area.height, QColor::fromRgba(colour));
 }
 
 void picGameField::mousePressEvent(QMouseEvent* event) {
