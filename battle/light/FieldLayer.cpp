@@ -94,8 +94,12 @@ bool FieldLayer::showsGuns(int py) const {
     return m_on && m_guns && m_guns->isIn(py);
 }
 
-bool FieldLayer::showsGun(int px, int py) const {
-    return showsGuns(py) && m_guns->covers(px, py);
+bool FieldLayer::showsSky(int px, int py) const {
+    const bool isPiece = std::any_of(kSides.begin(), kSides.end(),
+                                     [&](int side) { return m_picture.showsPiece(side, px, py); });
+    const std::ptrdiff_t at = std::ptrdiff_t{py} * m_width + px;
+    const std::uint32_t* const seen = isPiece ? m_picture.persistentPixels() : rules();
+    return seen[at] == kBlackPixel && !m_guns->covers(px, py);
 }
 
 const std::vector<PixelRect>& FieldLayer::update(const PixelRect& changed) {

@@ -43,9 +43,10 @@ class FieldLayer {
     /// The rules' picture under it, of that size.
     const std::uint32_t* rules() const { return m_picture.screenPixels(); }
 
-    /// Whether a gun is shown in that row, and in that pixel; never by the rules' own images.
+    /// Whether guns are drawn in that row, in place of the rules' images.
     bool showsGuns(int py) const;
-    bool showsGun(int px, int py) const;
+    /// In such a row: whether the sky is seen in that pixel, and no part of a gun.
+    bool showsSky(int px, int py) const;
 
   private:
     template <typename Painter, typename... Ports>

@@ -109,8 +109,8 @@ void StormShow::lightUp(const PixelRect& area, std::uint32_t pixel, const FieldL
         const std::uint32_t* const rules = layer.rules() + std::ptrdiff_t{y} * m_width;
         const bool hasGuns = layer.showsGuns(y);  // a whole sky is asked pixel by pixel
         const auto isLit = [&](int x) {
-            return rules[x] == kBlack.pixel() && brightness(shown[x]) < bright &&
-                   !(hasGuns && layer.showsGun(x, y));
+            return (hasGuns ? layer.showsSky(x, y) : rules[x] == kBlack.pixel()) &&
+                   brightness(shown[x]) < bright;
         };
         for (int x = seen.x; x < seen.right(); ++x) {
             const int from = x;

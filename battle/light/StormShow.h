@@ -11,9 +11,9 @@ namespace skylob {
 class FieldLayer;
 
 /// Rain and sheet lightning over the field, for the minutes in which a storm holds it. It lights
-/// what is dark in the sky and nothing else: black pixels of the rules' picture in which no gun is
-/// shown, and only to make them brighter. Its chance is its own, so that what the rules draw stays
-/// the same. All measures are device pixels of the picture.
+/// what is dark in the sky and nothing else: black pixels of the rules' picture, or in the place of
+/// its pieces, in which no gun is shown, and only to make them brighter. Its chance is its own, so
+/// that what the rules draw stays the same. All measures are device pixels of the picture.
 class StormShow {
   public:
     /// Lies over what is shown there, and over earlier lights, as 0xAARRGGBB.
