@@ -93,11 +93,6 @@ int Battle::drawField() {
     return groundLineWidth;
 }
 
-void Battle::redrawField() {
-    drawField();
-    m_view.showField();
-}
-
 void Battle::replotField() {
     const std::vector<FieldPicture::PassingPoint> passing = m_picture.passingPoints();
     drawField();

@@ -73,9 +73,8 @@ class Battle {
     const FieldScene& scene() const { return m_animation.scene(); }
     /// Neither a shot nor a meteor nor a storm is under way: the picture may be resized.
     bool fieldIsStill() const { return m_state.phase != Phase::Shot && !effectIsRunning(); }
-    /// The picture of the field has another size or another display: draws it anew.
-    void redrawField();
-    /// The same, with the trails and marks that were on it.
+    /// The picture of the field has another size or another display: draws it anew, with the trails
+    /// and marks that were on it.
     void replotField();
 
   private:

@@ -59,6 +59,21 @@ int gameSpeedOnBar(const BattleState& state, const basSkylob& shared) {
     return state.barShowsGameSpeed ? shared.GameSpeed : kGameSpeedRange.minimum;
 }
 
+std::string sideCaption(int side, const basSkylob& shared) {
+    const std::string& name = shared.PlayerName[side];
+    if (!shared.isComputer(side)) return name;
+    switch (shared.SkillLevel) {
+        case kGoodSkill:
+            return name + " (Skill level: Good)";
+        case kFairSkill:
+            return name + " (Skill level: Fair)";
+        case kPoorSkill:
+            return name + " (Skill level: Poor)";
+        default:
+            return name;
+    }
+}
+
 BattlePanel panelOf(const BattleState& state, const basSkylob& shared) {
     BattlePanel panel;
     for (const int side : kSides) panel.side[side] = sidePanel(side, state);

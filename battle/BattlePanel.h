@@ -47,6 +47,9 @@ struct BattlePanel {
 /// Where the game speed bar stands.
 int gameSpeedOnBar(const BattleState& state, const basSkylob& shared);
 
+/// What stands above a side's controls: its name, and how skilled the computer is.
+std::string sideCaption(int side, const basSkylob& shared);
+
 BattlePanel panelOf(const BattleState& state, const basSkylob& shared);
 
 }  // namespace skylob

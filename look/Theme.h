@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "base/Colour.h"
+#include "base/PerSide.h"
 
 /// What the screens look like, said once: the colours, families and sizes of what is painted, of
 /// the style sheet and of the drawings.
@@ -66,6 +67,11 @@ constexpr std::optional<Colour> findThemeColour(std::string_view name) {
 /// The same for a name in the source: a wrong one does not compile.
 consteval Colour themeColour(std::string_view name) {
     return findThemeColour(name).value();
+}
+
+/// A side's own colour.
+constexpr Colour sideColour(int side) {
+    return side == kLeftSide ? themeColour("side-1") : themeColour("side-2");
 }
 
 /// A style sheet with its placeholders filled in: @families, @text-size, @large-size,

@@ -1,13 +1,9 @@
 #include "battle/light/ArrowLight.h"
 
-#include <cmath>
-
-#include "battle/light/Glow.h"
-
 namespace skylob {
 
 namespace {
-constexpr double kTop = 3, kHeight = 8, kHalfWidth = 5;  // logical pixels
+constexpr double kTop = 3, kHeight = 8, kHalfWidth = 5, kGlow = 18;  // logical pixels
 }
 
 void ArrowLight::follow(const FieldSight& sight, ChangedAreas& changed) {
@@ -25,13 +21,14 @@ void ArrowLight::pointTo(const FieldSight& sight, double x) {
     const double top = sight.scaled(kTop), bottom = top + sight.scaled(kHeight);
     const double left = x - sight.scaled(kHalfWidth), right = x + sight.scaled(kHalfWidth);
     m_corners = {LightPoint{x, top}, LightPoint{right, bottom}, LightPoint{left, bottom}};
-    const int first = static_cast<int>(std::floor(left));
-    m_area = {first, 0, static_cast<int>(std::ceil(right)) - first,
-              static_cast<int>(std::ceil(bottom))};
+    m_glow = {{x, bottom}, sight.scaled(kGlow), kFireLight, 0.5};
+    m_area = m_glow.area();  // which holds the arrow
 }
 
 void ArrowLight::paint(LightCanvas& canvas) const {
-    if (!common(m_area, canvas.area()).isEmpty()) canvas.polygon(m_corners, kFireLight);
+    if (common(m_area, canvas.area()).isEmpty()) return;
+    m_glow.paint(canvas);
+    canvas.polygon(m_corners, kFireLight);
 }
 
 }  // namespace skylob

@@ -5,6 +5,8 @@
 #include <cmath>
 #include <numbers>
 
+#include "battle/light/LightMath.h"
+
 namespace skylob {
 
 namespace {

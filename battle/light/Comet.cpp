@@ -8,10 +8,6 @@ namespace {
 
 constexpr double kSpacing = 2;  // of the tail's lights, in logical pixels
 
-LightPoint between(LightPoint from, LightPoint to, double share) {
-    return {from.x + (to.x - from.x) * share, from.y + (to.y - from.y) * share};
-}
-
 }  // namespace
 
 void Comet::follow(const FieldSight& sight, std::span<const FieldPoint> path,

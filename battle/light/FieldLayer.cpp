@@ -56,7 +56,7 @@ FieldLayer::FieldLayer(const FieldPicture& picture, const FieldScene& scene,
     add<MoonLight>();
     add<StarLight>();
     if (guns)
-        m_painters.push_back(std::make_unique<GunLight>(*guns));
+        m_guns = &add<GunLight>(*guns);
     else
         add<PieceImages>();
     add<GhostMark>();
@@ -71,9 +71,12 @@ FieldLayer::FieldLayer(const FieldPicture& picture, const FieldScene& scene,
 
 FieldLayer::~FieldLayer() = default;
 
-template <typename Painter>
-void FieldLayer::add() {
-    m_painters.push_back(std::make_unique<Painter>());
+template <typename Painter, typename... Ports>
+const Painter& FieldLayer::add(Ports&... ports) {
+    auto painter = std::make_unique<Painter>(ports...);
+    const Painter& added = *painter;
+    m_painters.push_back(std::move(painter));
+    return added;
 }
 
 void FieldLayer::setOn(bool on) {
@@ -85,6 +88,18 @@ void FieldLayer::setOn(bool on) {
 
 const std::uint32_t* FieldLayer::pixels() const {
     return m_on ? m_shown.data() : m_picture.screenPixels();
+}
+
+bool FieldLayer::showsGuns(int py) const {
+    return m_on && m_guns && m_guns->isIn(py);
+}
+
+bool FieldLayer::showsSky(int px, int py) const {
+    const bool isPiece = std::any_of(kSides.begin(), kSides.end(),
+                                     [&](int side) { return m_picture.showsPiece(side, px, py); });
+    const std::ptrdiff_t at = std::ptrdiff_t{py} * m_width + px;
+    const std::uint32_t* const seen = isPiece ? m_picture.persistentPixels() : rules();
+    return seen[at] == kBlackPixel && !m_guns->covers(px, py);
 }
 
 const std::vector<PixelRect>& FieldLayer::update(const PixelRect& changed) {

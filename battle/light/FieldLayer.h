@@ -9,6 +9,7 @@
 namespace skylob {
 
 class GunDrawings;
+class GunLight;
 
 /// The field as the player sees it: the rules' picture with light upon it. Light falls on black
 /// pixels and in the place of the pieces' images, which are taken off and painted anew; every
@@ -39,9 +40,17 @@ class FieldLayer {
     int width() const { return m_on ? m_width : m_picture.width(); }
     int height() const { return m_on ? m_height : m_picture.height(); }
 
+    /// The rules' picture under it, of that size.
+    const std::uint32_t* rules() const { return m_picture.screenPixels(); }
+
+    /// Whether guns are drawn in that row, in place of the rules' images.
+    bool showsGuns(int py) const;
+    /// In such a row: whether the sky is seen in that pixel, and no part of a gun.
+    bool showsSky(int px, int py) const;
+
   private:
-    template <typename Painter>
-    void add();
+    template <typename Painter, typename... Ports>
+    const Painter& add(Ports&... ports);
     bool takeSize();
     void look(bool remade);
     void compose(const PixelRect& area);
@@ -52,6 +61,7 @@ class FieldLayer {
     const FieldScene& m_scene;
     const BattleState& m_state;
     std::vector<std::unique_ptr<LightPainter>> m_painters;  ///< the lowest light first
+    const GunLight* m_guns = nullptr;                       ///< one of them, or null
     bool m_on = true, m_switched = true;
     int m_width = 0, m_height = 0;
     int m_makings = 0, m_step = 0;

@@ -4,7 +4,7 @@
 #include <numbers>
 #include <utility>
 
-#include "battle/light/Glow.h"
+#include "look/Theme.h"
 
 namespace skylob {
 
@@ -33,7 +33,7 @@ void GhostMark::follow(const FieldSight& sight, ChangedAreas& changed) {
 
 void GhostMark::stand(const FieldSight& sight, FieldPoint at) {
     m_foot = sight.middleOf(at);
-    m_colour = sideLight(m_side);
+    m_colour = sideColour(m_side);
     m_lineWidth = sight.scaled(kLineWidth);
     const double radius = sight.scaled(kRadius), above = sight.scaled(kStem) + radius;
     const int corners = m_side == kLeftSide ? kRingCorners : kDiamondCorners;

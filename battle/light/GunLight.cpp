@@ -1,19 +1,15 @@
 #include "battle/light/GunLight.h"
 
-#include "battle/light/LightBurst.h"
+#include <algorithm>
+
+#include "battle/light/LightMath.h"
 #include "look/Theme.h"
 
 namespace skylob {
 
 namespace {
-
 constexpr double kSignGlow = 13;  // in units of the gun's grid
-
-Colour sideColour(int side) {
-    return side == kLeftSide ? themeColour("side-1") : themeColour("side-2");
 }
-
-}  // namespace
 
 LightPoint GunLight::Gun::sign() const {
     const GunScale scale = gunScale(area.width, area.height);
@@ -24,11 +20,13 @@ double GunLight::Gun::signGlow() const {
     return pose.onTurn ? kSignGlow * gunScale(area.width, area.height).barrel : 0;
 }
 
-PixelRect GunLight::Gun::seen() const {
+PixelRect GunLight::Gun::image() const {
     if (!drawing) return {};
-    const PixelRect image{area.x + drawing->x, area.y + drawing->y, drawing->image.width,
-                          drawing->image.height};
-    return united(image, areaAround(sign(), signGlow()));
+    return {area.x + drawing->x, area.y + drawing->y, drawing->image.width, drawing->image.height};
+}
+
+PixelRect GunLight::Gun::seen() const {
+    return drawing ? united(image(), areaAround(sign(), signGlow())) : PixelRect{};
 }
 
 void GunLight::follow(const FieldSight& sight, ChangedAreas& changed) {
@@ -44,12 +42,29 @@ void GunLight::follow(const FieldSight& sight, ChangedAreas& changed) {
     }
 }
 
+bool GunLight::isIn(int py) const {
+    return std::any_of(kSides.begin(), kSides.end(), [&](int side) {
+        const PixelRect image = m_guns[side].image();
+        return py >= image.y && py < image.bottom();
+    });
+}
+
+bool GunLight::covers(int px, int py) const {
+    for (const int side : kSides) {
+        const PixelRect image = m_guns[side].image();
+        if (py < image.y || py >= image.bottom() || px < image.x || px >= image.right()) continue;
+        const int at = (py - image.y) * image.width + px - image.x;
+        if (m_guns[side].drawing->image.pixels[static_cast<std::size_t>(at)] != 0) return true;
+    }
+    return false;
+}
+
 void GunLight::paint(LightCanvas& canvas) const {
     for (const int side : kSides) {
         const Gun& gun = m_guns[side];
         if (!gun.drawing) continue;
         if (gun.pose.onTurn) canvas.glow(gun.sign(), gun.signGlow(), sideColour(side), 0.4);
-        canvas.image(gun.drawing->image, gun.area.x + gun.drawing->x, gun.area.y + gun.drawing->y);
+        canvas.image(gun.drawing->image, gun.image().x, gun.image().y);
     }
 }
 

@@ -13,6 +13,10 @@ class GunLight : public LightPainter {
     void follow(const FieldSight& sight, ChangedAreas& changed) override;
     void paint(LightCanvas& canvas) const override;
 
+    /// Whether a gun, or the sign over it, is shown in that row or device pixel.
+    bool isIn(int py) const;
+    bool covers(int px, int py) const;
+
   private:
     struct Gun {
         GunPose pose;
@@ -21,6 +25,7 @@ class GunLight : public LightPainter {
 
         LightPoint sign() const;
         double signGlow() const;
+        PixelRect image() const;
         PixelRect seen() const;
     };
 

@@ -34,13 +34,4 @@ class LightBurst {
     PixelRect m_area;
 };
 
-/// The device pixels that a circle touches; empty without a radius.
-PixelRect areaAround(LightPoint at, double radius);
-
-/// A number from 0 to below 1 that looks like chance and is the same for the same `number`.
-double scattered(unsigned number);
-
-/// A colour between two: `part` is 0 for the first one to 1 for the other.
-Colour between(Colour first, Colour other, double part);
-
 }  // namespace skylob

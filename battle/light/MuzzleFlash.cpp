@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "battle/light/GunPose.h"
+#include "battle/light/LightMath.h"
 
 namespace skylob {
 

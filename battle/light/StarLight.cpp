@@ -10,19 +10,13 @@ constexpr int kTwinkle = kHeld * static_cast<int>(std::size(kStrengths));
 constexpr double kRadius = 3;  // logical pixels
 constexpr Colour kStarLight = Colour::fromRgb(0xE8F2FF);
 
-/// Numbers without a visible order, made of the place and the time: the rules' chance is theirs.
-std::uint32_t scattered(std::uint32_t number) {
-    number = (number ^ number >> 16) * 0x7FEB352Du;
-    number = (number ^ number >> 15) * 0x846CA68Bu;
-    return number ^ number >> 16;
-}
-
 Glow twinkle(const FieldSight& sight, int number) {
     const auto& stars = sight.state.field.stars;
     if (!sight.moving || stars.empty()) return {};
     const int time = sight.step + number * 11;  // they do not change together
-    const auto turn = static_cast<std::uint32_t>(time / kTwinkle * 31 + number);
-    const auto& star = stars[scattered(turn) % stars.size()];
+    const auto turn = static_cast<unsigned>(time / kTwinkle * 31 + number);
+    const double chosen = scattered(turn) * static_cast<double>(stars.size());
+    const auto& star = stars[static_cast<std::size_t>(chosen)];
     if (sight.picture.pixel(star.x, star.y) != star.colour) return {};  // behind the moon
     return {sight.middleOf({star.x, star.y}), sight.scaled(kRadius), kStarLight,
             kStrengths[time % kTwinkle / kHeld]};

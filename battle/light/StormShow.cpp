@@ -4,6 +4,8 @@
 #include <array>
 #include <cstddef>
 
+#include "battle/light/FieldLayer.h"
+
 namespace skylob {
 
 namespace {
@@ -14,10 +16,16 @@ constexpr int kSquallWay = 160;  // pictures that it takes to cross the field
 constexpr int kSlant = 5;        // a drop is blown one drop's width to the left for each 5 it falls
 constexpr std::uint32_t kNearDrop = 0xFF5B6E94u, kFarDrop = 0xFF35425Fu;
 
-// The sky in a flicker, the last picture first, and how rarely one comes: every three seconds.
-constexpr std::array<std::uint32_t, 5> kFlashes{0xFF070A12u, 0xFF161C30u, 0xFF0B0F1Bu, 0xFF242D49u,
-                                                0xFF121727u};
+// What lies over the sky in a flicker, the last picture first, and how rarely one comes: every
+// three seconds.
+constexpr std::array<std::uint32_t, 5> kFlashes{0x108FA5D8u, 0x388FA5D8u, 0x188FA5D8u, 0x4D8FA5D8u,
+                                                0x208FA5D8u};
 constexpr int kPicturesForAFlicker = 30;
+
+/// Its green, of which the eye makes most; a whole sky is asked for it ten times a second.
+std::uint32_t brightness(std::uint32_t pixel) {
+    return pixel & 0xFF00u;
+}
 
 int dropWidth(int height) {
     return std::max(1, (height + 256) / 512);
@@ -28,23 +36,23 @@ int dropLength(int height, bool isNear) {
     return std::max(2, height * (isNear ? 18 : 12) / 512);
 }
 
-PixelRect within(const PixelRect& area, const FieldPicture& picture) {
-    return common(area, {0, 0, picture.width(), picture.height()});
+PixelRect within(const PixelRect& area, const FieldLayer& layer) {
+    return common(area, {0, 0, layer.width(), layer.height()});
 }
 
 }  // namespace
 
-void StormShow::advance(const FieldPicture& picture) {
-    if (m_width != picture.width() || m_height != picture.height()) strew(picture);
+void StormShow::advance(const FieldLayer& layer) {
+    if (m_width != layer.width() || m_height != layer.height()) strew(layer);
     m_changes.swap(m_lit);
     m_lit.clear();
     m_lights.clear();
-    flicker(picture);
+    flicker(layer);
     m_squall -= std::max(m_width / kSquallWay, 1);
     // One goes, and the next comes, while half of it is still to be seen.
     const int half = m_width / kSquall / 2;
     if (m_squall < -half) m_squall = m_width - half;
-    for (Drop& drop : m_drops) fall(drop, picture);
+    for (Drop& drop : m_drops) fall(drop, layer);
     m_changes.insert(m_changes.end(), m_lit.begin(), m_lit.end());
 }
 
@@ -64,9 +72,9 @@ int StormShow::inSquall() {
     return m_squall + below(m_width / kSquall + m_height / kSlant);
 }
 
-void StormShow::strew(const FieldPicture& picture) {
-    m_width = picture.width();
-    m_height = picture.height();
+void StormShow::strew(const FieldLayer& layer) {
+    m_width = layer.width();
+    m_height = layer.height();
     m_squall = m_width - m_width / kSquall;
     m_drops.clear();
     for (int number = 0; number < kDrops; ++number) {
@@ -75,18 +83,18 @@ void StormShow::strew(const FieldPicture& picture) {
     }
 }
 
-void StormShow::flicker(const FieldPicture& picture) {
+void StormShow::flicker(const FieldLayer& layer) {
     if (m_flash > 0)
         --m_flash;
     else if (below(kPicturesForAFlicker) == 0)
         m_flash = static_cast<int>(kFlashes.size());
     if (m_flash == 0) return;
     const PixelRect sky{0, 0, m_width, m_height};
-    lightUp(sky, kFlashes[static_cast<std::size_t>(m_flash - 1)], picture);
+    lightUp(sky, kFlashes[static_cast<std::size_t>(m_flash - 1)], layer);
     m_lit.push_back(sky);
 }
 
-void StormShow::fall(Drop& drop, const FieldPicture& picture) {
+void StormShow::fall(Drop& drop, const FieldLayer& layer) {
     const int width = dropWidth(m_height), length = dropLength(m_height, drop.isNear);
     const int way = length * 3 / 2;
     drop.y += way;
@@ -98,32 +106,40 @@ void StormShow::fall(Drop& drop, const FieldPicture& picture) {
     for (int down = 0; down < steps; ++down)
         lightUp({drop.x - down * width, drop.y + down * step, width,
                  std::min(step, length - down * step)},
-                drop.isNear ? kNearDrop : kFarDrop, picture);
+                drop.isNear ? kNearDrop : kFarDrop, layer);
     if (m_lights.size() == before) drop.y = m_height;  // behind a hill: the next one, please
     const PixelRect around =
-        within({drop.x - (steps - 1) * width, drop.y, steps * width, length}, picture);
+        within({drop.x - (steps - 1) * width, drop.y, steps * width, length}, layer);
     if (!around.isEmpty()) m_lit.push_back(around);
 }
 
-void StormShow::lightUp(const PixelRect& area, std::uint32_t pixel, const FieldPicture& picture) {
-    constexpr std::uint32_t kNothing = kBlack.pixel();
-    const PixelRect seen = within(area, picture);
-    const auto isBlack = [](std::uint32_t at) { return at == kNothing; };
+void StormShow::lightUp(const PixelRect& area, std::uint32_t pixel, const FieldLayer& layer) {
+    const PixelRect seen = within(area, layer);
+    const std::uint32_t bright = brightness(pixel);
     for (int y = seen.y; y < seen.bottom(); ++y) {
-        const std::uint32_t* row = picture.screenPixels() + std::ptrdiff_t{y} * m_width;
-        const std::uint32_t *from = row + seen.x, *end = from + seen.width;
-        while ((from = std::find_if(from, end, isBlack)) != end) {
-            const std::uint32_t* to = std::find_if_not(from, end, isBlack);
-            const PixelRect run{static_cast<int>(from - row), y, static_cast<int>(to - from), 1};
-            from = to;
-            PixelRect* above = m_lights.empty() ? nullptr : &m_lights.back().area;
-            if (above && m_lights.back().pixel == pixel && above->x == run.x &&
-                above->width == run.width && above->bottom() == y)
-                ++above->height;
-            else
-                m_lights.push_back({run, pixel});
+        const std::uint32_t* const shown = layer.pixels() + std::ptrdiff_t{y} * m_width;
+        const std::uint32_t* const rules = layer.rules() + std::ptrdiff_t{y} * m_width;
+        const bool hasGuns = layer.showsGuns(y);  // a whole sky is asked pixel by pixel
+        const auto isLit = [&](int x) {
+            return (hasGuns ? layer.showsSky(x, y) : rules[x] == kBlack.pixel()) &&
+                   brightness(shown[x]) < bright;
+        };
+        for (int x = seen.x; x < seen.right(); ++x) {
+            const int from = x;
+            while (x < seen.right() && isLit(x)) ++x;
+            if (x > from) addRun({from, y, x - from, 1}, pixel);
         }
     }
+}
+
+/// Puts it under the last one, if that is as long: there is less to be painted then.
+void StormShow::addRun(const PixelRect& run, std::uint32_t pixel) {
+    PixelRect* const above = m_lights.empty() ? nullptr : &m_lights.back().area;
+    if (above && m_lights.back().pixel == pixel && above->x == run.x && above->width == run.width &&
+        above->bottom() == run.y)
+        ++above->height;
+    else
+        m_lights.push_back({run, pixel});
 }
 
 }  // namespace skylob

@@ -4,24 +4,27 @@
 #include <random>
 #include <vector>
 
-#include "battle/FieldPicture.h"
+#include "battle/PixelRect.h"
 
 namespace skylob {
 
+class FieldLayer;
+
 /// A squall of rain and sheet lightning over the field, for the minutes in which a storm holds it.
-/// It lights black pixels of the picture and no other, and leaves the picture itself alone; its
-/// chance is its own, so that what the rules draw stays the same. All measures are device pixels of
-/// the picture.
+/// It lights what is dark in the sky and nothing else: black pixels of the rules' picture, or in
+/// the place of its pieces, in which no gun is shown, and only to make them brighter. Its chance is
+/// its own, so that what the rules draw stays the same. All measures are device pixels of the
+/// picture.
 class StormShow {
   public:
-    /// Black pixels of the picture, to be shown as 0xFFRRGGBB; later lights lie over earlier ones.
+    /// Lies over what is shown there, and over earlier lights, as 0xAARRGGBB.
     struct Light {
         PixelRect area;
         std::uint32_t pixel = 0;
     };
 
-    /// Lets a tenth of a second go by over `picture`.
-    void advance(const FieldPicture& picture);
+    /// Lets a tenth of a second go by over what `layer` shows.
+    void advance(const FieldLayer& layer);
 
     /// No light from now on.
     void end();
@@ -39,10 +42,11 @@ class StormShow {
 
     int below(int end);
     int inSquall();
-    void strew(const FieldPicture& picture);
-    void flicker(const FieldPicture& picture);
-    void fall(Drop& drop, const FieldPicture& picture);
-    void lightUp(const PixelRect& area, std::uint32_t pixel, const FieldPicture& picture);
+    void strew(const FieldLayer& layer);
+    void flicker(const FieldLayer& layer);
+    void fall(Drop& drop, const FieldLayer& layer);
+    void lightUp(const PixelRect& area, std::uint32_t pixel, const FieldLayer& layer);
+    void addRun(const PixelRect& run, std::uint32_t pixel);
 
     std::minstd_rand m_chance;
     std::vector<Drop> m_drops;

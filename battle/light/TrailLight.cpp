@@ -1,5 +1,7 @@
 #include "battle/light/TrailLight.h"
 
+#include "look/Theme.h"
+
 namespace skylob {
 
 namespace {
@@ -38,7 +40,7 @@ void TrailLight::follow(const FieldSight& sight, ChangedAreas& changed) {
     for (; m_followed < flight.path.size(); ++m_followed) {
         if (!flight.leavesTrail) continue;
         const LightPoint at = sight.middleOf(flight.path[m_followed]);
-        m_beads.push_back({{at, sight.scaled(kRadius), sideLight(flight.side), 0}, {}});
+        m_beads.push_back({{at, sight.scaled(kRadius), sideColour(flight.side), 0}, {}});
     }
     if (m_beads.size() > before) age(before > kOldest ? before - kOldest - 1 : 0, changed);
     if (hasLanded && !m_beads.empty()) {  // where it comes down it leaves a black mark

@@ -20,10 +20,6 @@ bool isEscape(const QEvent& event) {
     return isKey && static_cast<const QKeyEvent&>(event).key() == Qt::Key_Escape;
 }
 
-QColor sideColour(int side) {
-    return toQColor(side == kLeftSide ? themeColour("side-1") : themeColour("side-2"));
-}
-
 }  // namespace
 
 QtDragAim::QtDragAim(picGameField* field, Battle& battle)
@@ -123,7 +119,7 @@ void QtDragAim::paintEvent(QPaintEvent*) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen({toQColor(themeColour("night")), 4});
     painter.drawLine(m_field->widgetPoint(gun), m_drag->to);
-    painter.setPen({sideColour(side), 2});
+    painter.setPen({toQColor(sideColour(side)), 2});
     painter.drawLine(m_field->widgetPoint(gun), m_drag->to);
 
     const QString figures = QStringLiteral("%1 / %2°").arg(aim.speed).arg(aim.angle);

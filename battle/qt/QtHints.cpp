@@ -1,5 +1,6 @@
 #include "battle/qt/QtHints.h"
 
+#include <QEvent>
 #include <QScrollBar>
 #include <algorithm>
 
@@ -28,8 +29,8 @@ bool QtHints::areWanted(const WindowStore& windows) {
     return windows.recall(kSeen, "0") != "1";
 }
 
-QtHints::QtHints(QtSidePanel* panel, GlintButton* shoot, const QRect& row, WindowStore& windows)
-    : QObject{panel->window()} {
+QtHints::QtHints(QtSidePanel* panel, GlintButton* shoot, QWidget* row, WindowStore& windows)
+    : QObject{panel->window()}, m_shoot{shoot}, m_row{row} {
     windows.keep(kSeen, "1");
     QScrollBar* const speed = panel->scrollSpeed();
     QScrollBar* const angle = panel->scrollAngle();
@@ -44,10 +45,9 @@ QtHints::QtHints(QtSidePanel* panel, GlintButton* shoot, const QRect& row, Windo
                     fitsBelow ? below : angle->geometry().center().y() - angleHint->height() / 2);
     connect(angle, &QScrollBar::valueChanged, angleHint, &QWidget::hide);
 
-    QtHint* const shootHint =
-        add("hintShoot", tr("3. Shoot: click it, or press Alt+S"), shoot->parentWidget());
-    const int left = shoot->geometry().center().x() - shootHint->width() / 2;
-    shootHint->move(std::max(left, row.left()), row.center().y() - shootHint->height() / 2);
+    m_shootHint = add("hintShoot", tr("3. Shoot: click it, or press Alt+S"), shoot->parentWidget());
+    placeAboveShoot();
+    for (QWidget* moved : {static_cast<QWidget*>(shoot), row}) moved->installEventFilter(this);
     for (QtHint* hint : m_hints) {
         hint->raise();
         hint->show();
@@ -59,6 +59,18 @@ QtHint* QtHints::add(const char* name, const QString& text, QWidget* parent) {
     connect(hint, &QtHint::wasRead, this, &QtHints::end);
     m_hints.append(hint);
     return hint;
+}
+
+void QtHints::placeAboveShoot() {
+    const int left = m_shoot->geometry().center().x() - m_shootHint->width() / 2;
+    m_shootHint->move(std::max(left, m_row->x()),
+                      m_row->geometry().center().y() - m_shootHint->height() / 2);
+}
+
+/// The other two are children of the panel and move with it.
+bool QtHints::eventFilter(QObject*, QEvent* event) {
+    if (event->type() == QEvent::Move) placeAboveShoot();
+    return false;
 }
 
 void QtHints::end() {

@@ -32,16 +32,22 @@ class QtHints : public QObject {
     /// True until hints have been shown to this user.
     static bool areWanted(const WindowStore& windows);
 
-    /// Shows them at once, beside the controls of `panel`, whose turn it is, and in the empty row
-    /// above `shoot`, whose place is `row` on the screen; and remembers that. Belongs to the screen
-    /// that all of these are on.
-    QtHints(QtSidePanel* panel, GlintButton* shoot, const QRect& row, WindowStore& windows);
+    /// Shows them at once, beside the controls of `panel`, whose turn it is, and in the empty `row`
+    /// above `shoot`; and remembers that. They go with these where the screen grows. Belongs to the
+    /// screen that all of these are on.
+    QtHints(QtSidePanel* panel, GlintButton* shoot, QWidget* row, WindowStore& windows);
 
     void end();
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
   private:
     QtHint* add(const char* name, const QString& text, QWidget* parent);
+    void placeAboveShoot();
 
+    GlintButton* m_shoot;
+    QWidget* m_row;
+    QtHint* m_shootHint;
     QList<QtHint*> m_hints;
 };
 

@@ -1,12 +1,10 @@
 #include "battle/qt/frmPlayGame.h"
 
-#include <QCheckBox>
 #include <QCoreApplication>
 #include <QFrame>
 #include <QLabel>
 #include <QScreen>
 #include <QScrollBar>
-#include <QShortcut>
 #include <QTextDocument>
 #include <QTimer>
 #include <QWindow>
@@ -15,6 +13,7 @@
 
 #include "base/qt/QtSpokenWidget.h"
 #include "battle/FieldDescription.h"
+#include "battle/qt/QtBattleKeys.h"
 #include "battle/qt/QtDragAim.h"
 #include "battle/qt/QtEffectTimers.h"
 #include "battle/qt/QtHints.h"
@@ -59,8 +58,9 @@ frmPlayGame::frmPlayGame(const QtScreenPorts& screen, const BattlePorts& ports, 
     m_strip = new QtOptionStrip{m_layout, m_windows, m_battle.options(), board()};
     m_layer.setOn(m_strip->wantsEffects());
     connectControls();
-    addShortcuts();
-    setTabOrder();
+    const QtBattleControls controls{m_side, cmdShoot, cmdQuit, m_strip};
+    addBattleKeys(*this, m_battle, controls);
+    orderTabs(controls);
     place(m_layout);
     frmPlayGame::showPanel(m_battle.panel());
 }
@@ -78,22 +78,8 @@ void frmPlayGame::makeReportRow() {
 
 void frmPlayGame::makeSidePanels() {
     for (const int side : kSides)
-        m_side[side] = new QtSidePanel{side, caption(side), m_layout.inFrame, board()};
-}
-
-QString frmPlayGame::caption(int side) const {
-    const QString name = QString::fromStdString(m_shared.PlayerName[side]);
-    if (!m_shared.isComputer(side)) return name;
-    switch (m_shared.SkillLevel) {
-        case kGoodSkill:
-            return name + QStringLiteral(" (Skill level: Good)");
-        case kFairSkill:
-            return name + QStringLiteral(" (Skill level: Fair)");
-        case kPoorSkill:
-            return name + QStringLiteral(" (Skill level: Poor)");
-        default:
-            return name;
-    }
+        m_side[side] = new QtSidePanel{side, QString::fromStdString(sideCaption(side, m_shared)),
+                                       m_layout.inFrame, board()};
 }
 
 void frmPlayGame::makeButtons() {
@@ -146,36 +132,6 @@ void frmPlayGame::connectControls() {
     connect(m_timers, &QtEffectTimers::ticked, this, &frmPlayGame::fitField);
 }
 
-void frmPlayGame::addShortcuts() {
-    const auto onKey = [this](const QKeySequence& key, std::function<void()> action) {
-        auto* shortcut = new QShortcut{key, this};
-        shortcut->setAutoRepeat(false);  // a key that is held is pressed once
-        connect(shortcut, &QShortcut::activated, this, std::move(action));
-    };
-    const auto shooterSide = [this] { return m_side[m_battle.state().Shooter]; };
-    onKey(Qt::Key_Escape, [this] { m_battle.cmdQuit_Click(); });
-    onKey(Qt::Key_F1, [this] { m_battle.readRules(); });
-    onKey(Qt::Key_F11, [this] { setWindowState(windowState() ^ Qt::WindowFullScreen); });
-    onKey(Qt::ALT | Qt::Key_P, [shooterSide] { shooterSide()->scrollSpeed()->setFocus(); });
-    onKey(Qt::ALT | Qt::Key_A, [shooterSide] { shooterSide()->scrollAngle()->setFocus(); });
-    onKey(Qt::ALT | Qt::Key_G, [this] { m_strip->gameSpeed()->setFocus(); });
-    onKey(Qt::ALT | Qt::Key_V, [this] { m_strip->volume()->setFocus(); });
-    onKey(Qt::ALT | Qt::Key_W, [this] { m_strip->wind()->click(); });
-    if (!m_layout.shootHasCaption)
-        onKey(Qt::ALT | Qt::Key_S, [this] { m_battle.cmdShoot_Click(); });
-}
-
-void frmPlayGame::setTabOrder() {
-    QList<QWidget*> order{m_side[1]->scrollSpeed(),
-                          m_side[1]->scrollAngle(),
-                          m_side[2]->scrollSpeed(),
-                          m_side[2]->scrollAngle(),
-                          cmdShoot,
-                          cmdQuit};
-    order += m_strip->controls();
-    for (qsizetype i = 1; i < order.size(); ++i) QWidget::setTabOrder(order[i - 1], order[i]);
-}
-
 void frmPlayGame::Form_Activate() {
     queue([this] { m_battle.Form_Activate(); });
 }
@@ -220,6 +176,7 @@ void frmPlayGame::askedToClose() {
 }
 
 void frmPlayGame::showField() {
+    if (const auto place = m_field->placeOfShell(m_battle.scene())) bringIntoView(*m_field, *place);
     m_field->showChanges();
 }
 
@@ -273,7 +230,7 @@ void frmPlayGame::showHints(const BattlePanel& panel) {
     if (m_hints && !panel.commandsEnabled)
         m_hints->end();
     else if (panel.commandsEnabled && QtHints::areWanted(m_windows))
-        m_hints = new QtHints{m_side[panel.turn], cmdShoot, m_layout.labelReport, m_windows};
+        m_hints = new QtHints{m_side[panel.turn], cmdShoot, labelReport, m_windows};
 }
 
 void frmPlayGame::moveFocusToTurn(int turn) {

@@ -84,9 +84,6 @@ class frmPlayGame : public QtScreen, private BattleView {
     void makeButtons();
     void place(const frmPlayGameLayout& layout);
     void connectControls();
-    void addShortcuts();
-    void setTabOrder();
-    QString caption(int side) const;
     void showCommands(const BattlePanel& panel);
     void showHints(const BattlePanel& panel);
     void dropFocusOfCommands();

@@ -63,6 +63,17 @@ QRect picGameField::placeOf(FieldPoint point) const {
     return onDesktop(m_picture.dotArea(point.x, point.y));
 }
 
+std::optional<QPoint> picGameField::placeOfShell(const FieldScene& scene) const {
+    const auto& [side, inTheAir, leavesTrail, path] = scene.flight;
+    std::optional<FieldPoint> at;
+    if (inTheAir && !path.empty()) at = path.back();
+    if (scene.blast) at = scene.blast->at;
+    if (!at) return std::nullopt;
+    const QPointF place = widgetPoint(*at);
+    return QPoint{qRound(std::clamp(place.x(), 0.0, width() - 1.0)),
+                  qRound(std::clamp(place.y(), 0.0, height() - 1.0))};
+}
+
 QRect picGameField::onDesktop(const PixelRect& area) const {
     const QRect place = logical(area).toAlignedRect().marginsAdded(
         {kRoomRound, kRoomRound, kRoomRound, kRoomRound});
@@ -71,28 +82,32 @@ QRect picGameField::onDesktop(const PixelRect& area) const {
 
 void picGameField::showChanges() {
     QRegion changed;
+    for (const PixelRect& area : m_layer.update(m_picture.takeDirty())) changed += touched(area);
+    if (!changed.isEmpty()) repaint(changed);
+}
+
+/// What is to be painted anew where an area has changed.
+QRect picGameField::touched(const PixelRect& area) const {
     // Scaled, a pixel reaches into its neighbours.
     const int reach = isFitting() ? 0 : 1;
-    for (const PixelRect& area : m_layer.update(m_picture.takeDirty()))
-        changed += logical(area).toAlignedRect().adjusted(-reach, -reach, reach, reach);
-    if (!changed.isEmpty()) repaint(changed);
+    return logical(area).toAlignedRect().adjusted(-reach, -reach, reach, reach);
 }
 
 void picGameField::paintEvent(QPaintEvent* event) {
     const QImage image = shown();
     if (image.isNull()) return;
     QPainter painter{this};
-    if (image.size() != fittingSize()) {
+    if (image.size() == fittingSize()) {
+        const qreal ratio = devicePixelRatioF();
+        const QList<QRect> all{event->region().begin(), event->region().end()};
+        for (const QRect& part : event->rect() == m_stormStep ? m_stormParts : all) {
+            const QRectF source{part.x() * ratio, part.y() * ratio, part.width() * ratio,
+                                part.height() * ratio};
+            painter.drawImage(QRectF{part}, image, source);
+        }
+    } else {
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
         painter.drawImage(QRectF{rect()}, image);
-        return;
-    }
-    const qreal ratio = devicePixelRatioF();
-    const QList<QRect> all{event->region().begin(), event->region().end()};
-    for (const QRect& part : event->rect() == m_stormStep ? m_stormParts : all) {
-        const QRectF source{part.x() * ratio, part.y() * ratio, part.width() * ratio,
-                            part.height() * ratio};
-        painter.drawImage(QRectF{part}, image, source);
     }
     paintStorm(painter);
 }
@@ -106,8 +121,8 @@ QImage picGameField::shown() const {
 void picGameField::showStorm() {
     const QWindow* display = window()->windowHandle();
     if (!isVisible() || !display || !display->isExposed()) return;  // nobody sees it
-    if (!m_layer.isOn() || !isFitting()) return;
-    m_storm.advance(m_picture);
+    if (!m_layer.isOn()) return;
+    m_storm.advance(m_layer);
     repaintStorm();
 }
 
@@ -120,7 +135,7 @@ void picGameField::repaintStorm() {
     m_stormParts.clear();
     QRect around;
     for (const PixelRect& area : m_storm.changes()) {
-        m_stormParts.append(logical(area).toAlignedRect());
+        m_stormParts.append(touched(area));
         around |= m_stormParts.last();
     }
     // Clipping to a hundred small rectangles would cost twice as much as sending one large one.
@@ -129,9 +144,10 @@ void picGameField::repaintStorm() {
 }
 
 void picGameField::paintStorm(QPainter& painter) const {
-    painter.scale(1 / devicePixelRatioF(), 1 / devicePixelRatioF());
-    for (const auto& [area, pixel] : m_storm.lights())
-        painter.fillRect(area.x, area.y, area.width, area.height, QColor::fromRgb(pixel));
+    const QRectF pixel = logical({0, 0, 1, 1});
+    painter.scale(pixel.width(), pixel.height());
+    for (const auto& [area, colour] : m_storm.lights())
+        painter.fillRect(area.x, area.y, area.width, area.height, QColor::fromRgba(colour));
 }
 
 void picGameField::mousePressEvent(QMouseEvent* event) {

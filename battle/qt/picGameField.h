@@ -2,9 +2,11 @@
 
 #include <QImage>
 #include <QWidget>
+#include <optional>
 
 #include "battle/FieldPicture.h"
 #include "battle/FieldPoint.h"
+#include "battle/FieldScene.h"
 #include "battle/light/StormShow.h"
 
 namespace skylob {
@@ -41,6 +43,9 @@ class picGameField : public QWidget {
     void showStorm();
     void endStorm();
 
+    /// Where on this widget a shell flies or bursts; nothing when none does.
+    std::optional<QPoint> placeOfShell(const FieldScene& scene) const;
+
     /// Where on the desktop a side's piece is, and a point of the field, each with some room round
     /// it.
     QRect placeOfPiece(int side) const;
@@ -60,6 +65,7 @@ class picGameField : public QWidget {
     QImage shown() const;
     QSize fittingSize() const;
     bool isFitting() const;
+    QRect touched(const PixelRect& area) const;
     void repaintStorm();
     void paintStorm(QPainter& painter) const;
     QRectF logical(const PixelRect& area) const;

@@ -68,6 +68,13 @@ void QtScreen::bringIntoView(QWidget* widget) {
     m_scroll->ensureWidgetVisible(widget, 0, 0);
 }
 
+void QtScreen::bringIntoView(const QWidget& widget, const QPoint& place) {
+    constexpr QMargins kRoom{120, 120, 120, 120};
+    const QRect around = widget.rect() & QRect{place, QSize{1, 1}}.marginsAdded(kRoom);
+    const QPoint middle = widget.mapTo(board(), around.center());
+    m_scroll->ensureVisible(middle.x(), middle.y(), around.width() / 2, around.height() / 2);
+}
+
 void QtScreen::fitInto(const QSize& room) {
     if (!mayGrow()) return;
     setMinimumSize(m_smallest.boundedTo(room));

@@ -75,8 +75,10 @@ class QtScreen : public QWidget {
     /// and never smaller than its smallest size.
     QWidget* board() const;
 
-    /// Where the board scrolls: brings that widget into view, until the focus moves on.
+    /// Where the board scrolls: brings that widget, or the place on it, into view, until the focus
+    /// moves on.
     void bringIntoView(QWidget* widget);
+    void bringIntoView(const QWidget& widget, const QPoint& place);
 
     /// The board has another size. Not called before the screen is shown.
     virtual void boardResized() {}

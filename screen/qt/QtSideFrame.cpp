@@ -39,7 +39,7 @@ QtSideFrame::QtSideFrame(int side, QWidget* parent) : QGroupBox{parent}, m_side{
 }
 
 QColor QtSideFrame::colour() const {
-    return toQColor(m_side == 1 ? themeColour("side-1") : themeColour("side-2"));
+    return toQColor(sideColour(m_side));
 }
 
 void QtSideFrame::setCaption(const QString& caption, const QString& spoken) {

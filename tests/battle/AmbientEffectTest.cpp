@@ -127,7 +127,7 @@ TEST_P(AmbientEffects, LetTheFieldBeDrawnAnewForAnotherDisplay) {
     for (const int size : {500, 1000}) {
         atYield(30, [&] {
             picture().resize(size, size, 1);
-            battle.redrawField();
+            battle.replotField();
         });
         begin();
         picture().refresh();

@@ -127,10 +127,11 @@ TEST_F(BattleShots, LeaveStarsOfTheWidthThatTheRoundBeforeLeftThePenAt) {
         const auto shown = pixels();
         EXPECT_EQ(picture().pixel(star.x + 1, star.y - 1) == star.colour, width == 2);
         shoot(kMiss);  // leaves the pen at 1
-        battle.redrawField();
+        battle.replotField();
+        picture().refresh();
         EXPECT_TRUE(pixels() == shown);
     };
-    battle.redrawField();  // with the pen still at the ground's width
+    battle.replotField();  // with the pen still at the ground's width
     expectWidth(1);
     shoot(kSelfHit);
     expectWidth(1);
@@ -143,7 +144,7 @@ TEST_F(BattleShots, LeaveStarsOfTheWidthThatTheRoundBeforeLeftThePenAt) {
 TEST_F(BattleShots, ArePlottedAgainAsIfThePictureHadAlwaysHadItsSize) {
     SkyRig other;
     other.picture().resize(1500, 700, 2);
-    other.battle.redrawField();
+    other.battle.replotField();
     for (SkyRig* rig : {static_cast<SkyRig*>(this), &other}) {
         rig->options().chkTrajectory_Click(true);
         rig->begin(kMeteor);

@@ -42,7 +42,7 @@ constexpr Effect kMeteor = &Battle::timerMeteors_Timer, kStorm = &Battle::timerL
 struct SkyRig : StartedRig {
     SkyRig() {
         picture().resize(1000, 1000, 1);
-        battle.redrawField();
+        battle.replotField();
         passTime();
     }
 

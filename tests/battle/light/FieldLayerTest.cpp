@@ -34,7 +34,7 @@ struct LitBattle : SkyRig {
         picture().setPieceImage(1, {width, height, std::vector(pixels, 0x80406080u)});
         picture().setPieceImage(2, holed(width, height));
         view.onShowField = [this] { show(); };
-        battle.redrawField();
+        battle.replotField();
     }
 
     static FieldPicture::PieceImage holed(int width, int height) {

@@ -30,7 +30,7 @@ struct LitRig : SkyRig {
         const std::vector<std::uint32_t> image(12 * 23, kRulesPiece);
         for (const int side : kSides) picture().setPieceImage(side, {12, 23, image});
         options().chkTrajectory_Click(false);
-        battle.redrawField();
+        battle.replotField();
         look();
         view.onShowField = [this] { look(); };
     }

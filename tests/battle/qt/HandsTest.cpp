@@ -157,6 +157,10 @@ class HandsTest : public QObject {
         for (const int size : {1, 2, 3}) {
             Screen screen{size, "Ann", "Bob", Screen::NewUser};
             QCOMPARE(hints(screen), QStringLiteral("hintSpeed hintAngle hintShoot"));
+            screen.form->resize(screen.form->size() + QSize{300, 150});
+            const QRect row = screen.form->findChild<QLabel*>("labelReport")->geometry();
+            const QRect hint = screen.form->findChild<QLabel*>("hintShoot")->geometry();
+            QVERIFY(row.contains(hint.center()));
             screen.bar("scrollSpeed(1)")->setValue(310);
             QCOMPARE(hints(screen), QStringLiteral("hintAngle hintShoot"));
             QTest::mouseClick(screen.form->findChild<QLabel*>("hintAngle"), Qt::LeftButton);

@@ -253,8 +253,15 @@ class frmPlayGameTest : public QObject {
             control->setFocus();
             QCOMPARE(inView(control), control->rect());
         }
-        screen.pacer.duringFlight = [&] { QCOMPARE(inView(screen.field()).height(), 400); };
-        QTest::mouseClick(screen.shoot(), Qt::LeftButton);
+        screen.form->fitInto({480, 450});
+        screen.pacer.duringFlight = [&] {
+            QCOMPARE(inView(screen.field()).height(), 400);
+            const auto shell = screen.field()->placeOfShell(screen.form->battle().scene());
+            QVERIFY(inView(screen.field()).contains(shell.value()));
+        };
+        for (int shot = 1; shot <= 2; ++shot)
+            QTest::keyClick(screen.form.get(), Qt::Key_S, Qt::AltModifier);
+        QCOMPARE(screen.shots(), 2u);
     }
 
     void laysOutAnySize() {
@@ -328,7 +335,7 @@ class frmPlayGameTest : public QObject {
         const auto seen = [&form] { return form.screen()->grabWindow(form.winId()).toImage(); };
         const QPoint golden = screen.shoot()->geometry().bottomRight() - QPoint{20, 20};
         const int brightness = form.grab().toImage().pixelColor(golden).lightness();
-        QImage before;
+        QImage before, rain;
         screen.pacer.inStorm = [&](std::int32_t left) {
             const QImage image = std::exchange(before, seen());
             QVERIFY(before != image);
@@ -343,6 +350,10 @@ class frmPlayGameTest : public QObject {
             screen.bar("scrollGameSpeed")->setValue(left % 99);  // as a screen reader does
             QVERIFY(screen.shows("Game Speed: 99"));
             if (left == 61'000) QCoreApplication::postEvent(form.windowHandle(), new QCloseEvent);
+            QVERIFY(std::exchange(rain, screen.field()->grab().toImage()) != rain);
+            if (left != 60'000) return;
+            form.resize(1200, 800);
+            rain = screen.field()->grab().toImage();  // shown scaled from now on
         };
         screen.clock.time += std::chrono::hours{1};
         screen.random.script({0});
