@@ -32,13 +32,16 @@ PixelRect within(const PixelRect& area, const FieldPicture& picture) {
 
 }  // namespace
 
-void StormShow::advance(const FieldPicture& picture) {
+void StormShow::advance(const FieldPicture& picture, Motion motion) {
     if (m_width != picture.width() || m_height != picture.height()) strew(picture);
     m_changes.swap(m_lit);
     m_lit.clear();
     m_lights.clear();
-    flicker(picture);
-    for (Drop& drop : m_drops) fall(drop, picture);
+    if (motion == Motion::Full) {
+        flicker(picture);
+        for (Drop& drop : m_drops) fall(drop);
+    }
+    for (Drop& drop : m_drops) show(drop, picture);
     m_changes.insert(m_changes.end(), m_lit.begin(), m_lit.end());
 }
 
@@ -74,13 +77,15 @@ void StormShow::flicker(const FieldPicture& picture) {
     m_lit.push_back(sky);
 }
 
-void StormShow::fall(Drop& drop, const FieldPicture& picture) {
-    const int width = dropWidth(m_height), length = dropLength(m_height, drop.isNear);
-    const int way = length * 3 / 2;
+void StormShow::fall(Drop& drop) {
+    const int way = dropLength(m_height, drop.isNear) * 3 / 2;
     drop.y += way;
     drop.x -= way / kSlant;
     if (drop.y >= m_height) drop = {below(m_width + m_height / kSlant), -below(way), drop.isNear};
+}
 
+void StormShow::show(Drop& drop, const FieldPicture& picture) {
+    const int width = dropWidth(m_height), length = dropLength(m_height, drop.isNear);
     const int step = width * kSlant, steps = (length + step - 1) / step;
     const std::size_t before = m_lights.size();
     for (int down = 0; down < steps; ++down)

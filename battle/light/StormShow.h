@@ -4,6 +4,7 @@
 #include <random>
 #include <vector>
 
+#include "base/Motion.h"
 #include "battle/FieldPicture.h"
 
 namespace skylob {
@@ -19,8 +20,9 @@ class StormShow {
         std::uint32_t pixel = 0;
     };
 
-    /// Lets a tenth of a second go by over `picture`.
-    void advance(const FieldPicture& picture);
+    /// Lets a tenth of a second go by over `picture`. With reduced motion the rain stands still, and
+    /// nothing flickers.
+    void advance(const FieldPicture& picture, Motion motion = Motion::Full);
 
     /// No light from now on.
     void end();
@@ -39,7 +41,8 @@ class StormShow {
     int below(int end);
     void strew(const FieldPicture& picture);
     void flicker(const FieldPicture& picture);
-    void fall(Drop& drop, const FieldPicture& picture);
+    void fall(Drop& drop);
+    void show(Drop& drop, const FieldPicture& picture);
     void lightUp(const PixelRect& area, std::uint32_t pixel, const FieldPicture& picture);
 
     std::minstd_rand m_chance;

@@ -104,7 +104,7 @@ void picGameField::showStorm() {
     const QWindow* display = window()->windowHandle();
     if (!isVisible() || !display || !display->isExposed()) return;  // nobody sees it
     if (!m_layer.isOn() || !isFitting()) return;
-    m_storm.advance(m_picture);
+    m_storm.advance(m_picture, m_layer.motion());
     repaintStorm();
 }
 

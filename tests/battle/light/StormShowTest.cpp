@@ -61,6 +61,17 @@ TEST_P(Show, LightsBlackPixelsAloneAndIsGoneInTheEnd) {
     EXPECT_EQ(changedPixels(), 0);
 }
 
+TEST_P(Show, StandsStillWhereMotionIsToBeReduced) {
+    std::vector<std::uint32_t> first;
+    for (int picturesShown = 0; picturesShown < 150; ++picturesShown) {
+        show.advance(picture, Motion::Reduced);
+        display();
+        if (first.empty()) first = shown;
+        ASSERT_EQ(shown, first) << picturesShown;
+    }
+    EXPECT_GT(changedPixels(), 50);
+}
+
 INSTANTIATE_TEST_SUITE_P(Heights, Show, testing::Values(170, 780));
 
 }  // namespace skylob::test

@@ -6,6 +6,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "platform/qt/QtScaleFactor.h"
 #include "platform/qt/QtSettingsStore.h"
 #include "platform/qt/QtWindowStore.h"
 #include "tests/support/CapturedErrors.h"
@@ -59,6 +60,24 @@ class SettingsStoreTest : public QObject {
             store.save("GameSpeed", "8");
             QCOMPARE(store.get("GameSpeed", "50"), "8"s);
             expectOneLine(errors.text());
+        }
+    }
+
+    void makesTheToolkitLargerOnTopOfTheUsersOwn() {
+        const char* const name = "QT_SCALE_FACTOR";
+        const std::tuple<QByteArray, int, QByteArray> rows[] = {
+            {{}, 100, {}},       {{}, 150, "1.5"},  {"1.25", 100, "1.25"}, {"1.25", 200, "2.5"},
+            {"wide", 175, "1.75"}, {"-2", 125, "1.25"}, {"", 125, "1.25"}};
+        for (const auto& [own, percent, factor] : rows) {
+            qunsetenv(name);
+            if (!own.isNull()) qputenv(name, own);
+            const bool wasSet = qEnvironmentVariableIsSet(name);
+            {
+                const QtScaleFactor larger{percent};
+                QCOMPARE(qgetenv(name), factor);
+            }
+            QCOMPARE(qgetenv(name), own);
+            QCOMPARE(qEnvironmentVariableIsSet(name), wasSet);
         }
     }
 
