@@ -20,8 +20,8 @@ class StormShow {
         std::uint32_t pixel = 0;
     };
 
-    /// Lets a tenth of a second go by over `picture`. With reduced motion the rain stands still, and
-    /// nothing flickers.
+    /// Lets a tenth of a second go by over `picture`. With reduced motion the rain stands still,
+    /// and nothing flickers.
     void advance(const FieldPicture& picture, Motion motion = Motion::Full);
 
     /// No light from now on.

@@ -84,14 +84,24 @@ void picGameField::paintEvent(QPaintEvent* event) {
         painter.drawImage(QRectF{rect()}, image);
         return;
     }
-    const qreal ratio = devicePixelRatioF();
+    usePixelsAsUnits(painter);
+    const QTransform toPixels = QTransform::fromScale(devicePixelRatioF(), devicePixelRatioF());
     const QList<QRect> all{event->region().begin(), event->region().end()};
     for (const QRect& part : event->rect() == m_stormStep ? m_stormParts : all) {
-        const QRectF source{part.x() * ratio, part.y() * ratio, part.width() * ratio,
-                            part.height() * ratio};
-        painter.drawImage(QRectF{part}, image, source);
+        const QRect pixels = toPixels.mapRect(QRectF{part}).toAlignedRect() & image.rect();
+        painter.drawImage(pixels.topLeft(), image, pixels);
     }
+    // Where corners lie between two pixels, one more may be the field's than the picture has.
+    painter.fillRect(image.width(), 0, 1, image.height(), Qt::black);
+    painter.fillRect(0, image.height(), image.width() + 1, 1, Qt::black);
     paintStorm(painter);
+}
+
+/// The picture's pixels become the painter's units, each of them one of the display's.
+void picGameField::usePixelsAsUnits(QPainter& painter) const {
+    const QTransform toDevice = painter.deviceTransform();
+    const QPoint corner = toDevice.map(QPointF{0, 0}).toPoint();
+    painter.setTransform(QTransform::fromTranslate(corner.x(), corner.y()) * toDevice.inverted());
 }
 
 /// What the player sees, without a copy.
@@ -126,7 +136,6 @@ void picGameField::repaintStorm() {
 }
 
 void picGameField::paintStorm(QPainter& painter) const {
-    painter.scale(1 / devicePixelRatioF(), 1 / devicePixelRatioF());
     for (const auto& [area, pixel] : m_storm.lights())
         painter.fillRect(area.x, area.y, area.width, area.height, QColor::fromRgb(pixel));
 }

@@ -61,6 +61,7 @@ class picGameField : public QWidget {
     QSize fittingSize() const;
     bool isFitting() const;
     void repaintStorm();
+    void usePixelsAsUnits(QPainter& painter) const;
     void paintStorm(QPainter& painter) const;
     QRectF logical(const PixelRect& area) const;
     QRect onDesktop(const PixelRect& area) const;

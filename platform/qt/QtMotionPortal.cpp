@@ -33,8 +33,7 @@ QDBusMessage question() {
 }
 
 MotionSettings settingsIn(const QDBusMessage& reply) {
-    const auto namespaces =
-        qdbus_cast<QMap<QString, QVariantMap>>(reply.arguments().value(0));
+    const auto namespaces = qdbus_cast<QMap<QString, QVariantMap>>(reply.arguments().value(0));
     const QVariant reduced = namespaces[kAppearance][QStringLiteral("reduced-motion")];
     const QVariant animations = namespaces[kInterface][QStringLiteral("enable-animations")];
     MotionSettings settings;

@@ -18,7 +18,8 @@ double factorOf(const QByteArray& text) {
 }  // namespace
 
 QtScaleFactor::QtScaleFactor(int percent) : m_usersOwn{qgetenv(kVariable)} {
-    if (percent != 100) qputenv(kVariable, QByteArray::number(factorOf(m_usersOwn) * percent / 100));
+    if (percent != 100)
+        qputenv(kVariable, QByteArray::number(factorOf(m_usersOwn) * percent / 100));
 }
 
 QtScaleFactor::~QtScaleFactor() {

@@ -72,21 +72,23 @@ void QtScreen::bringIntoView(QWidget* widget) {
 }
 
 void QtScreen::fitInto(const QSize& room) {
-    if (!mayGrow()) return fitOnlySizeInto(room);
+    if (m_smallest.boundedTo(room) != m_smallest && !m_scroll) scrollItsWidgets();
+    if (!m_scroll) return;
+    const QSize fitting = smallestWithBars(room).boundedTo(room);
+    if (!mayGrow()) return setFixedSize(fitting);
     setMinimumSize(m_smallest.boundedTo(room));
     if (!(windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen)))
-        resize(size().boundedTo(room));
+        resize(size().expandedTo(fitting).boundedTo(room));
 }
 
-void QtScreen::fitOnlySizeInto(const QSize& room) {
-    const bool tooWide = m_smallest.width() > room.width();
-    const bool tooHigh = m_smallest.height() > room.height();
-    if ((tooWide || tooHigh) && !m_scroll) scrollItsWidgets();
-    if (!m_scroll) return;
-    QSize size = m_smallest;  // and what a scroll bar takes of the other direction
-    if (tooHigh) size += QSize{m_scroll->verticalScrollBar()->sizeHint().width(), 0};
-    if (tooWide) size += QSize{0, m_scroll->horizontalScrollBar()->sizeHint().height()};
-    setFixedSize(size.boundedTo(room));
+/// The bar that scrolls in one direction takes something of the other.
+QSize QtScreen::smallestWithBars(const QSize& room) const {
+    QSize size = m_smallest;
+    if (m_smallest.height() > room.height())
+        size += QSize{m_scroll->verticalScrollBar()->sizeHint().width(), 0};
+    if (m_smallest.width() > room.width())
+        size += QSize{0, m_scroll->horizontalScrollBar()->sizeHint().height()};
+    return size;
 }
 
 void QtScreen::scrollItsWidgets() {

@@ -112,7 +112,7 @@ class QtScreen : public QWidget {
 
   private:
     void fitToDisplay();
-    void fitOnlySizeInto(const QSize& room);
+    QSize smallestWithBars(const QSize& room) const;
     void scrollItsWidgets();
 
     QtScreenFade* m_fade;

@@ -22,12 +22,14 @@ QtScaleChoice::QtScaleChoice(GlintButton* button, QLabel* note, WindowStore& win
 void QtScaleChoice::tell(int percent) {
     m_chosen = percent;
     m_button->design().setCaption(tr("&Size  %1 %").arg(percent).toStdString());
-    m_note->setText(percent == m_scaleNow ? QString{} : tr("%1 % from the next start").arg(percent));
+    m_note->setText(percent == m_scaleNow ? QString{}
+                                          : tr("%1 % from the next start").arg(percent));
 }
 
 void QtScaleChoice::makeMenu() {
     m_menu = new QMenu{m_button->window()};
     m_menu->setObjectName(QStringLiteral("menuScale"));
+    m_menu->setMinimumWidth(m_button->width());
     m_items = new QActionGroup{m_menu};
     for (const int percent : kScales) {
         QAction* item = m_menu->addAction(tr("%1 %").arg(percent));

@@ -60,7 +60,8 @@ void QtTitleAnimation::hideEvent(QHideEvent*) {
 }
 
 void QtTitleAnimation::timerEvent(QTimerEvent*) {
-    if (m_motion == Motion::Full) return showMoment(static_cast<double>(m_running.elapsed()) / 1000);
+    if (m_motion == Motion::Full)
+        return showMoment(static_cast<double>(m_running.elapsed()) / 1000);
     m_timer.stop();
     showMoment(0);
 }

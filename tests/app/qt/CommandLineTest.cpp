@@ -30,13 +30,27 @@ class CommandLineTest : public QObject {
         QCOMPARE(parse({"--scale=100"}).scale, 100);
         QCOMPARE(parse({"--scale", "200", "--plain"}).scale, 200);
         QVERIFY(!parse({}).scale);
-        for (const auto& refused :
-             {parse({"--seed"}), parse({"--seed", "-1"}), parse({"--seed", "1x"}),
-              parse({"--seed="}), parse({"--data-dir", ""}), parse({"--fast"}), parse({"-seed=1"}),
-              parse({"--help=x"}), parse({"--help", "--fast"}), parse({"file"}), parse({""}),
-              parse({"--", "-\n"}), parse({"--user-data", "--data-dir", "x"}), parse({"\xff"}),
-              parse({"--scale"}), parse({"--scale="}), parse({"--scale=99"}), parse({"--scale=201"}),
-              parse({"--scale=150%"}), parse({"--scale=1.5"}), parse({"--reduced-motion=1"})}) {
+        for (const auto& refused : {parse({"--seed"}),
+                                    parse({"--seed", "-1"}),
+                                    parse({"--seed", "1x"}),
+                                    parse({"--seed="}),
+                                    parse({"--data-dir", ""}),
+                                    parse({"--fast"}),
+                                    parse({"-seed=1"}),
+                                    parse({"--help=x"}),
+                                    parse({"--help", "--fast"}),
+                                    parse({"file"}),
+                                    parse({""}),
+                                    parse({"--", "-\n"}),
+                                    parse({"--user-data", "--data-dir", "x"}),
+                                    parse({"\xff"}),
+                                    parse({"--scale"}),
+                                    parse({"--scale="}),
+                                    parse({"--scale=99"}),
+                                    parse({"--scale=201"}),
+                                    parse({"--scale=150%"}),
+                                    parse({"--scale=1.5"}),
+                                    parse({"--reduced-motion=1"})}) {
             QCOMPARE(refused.request, Request::Refused);
             QVERIFY(!refused.error.empty() && refused.error.find('\n') == std::string::npos);
         }

@@ -129,6 +129,39 @@ TEST(BlastLight, FallsOnBlackAndPiecesAloneAndIsGoneWithTheBlast) {
     EXPECT_GT(brightest[3], 50);
 }
 
+/// The most of the black sky that becomes clearly brighter or darker from one look to the next, in
+/// percent of the picture, by a shot and by a storm.
+static std::pair<double, double> flashes(Motion motion, const Aim& aim) {
+    LitRig rig;
+    rig.layer.setMotion(motion);
+    std::vector<std::uint32_t> last = rig.shown();
+    std::ptrdiff_t most = 0;
+    rig.onLook = [&] {
+        const std::vector<std::uint32_t> now = rig.shown();
+        std::ptrdiff_t changed = 0;
+        for (std::size_t i = 0; i < now.size(); ++i)
+            changed += rig.picture().screenPixels()[i] == 0xFF000000u &&
+                       std::abs(static_cast<int>(now[i] >> 8 & 0xFF) -
+                                static_cast<int>(last[i] >> 8 & 0xFF)) > 10;
+        most = std::max(most, changed);
+        last = now;
+    };
+    const auto percent = [&] { return static_cast<double>(std::exchange(most, 0)) / 2500; };
+    rig.fire(aim);
+    const double byShot = percent();
+    rig.passTime();
+    rig.begin(kStorm);
+    return {byShot, percent()};
+}
+
+TEST(FieldLayer, DoesNotFlashWhereMotionIsToBeReduced) {
+    for (const Aim& aim : {kHit, kNear, kFarOff}) {
+        const auto [shot, storm] = flashes(Motion::Full, aim);
+        const auto [calmShot, calmStorm] = flashes(Motion::Reduced, aim);
+        std::cout << shot << " " << storm << " " << calmShot << " " << calmStorm << std::endl;
+    }
+}
+
 TEST(GunLight, LeavesAWreckUntilTheRoundIsOver) {
     for (const auto& [aim, victim] : {std::pair{kHit, 2}, {kOnOneself, 1}}) {
         LitRig rig;

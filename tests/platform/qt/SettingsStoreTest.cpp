@@ -66,7 +66,7 @@ class SettingsStoreTest : public QObject {
     void makesTheToolkitLargerOnTopOfTheUsersOwn() {
         const char* const name = "QT_SCALE_FACTOR";
         const std::tuple<QByteArray, int, QByteArray> rows[] = {
-            {{}, 100, {}},       {{}, 150, "1.5"},  {"1.25", 100, "1.25"}, {"1.25", 200, "2.5"},
+            {{}, 100, {}},         {{}, 150, "1.5"},    {"1.25", 100, "1.25"}, {"1.25", 200, "2.5"},
             {"wide", 175, "1.75"}, {"-2", 125, "1.25"}, {"", 125, "1.25"}};
         for (const auto& [own, percent, factor] : rows) {
             qunsetenv(name);
