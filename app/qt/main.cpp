@@ -15,6 +15,7 @@
 #include "app/qt/Application.h"
 #include "app/qt/QtCommandLine.h"
 #include "base/Release.h"
+#include "platform/qt/QtPictureTransport.h"
 #include "platform/qt/QtScaleFactor.h"
 #include "platform/qt/QtWindowStore.h"
 
@@ -85,6 +86,7 @@ int main(int argc, char** argv) {
     }
     if (!enterDataFolder(commandLine)) return kUnusableArguments;
     if (!hasDisplay()) return EXIT_FAILURE;
+    skylob::sendPicturesInline();
     int toolkitArguments = 1;  // the arguments are ours alone
     skylob::QtWindowStore windows;
     std::optional<skylob::QtScaleFactor> scale{skylob::startScale(commandLine, windows)};

@@ -9,7 +9,9 @@ namespace skylob {
 namespace {
 
 constexpr int kDrops = 80;
-constexpr int kSlant = 5;  // a drop is blown one drop's width to the left for each 5 it falls
+constexpr int kSquall = 3;       // it rains in one part of so many
+constexpr int kSquallWay = 160;  // pictures that it takes to cross the field
+constexpr int kSlant = 5;        // a drop is blown one drop's width to the left for each 5 it falls
 constexpr std::uint32_t kNearDrop = 0xFF5B6E94u, kFarDrop = 0xFF35425Fu;
 
 // The sky in a flicker, the last picture first, and how rarely one comes: every three seconds.
@@ -37,12 +39,18 @@ void StormShow::advance(const FieldPicture& picture, Motion motion) {
     m_changes.swap(m_lit);
     m_lit.clear();
     m_lights.clear();
-    if (motion == Motion::Full) {
-        flicker(picture);
-        for (Drop& drop : m_drops) fall(drop);
-    }
+    if (motion == Motion::Full) blow(picture);
     for (Drop& drop : m_drops) show(drop, picture);
     m_changes.insert(m_changes.end(), m_lit.begin(), m_lit.end());
+}
+
+void StormShow::blow(const FieldPicture& picture) {
+    flicker(picture);
+    m_squall -= std::max(m_width / kSquallWay, 1);
+    // One goes, and the next comes, while half of it is still to be seen.
+    const int half = m_width / kSquall / 2;
+    if (m_squall < -half) m_squall = m_width - half;
+    for (Drop& drop : m_drops) fall(drop);
 }
 
 void StormShow::end() {
@@ -56,12 +64,18 @@ int StormShow::below(int end) {
     return static_cast<int>(m_chance() % static_cast<unsigned>(std::max(end, 1)));
 }
 
+/// Where a new drop begins to fall: the squall is blown about as the drops are.
+int StormShow::inSquall() {
+    return m_squall + below(m_width / kSquall + m_height / kSlant);
+}
+
 void StormShow::strew(const FieldPicture& picture) {
     m_width = picture.width();
     m_height = picture.height();
+    m_squall = m_width - m_width / kSquall;
     m_drops.clear();
     for (int number = 0; number < kDrops; ++number) {
-        const int x = below(m_width), y = below(m_height);
+        const int x = inSquall(), y = below(m_height);
         m_drops.push_back({x, y, number % 2 == 0});
     }
 }
@@ -81,7 +95,7 @@ void StormShow::fall(Drop& drop) {
     const int way = dropLength(m_height, drop.isNear) * 3 / 2;
     drop.y += way;
     drop.x -= way / kSlant;
-    if (drop.y >= m_height) drop = {below(m_width + m_height / kSlant), -below(way), drop.isNear};
+    if (drop.y >= m_height) drop = {inSquall(), -below(way), drop.isNear};
 }
 
 void StormShow::show(Drop& drop, const FieldPicture& picture) {
