@@ -45,7 +45,7 @@ constexpr const char* kFiles =
     "  $XDG_RUNTIME_DIR/Skylob.lock  held while the game runs (or in /tmp/skylob-UID)\n";
 
 std::string helpOn(const Option& option) {
-    constexpr std::size_t kColumn = 22;
+    constexpr std::size_t kColumn = 23;
     std::string text = option.letter ? std::string{"  -"} + option.letter + ", --" : "      --";
     text += option.name;
     if (option.value) text += std::string{" "} + option.value;

@@ -1,22 +1,13 @@
 #!/usr/bin/python3
 """Usage: settings_portal.py NAMESPACE KEY VALUE
 
-A desktop's settings portal on the session bus, which has that setting (a number, or true or false) and
-some others. Says "ready" when it can be asked.
+A desktop's settings portal on the session bus, with that setting (a number, true or false) and another.
 """
 import sys
 
-import dbus
 import dbus.service
 from dbus.mainloop.glib import DBusGMainLoop
 from gi.repository import GLib
-
-DBusGMainLoop(set_as_default=True)
-words = {"true": dbus.Boolean(True), "false": dbus.Boolean(False)}
-settings = {
-    "org.freedesktop.appearance": {"color-scheme": dbus.UInt32(1)},
-    "org.gnome.desktop.interface": {"font-name": "Sans 11", "text-scaling-factor": 1.0},
-}
 
 
 class Portal(dbus.service.Object):
@@ -26,8 +17,10 @@ class Portal(dbus.service.Object):
 
 
 namespace, key, value = sys.argv[1:]
-settings[namespace][key] = words[value] if value in words else dbus.UInt32(int(value))
-bus = dbus.SessionBus()
+setting = dbus.UInt32(int(value)) if value.isdigit() else dbus.Boolean(value == "true")
+settings = {"org.freedesktop.appearance": {"color-scheme": dbus.UInt32(1)}}
+settings.setdefault(namespace, {})[key] = setting
+bus = dbus.SessionBus(mainloop=DBusGMainLoop())
 name = dbus.service.BusName("org.freedesktop.portal.Desktop", bus)
 portal = Portal(bus, "/org/freedesktop/portal/desktop")
 print("ready", flush=True)

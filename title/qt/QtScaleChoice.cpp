@@ -22,8 +22,8 @@ QtScaleChoice::QtScaleChoice(GlintButton* button, QLabel* note, WindowStore& win
 void QtScaleChoice::tell(int percent) {
     m_chosen = percent;
     m_button->design().setCaption(tr("&Size  %1 %").arg(percent).toStdString());
-    m_note->setText(percent == m_scaleNow ? QString{}
-                                          : tr("%1 % from the next start").arg(percent));
+    m_note->setText(tr("%1 % from the next start").arg(percent));
+    m_note->setVisible(percent != m_scaleNow);
 }
 
 void QtScaleChoice::makeMenu() {

@@ -65,7 +65,11 @@ class SettingsStoreTest : public QObject {
 
     void makesTheToolkitLargerOnTopOfTheUsersOwn() {
         const char* const name = "QT_SCALE_FACTOR";
-        const std::tuple<QByteArray, int, QByteArray> rows[] = {
+        struct {
+            QByteArray own;
+            int percent;
+            QByteArray factor;
+        } const rows[] = {
             {{}, 100, {}},         {{}, 150, "1.5"},    {"1.25", 100, "1.25"}, {"1.25", 200, "2.5"},
             {"wide", 175, "1.75"}, {"-2", 125, "1.25"}, {"", 125, "1.25"}};
         for (const auto& [own, percent, factor] : rows) {
