@@ -4,7 +4,12 @@
 # still and fading is not to be had, though the display could and the player has it switched on.
 here=$(dirname "${BASH_SOURCE[0]}")
 source "$here/lib.sh"
-calm FadeStatus=True NewUser=NoShow
+players Ann Bob
+
+start() {
+    calm FadeStatus=True NewUser=NoShow
+    start_program "$@"
+}
 
 # The title's stars twinkle all the time.
 is_still() {
@@ -36,16 +41,17 @@ start_desktop() {
 
 start_display
 start_compositing
-start_program --reduced-motion
+start --reduced-motion
 expect_calm
 for wish in 'org.freedesktop.appearance reduced-motion 1' 'org.gnome.desktop.interface enable-animations false'; do
     start_desktop $wish
-    start_program
+    start
     expect_calm "$wish"
 done
 start_desktop org.freedesktop.appearance reduced-motion 0
-start_program
+start
 not is_still || fail "the title stands still"
+xprop -id "$(window "$title")" -spy _NET_WM_WINDOW_OPACITY >"$work/opacities" &
+wait_for test -s "$work/opacities" || fail "no look at the opacity"
 press "$title" space
-shown "$lobby"
-opacity "$lobby" | grep -q '=' || fail "the list does not fade"
+wait_for grep -q '= [0-9]' "$work/opacities" || fail "the title does not fade"

@@ -69,9 +69,9 @@ class SettingsStoreTest : public QObject {
             QByteArray own;
             int percent;
             QByteArray factor;
-        } const rows[] = {
-            {{}, 100, {}},         {{}, 150, "1.5"},    {"1.25", 100, "1.25"}, {"1.25", 200, "2.5"},
-            {"wide", 175, "1.75"}, {"-2", 125, "1.25"}, {"", 125, "1.25"}};
+        } const rows[] = {{{}, 100, {}},        {{}, 150, "1.5"},      {"1.25", 100, "1.25"},
+                          {"1.25", 200, "2.5"}, {"wide", 175, "1.75"}, {"-2", 125, "1.25"},
+                          {"", 125, "1.25"}};
         for (const auto& [own, percent, factor] : rows) {
             qunsetenv(name);
             if (!own.isNull()) qputenv(name, own);

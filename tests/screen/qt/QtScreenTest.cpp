@@ -156,7 +156,7 @@ class QtScreenTest : public QObject {
         QCOMPARE(screen.size(), QSize(200 + 14, 60));  // and the bar beside it
         screen.fitInto({500, 500});
         QCOMPARE(screen.size(), QSize(200, 100));
-        QVERIFY(isInView(upper) && isInView(lower));
+        QTRY_VERIFY(isInView(upper) && isInView(lower));
     }
 
     void comesBackToWhereItWasLeft() {
