@@ -81,13 +81,14 @@ void QtScreen::fitInto(const QSize& room) {
         resize(size().expandedTo(fitting).boundedTo(room));
 }
 
-/// The bar that scrolls in one direction takes something of the other.
+/// The bar that scrolls in one direction takes something of the other. Where logical pixels are no
+/// whole ones of the display, windows get up to one less than they ask for.
 QSize QtScreen::smallestWithBars(const QSize& room) const {
     QSize size = m_smallest;
     if (m_smallest.height() > room.height())
-        size += QSize{m_scroll->verticalScrollBar()->sizeHint().width(), 0};
+        size += QSize{m_scroll->verticalScrollBar()->sizeHint().width() + 1, 0};
     if (m_smallest.width() > room.width())
-        size += QSize{0, m_scroll->horizontalScrollBar()->sizeHint().height()};
+        size += QSize{0, m_scroll->horizontalScrollBar()->sizeHint().height() + 1};
     return size;
 }
 

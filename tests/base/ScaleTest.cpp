@@ -9,27 +9,12 @@ namespace skylob::test {
 
 TEST(Scale, IsAHundredUnlessTheMemoryHoldsOne) {
     MemoryWindows windows;
-    EXPECT_EQ(recallScale(windows), 100);
-    const std::pair<const char*, int> rows[] = {{"100", 100},
-                                                {"125", 125},
-                                                {"200", 200},
-                                                {"137", 137},
-                                                {"99", 100},
-                                                {"201", 100},
-                                                {"1e2", 100},
-                                                {"150%", 100},
-                                                {"-150", 100},
-                                                {"", 100},
-                                                {"999999999999999", 100},
-                                                {" 150", 100},
-                                                {"150.5", 100},
-                                                {"0", 100}};
-    for (const auto& [kept, scale] : rows) {
-        windows.keep("Scale", kept);
-        EXPECT_EQ(recallScale(windows), scale) << kept;
+    for (const char* nonsense : {"", "99", "201", "150%", " 150", "wide"}) {
+        windows.keep("Scale", nonsense);
+        EXPECT_EQ(recallScale(windows), 100) << nonsense;
     }
     keepScale(windows, 175);
-    EXPECT_EQ(windows.recall("Scale", ""), "175");
+    EXPECT_EQ(recallScale(windows), 175);
 }
 
 TEST(Motion, IsReducedWhereTheDesktopAsksForIt) {

@@ -64,25 +64,17 @@ class SettingsStoreTest : public QObject {
     }
 
     void makesTheToolkitLargerOnTopOfTheUsersOwn() {
-        const char* const name = "QT_SCALE_FACTOR";
-        struct {
-            QByteArray own;
-            int percent;
-            QByteArray factor;
-        } const rows[] = {{{}, 100, {}},        {{}, 150, "1.5"},      {"1.25", 100, "1.25"},
-                          {"1.25", 200, "2.5"}, {"wide", 175, "1.75"}, {"-2", 125, "1.25"},
-                          {"", 125, "1.25"}};
-        for (const auto& [own, percent, factor] : rows) {
-            qunsetenv(name);
-            if (!own.isNull()) qputenv(name, own);
-            const bool wasSet = qEnvironmentVariableIsSet(name);
-            {
-                const QtScaleFactor larger{percent};
-                QCOMPARE(qgetenv(name), factor);
-            }
-            QCOMPARE(qgetenv(name), own);
-            QCOMPARE(qEnvironmentVariableIsSet(name), wasSet);
+        constexpr const char* kName = "QT_SCALE_FACTOR";
+        for (const auto& [own, factor] : {std::pair{"1.25", "2.5"}, {"wide", "2"}, {"", "2"}}) {
+            qputenv(kName, own);
+            std::optional<QtScaleFactor> larger{200};
+            QCOMPARE(qgetenv(kName), factor);
+            larger.reset();
+            QCOMPARE(qgetenv(kName), own);
         }
+        qunsetenv(kName);
+        QtScaleFactor{200};
+        QVERIFY(!qEnvironmentVariableIsSet(kName));
     }
 
   private:

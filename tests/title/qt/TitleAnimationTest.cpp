@@ -38,7 +38,6 @@ class TitleAnimationTest : public QObject {
         QtTitleAnimation animation{m_shapes, motion};
         const QImage calm = animation.grab().toImage();
         animation.showMoment(3);
-        QVERIFY(animation.grab().toImage() != calm);
         animation.show();
         motion = Motion::Reduced;  // which a desktop may say late
         QTRY_VERIFY(!animation.isRunning());
