@@ -9,8 +9,8 @@ namespace skylob {
 inline constexpr std::string_view kEffectsKey = "Effects";
 
 /// What is remembered of windows and not of the game: places and sizes, the effects over the field,
-/// the volume, hints that have been seen. Texts by key, in a file of their own: losing it costs
-/// nothing.
+/// the scale, the volume, hints that have been seen. Texts by key, in a file of their own: losing
+/// it costs nothing.
 class WindowStore {
   public:
     virtual ~WindowStore() = default;

@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "base/Motion.h"
 #include "base/PerSide.h"
 
 namespace skylob {
@@ -29,6 +30,7 @@ struct basSkylob {
     int ScreenSize = kNormalScreen;   ///< of the battle: kSmallScreen to kLargeScreen
     bool FadeStatus = false;          ///< the user wants screens to fade
     bool FadeActive = false;          ///< the screen that came or went last could fade
+    Motion motion = Motion::Full;     ///< what moves for show; the desktop may tell it late
 
     std::string PlayerFileName = "Skylob.Data";  ///< in the working directory
     std::string OldDataFile = "Skylob.Dat";      ///< what it was called in earlier versions

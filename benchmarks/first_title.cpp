@@ -3,10 +3,12 @@
 #include "FirstPaint.h"
 #include "app/qt/Application.h"
 #include "platform/qt/QtPictureTransport.h"
+#include "platform/qt/QtWindowStore.h"
 
 int main(int argc, char** argv) {
     skylob::sendPicturesInline();
-    skylob::Application application{argc, argv, {}};
+    skylob::QtWindowStore windows;
+    skylob::Application application{argc, argv, {}, windows};
     const skylob::QuitAfterFirstPaint once{application};
     return application.run();
 }

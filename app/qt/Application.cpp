@@ -4,6 +4,7 @@
 #include <exception>
 
 #include "app/Main.h"
+#include "app/StartScale.h"
 #include "app/qt/QtProgramEnd.h"
 #include "app/qt/QtProgramTexts.h"
 #include "base/NullPorts.h"
@@ -12,6 +13,7 @@
 #include "battle/qt/frmPlayGame.h"
 #include "controls/qt/GlintButtonAccessible.h"
 #include "manual/qt/frmManual.h"
+#include "platform/qt/QtMotionPortal.h"
 #include "players/qt/QtPlayerGrid.h"
 #include "players/qt/frmGetPlayers.h"
 #include "players/qt/frmGetSkillLevel.h"
@@ -70,11 +72,13 @@ void Application::after(Event event) {
     }
 }
 
-Application::Application(int& argc, char** argv, const CommandLine& commandLine)
+Application::Application(int& argc, char** argv, const CommandLine& commandLine,
+                         WindowStore& windows)
     : QApplication{argc, argv},
       m_shapes{programDrawings()},
       m_random{commandLine.seed},
-      m_windows{m_windowsFile, commandLine},
+      m_windows{windows, commandLine},
+      m_scale{startScale(commandLine, windows)},
       m_texts{programTexts()},
       m_playerFile{m_files, m_shared.PlayerFileName} {
     GlintButtonAccessible::install();
@@ -88,6 +92,7 @@ Application::Application(int& argc, char** argv, const CommandLine& commandLine)
     setDesktopFileName(QStringLiteral("skylob"));  // by which a desktop knows the windows' icon
     // One screen may close before the next is shown.
     setQuitOnLastWindowClosed(false);
+    if (commandLine.reducedMotion) m_shared.motion = Motion::Reduced;
 }
 
 Application::~Application() {
@@ -98,12 +103,19 @@ int Application::run() {
     try {
         if (!Main(m_shared, m_singleCopy.copies(), m_files, m_boxes)) return EXIT_FAILURE;
         after(Event::ProgramStarted);
+        learnMotion();
     } catch (const std::exception& error) {
         endWithError(m_boxes, error.what());
     }
     const int status = exec();
     closeSounds(m_sounds, status);
     return status;
+}
+
+/// The title page is on its way to the display meanwhile.
+void Application::learnMotion() {
+    if (m_shared.motion == Motion::Reduced) return;
+    askForMotion(this, [this](Motion motion) { m_shared.motion = motion; });
 }
 
 bool Application::notify(QObject* receiver, QEvent* event) {
@@ -133,17 +145,19 @@ void Application::show(QtScreen* screen, PlaceMemory memory) {
 }
 
 void Application::showOver(QtScreen& screen) {
+    fitToDisplayOf(screen, m_screen);
     centreOver(screen, m_screen);
     screen.showModal(m_screen);
 }
 
 void Application::showBeside(QtScreen& summary) {
+    fitToDisplayOf(summary, m_battle);
     placeClearOf(summary, *m_battle, m_battle->toBeSeen());
     summary.showModal(m_battle);
 }
 
 void Application::showTitlePage() {
-    auto* page = new frmTitlePage{m_screenPorts, m_clock, m_sounds, m_links, m_boxes};
+    auto* page = new frmTitlePage{m_screenPorts, m_clock, m_sounds, m_links, m_boxes, m_scale};
     on(page, &frmTitlePage::newUserCame, Event::NewUserCame);
     onLeaving(page, &frmTitlePage::continued, Event::TitlePageContinued);
     onLeaving(page, &frmTitlePage::closed, Event::TitlePageClosed);
@@ -169,6 +183,7 @@ void Application::showManual() {
     if (!m_manual) {
         m_manual = new frmManual{m_screenPorts, m_texts, m_links, m_boxes};
         connect(m_manual, &frmManual::returned, m_manual, &QObject::deleteLater);
+        fitToDisplayOf(*m_manual, m_screen);
         centreOver(*m_manual, m_screen);
         m_manual->show();
     }
@@ -184,6 +199,7 @@ void Application::showRules() {
 
 void Application::showSkillLevel() {
     frmGetSkillLevel question{m_screenPorts};
+    fitToDisplayOf(question, m_screen);
     centreOnDisplay(question, m_screen);
     question.showModal(m_screen);
 }

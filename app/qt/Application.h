@@ -17,7 +17,6 @@
 #include "platform/qt/QtLinkOpener.h"
 #include "platform/qt/QtPacer.h"
 #include "platform/qt/QtSettingsStore.h"
-#include "platform/qt/QtWindowStore.h"
 #include "platform/qt/SdlSoundPlayer.h"
 #include "players/PlayerFile.h"
 #include "screen/qt/QtEnterGuard.h"
@@ -36,8 +35,9 @@ class Application : public QApplication {
     Q_OBJECT
 
   public:
-    /// `argc` and `argv` as main gets them, to outlive the object.
-    Application(int& argc, char** argv, const CommandLine& commandLine);
+    /// `argc` and `argv` as main gets them, and what is remembered of windows; all to outlive the
+    /// object.
+    Application(int& argc, char** argv, const CommandLine& commandLine, WindowStore& windows);
     ~Application() override;
 
     /// Shows the first screen and serves events until the last one has gone. Returns the exit
@@ -73,6 +73,7 @@ class Application : public QApplication {
     /// gone.
     void showBeside(QtScreen& summary);
 
+    void learnMotion();
     void showTitlePage();
     void showNewUser();
     void showPlayerList();
@@ -93,8 +94,8 @@ class Application : public QApplication {
     QtPacer m_pacer;
     SdlSoundPlayer m_sounds;
     QtSettingsStore m_settings;
-    QtWindowStore m_windowsFile;
     PlainStart m_windows;
+    const int m_scale;  ///< of this run, in percent
     QtLinkOpener m_links;
     DiskFiles m_files;
     const StringTable m_texts;

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <charconv>
 
+#include "base/Scale.h"
+
 namespace skylob {
 
 namespace {
@@ -23,6 +25,10 @@ constexpr Option kOptions[]{
      "keep it in your own data folder\n(otherwise: in the folder that the program is started in)"},
     {"plain", 0, nullptr, &CommandLine::plain,
      "no light over the battlefield (\"Effects\" in the battle)"},
+    {"reduced-motion", 0, nullptr, &CommandLine::reducedMotion,
+     "nothing moves or flashes for show\n(otherwise: where the desktop's settings say so)"},
+    {"scale", 0, "PERCENT", nullptr,
+     "how large everything is, 100 to 200\n(\"Size\" on the title page keeps it)"},
     {"seed", 0, "N", nullptr, "repeatable chance: the same seed, the same battlefields"},
     {"help", 'h', nullptr, nullptr, "print this text"},
     {"version", 'v', nullptr, nullptr, "print the version"},
@@ -35,11 +41,11 @@ constexpr const char* kFiles =
     "                                an earlier version's Skylob.Dat gets its name\n"
     "  ~/.local/share/Skylob/        where --user-data keeps it ($XDG_DATA_HOME)\n"
     "  ~/.config/Skylob/Skylob.ini   your settings ($XDG_CONFIG_HOME)\n"
-    "  ~/.config/Skylob/Windows.ini  where windows stood, the volume, the effects\n"
+    "  ~/.config/Skylob/Windows.ini  where windows stood, size, volume, effects\n"
     "  $XDG_RUNTIME_DIR/Skylob.lock  held while the game runs (or in /tmp/skylob-UID)\n";
 
 std::string helpOn(const Option& option) {
-    constexpr std::size_t kColumn = 22;
+    constexpr std::size_t kColumn = 23;
     std::string text = option.letter ? std::string{"  -"} + option.letter + ", --" : "      --";
     text += option.name;
     if (option.value) text += std::string{" "} + option.value;
@@ -100,12 +106,19 @@ bool readSeed(const QCommandLineParser& parser, CommandLine& result) {
     return error == std::errc{} && end == text.data() + text.size();
 }
 
+bool readScale(const QCommandLineParser& parser, CommandLine& result) {
+    result.scale = scaleOf(parser.value(QStringLiteral("scale")).toStdString());
+    return result.scale.has_value();
+}
+
 CommandLine readOptions(const QCommandLineParser& parser) {
     CommandLine result;
     for (const Option& option : kOptions)
         if (option.chosen) result.*option.chosen = parser.isSet(QString::fromLatin1(option.name));
     if (parser.isSet(QStringLiteral("seed")) && !readSeed(parser, result))
         return refused("--seed needs a whole number from 0 up");
+    if (parser.isSet(QStringLiteral("scale")) && !readScale(parser, result))
+        return refused("--scale needs a whole number from 100 to 200");
     if (parser.isSet(QStringLiteral("data-dir")))
         result.dataDir = parser.value(QStringLiteral("data-dir")).toStdString();
     if (result.dataDir && result.dataDir->empty()) return refused("--data-dir needs a folder");

@@ -6,14 +6,18 @@
 #include <QtGlobal>
 #include <cstdio>
 #include <cstdlib>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "app/StartScale.h"
 #include "app/qt/Application.h"
 #include "app/qt/QtCommandLine.h"
 #include "base/Release.h"
 #include "platform/qt/QtPictureTransport.h"
+#include "platform/qt/QtScaleFactor.h"
+#include "platform/qt/QtWindowStore.h"
 
 namespace {
 
@@ -84,8 +88,11 @@ int main(int argc, char** argv) {
     if (!hasDisplay()) return EXIT_FAILURE;
     skylob::sendPicturesInline();
     int toolkitArguments = 1;  // the arguments are ours alone
+    skylob::QtWindowStore windows;
+    std::optional<skylob::QtScaleFactor> scale{skylob::startScale(commandLine, windows)};
     const auto usualHandler = qInstallMessageHandler(endWhereThereIsNoDisplay);
-    skylob::Application application{toolkitArguments, argv, commandLine};
+    skylob::Application application{toolkitArguments, argv, commandLine, windows};
     qInstallMessageHandler(usualHandler);
+    scale.reset();
     return application.run();
 }

@@ -62,6 +62,7 @@ LightPoint onSpray(const BlastMoment& moment, const Spray& spray, unsigned i, do
 
 void addSpray(LightBurst& burst, const BlastMoment& moment, const Spray& spray, Colour young,
               Colour old) {
+    if (moment.motion == Motion::Reduced) return;
     for (unsigned i = 0; i < spray.number; ++i) {
         const double life = 0.6 + 0.4 * scattered(spray.seed + 3 * i + 2);
         const double age = moment.age / life;
@@ -71,6 +72,13 @@ void addSpray(LightBurst& burst, const BlastMoment& moment, const Spray& spray, 
         burst.line(tail, head, spray.width * moment.unit * (1 - 0.5 * age),
                    between(young, old, age), 1 - age * age);
     }
+}
+
+/// What the blast lights around it.
+void addGlow(LightBurst& burst, const BlastMoment& moment, double radius, Colour colour,
+             double strength) {
+    if (moment.motion == Motion::Full)
+        burst.glow(moment.at, radius * moment.unit, colour, strength);
 }
 
 void addSmoke(LightBurst& burst, const BlastMoment& moment, double radius) {
@@ -109,10 +117,11 @@ void addFire(LightBurst& burst, const BlastMoment& moment, double radius) {
 LightBurst fireball(const BlastMoment& moment) {
     const double left = 1 - moment.age, radius = 8 + 30 * slowed(moment.age);
     LightBurst burst;
-    burst.glow(moment.at, 150 * moment.unit, kEmber, 0.42 * left);
-    burst.glow(moment.at, 85 * moment.unit, kFire, 0.5 * left);
+    addGlow(burst, moment, 150, kEmber, 0.42 * left);
+    addGlow(burst, moment, 85, kFire, 0.5 * left);
     addSmoke(burst, moment, radius);
     addFire(burst, moment, radius);
+    if (moment.motion == Motion::Reduced) return burst;
     burst.glow(placeOf(moment, 0, 9), (18 + 26 * moment.age) * moment.unit, kFlash,
                0.9 * left * left);
     addSpray(burst, moment, {34, 300, 0, 1.75, 45, 150, 26, 1.9}, kFlash, kEmber);
@@ -122,7 +131,7 @@ LightBurst fireball(const BlastMoment& moment) {
 LightBurst dustColumn(const BlastMoment& moment, int towards) {
     constexpr unsigned kPuffs = 40;
     LightBurst burst;
-    burst.glow(moment.at, 46 * moment.unit, kFire, 0.4 * rise(1 - moment.age, 0.3, 1));
+    addGlow(burst, moment, 46, kFire, 0.4 * rise(1 - moment.age, 0.3, 1));
     const double reach = slowed(moment.age);
     for (unsigned i = 0; i < kPuffs; ++i) {
         const double along = (i + 0.5) / kPuffs, apart = 2 * scattered(400 + i) - 1;
@@ -142,7 +151,7 @@ LightBurst dustColumn(const BlastMoment& moment, int towards) {
 LightBurst dullBlast(const BlastMoment& moment) {
     constexpr unsigned kPuffs = 9;
     LightBurst burst;
-    burst.glow(moment.at, 22 * moment.unit, kEmber, 0.45 * (1 - moment.age));
+    addGlow(burst, moment, 22, kEmber, 0.45 * (1 - moment.age));
     for (unsigned i = 0; i < kPuffs; ++i) {
         const double right = (2 * (i + 0.5) / kPuffs - 1) * (4 + 8 * slowed(moment.age));
         const double up = (3 + 9 * scattered(700 + i)) * slowed(moment.age) * (1 - 0.05 * right);

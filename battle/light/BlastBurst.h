@@ -1,14 +1,16 @@
 #pragma once
 
+#include "base/Motion.h"
 #include "battle/light/LightBurst.h"
 
 namespace skylob {
 
 /// How far a blast has come.
 struct BlastMoment {
-    LightPoint at;    ///< its middle, or the ground below it
-    double unit = 1;  ///< the device pixels of a pen's width
-    double age = 0;   ///< 0 (begins) to 1 (gone)
+    LightPoint at;                 ///< its middle, or the ground below it
+    double unit = 1;               ///< the device pixels of a pen's width
+    double age = 0;                ///< 0 (begins) to 1 (gone)
+    Motion motion = Motion::Full;  ///< reduced: without flash, glow and sparks
 };
 
 /// A piece blows up: a fireball, sparks that fly far, light on the sky.

@@ -26,7 +26,7 @@ LightBurst burstOf(const FieldScene::Blast& blast, const FieldSight& sight) {
     // A blast of width 1 is not shown any more than one that is over.
     const double age = (blast.width - 1.0) / blast.fullWidth;
     const BlastMoment moment{sight.middleOf(aboveGround(blast.at, sight.state.field)),
-                             static_cast<double>(sight.picture.dotScale()), age};
+                             static_cast<double>(sight.picture.dotScale()), age, sight.motion};
     if (isHit(blast.landing)) return fireball(moment);
     return blast.landing == Landing::NearMiss ? nearMiss(moment, sight) : dullBlast(moment);
 }

@@ -36,6 +36,7 @@ void BoltLight::follow(const FieldSight& sight, ChangedAreas& changed) {
                 changed.add(Glow{m_bolts[i].back(), m_radius, kFireLight, kStrength}.area());
         }
     }
+    m_lightsSky = sight.motion == Motion::Full;
     if (sight.remade || m_bolts.size() != before) lightSky(changed);
 }
 
@@ -55,7 +56,7 @@ void BoltLight::lightSky(ChangedAreas& changed) {
 
 void BoltLight::paint(LightCanvas& canvas) const {
     if (m_bolts.empty()) return;
-    paintSky(canvas);
+    if (m_lightsSky) paintSky(canvas);
     for (const Path& bolt : m_bolts) paintBolt(bolt, canvas);
 }
 

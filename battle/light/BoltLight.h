@@ -19,6 +19,7 @@ class BoltLight : public LightPainter {
     void paintSky(LightCanvas& canvas) const;
     void paintBolt(const Path& bolt, LightCanvas& canvas) const;
 
+    bool m_lightsSky = true;
     const Skyline* m_skyline = nullptr;
     double m_radius = 0, m_far = 0;
     int m_height = 0;  ///< of the picture

@@ -127,10 +127,11 @@ bool FieldLayer::takeSize() {
 }
 
 void FieldLayer::look(bool remade) {
-    const bool moving = moves(m_scene);
+    const bool moving = m_motion == Motion::Full && moves(m_scene);
     if (moving) ++m_step;
     if (remade) m_skyline.trace(m_picture, m_state.field.groundColour);
-    const FieldSight sight{m_picture, m_scene, m_state, m_skyline, remade, moving, m_step};
+    const FieldSight sight{m_picture, m_scene, m_state, m_skyline,
+                           remade,    moving,  m_step,  m_motion};
     for (const auto& painter : m_painters) painter->follow(sight, m_changed);
 }
 

@@ -30,6 +30,10 @@ class FieldLayer {
     void setOn(bool on);
     bool isOn() const { return m_on; }
 
+    /// From the next update() on.
+    void setMotion(Motion motion) { m_motion = motion; }
+    Motion motion() const { return m_motion; }
+
     /// Brings the layer in line with the picture, of which `changed` has changed, and with what is
     /// happening. Returns the areas to be shown anew, valid until the next call.
     const std::vector<PixelRect>& update(const PixelRect& changed);
@@ -63,6 +67,7 @@ class FieldLayer {
     std::vector<std::unique_ptr<LightPainter>> m_painters;  ///< the lowest light first
     const GunLight* m_guns = nullptr;                       ///< one of them, or null
     bool m_on = true, m_switched = true;
+    Motion m_motion = Motion::Full;
     int m_width = 0, m_height = 0;
     int m_makings = 0, m_step = 0;
     Skyline m_skyline;

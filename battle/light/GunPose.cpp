@@ -30,7 +30,7 @@ GunPose gunPose(int side, const FieldSight& sight) {
     GunPose pose{.side = side, .wrecked = sight.scene.wrecked[side]};
     if (pose.wrecked) return pose;
     pose.turn = turnOnDisplay(launchDirection(side, sight.state.aim[side].angle), sight.picture);
-    pose.recoil = recoilOf(side, sight.scene.flight);
+    if (sight.motion == Motion::Full) pose.recoil = recoilOf(side, sight.scene.flight);
     pose.onTurn = sight.state.turnNotice.side == side;
     return pose;
 }

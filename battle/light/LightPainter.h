@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Motion.h"
 #include "battle/BattleState.h"
 #include "battle/FieldPicture.h"
 #include "battle/FieldScene.h"
@@ -22,6 +23,8 @@ struct FieldSight {
     bool moving = false;
     /// Counts the looks at something that moves.
     int step = 0;
+    /// Reduced: nothing flashes.
+    Motion motion = Motion::Full;
 
     /// Device pixels: of a length in logical ones.
     double scaled(double length) const { return length * picture.dotScale(); }

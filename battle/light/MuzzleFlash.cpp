@@ -54,7 +54,8 @@ LightBurst burstOf(const FieldSight& sight, std::size_t step) {
     const Muzzle muzzle{muzzleOf(pose, area), pose.turn, gunScale(area.width, area.height).barrel};
     LightBurst burst;
     addSmoke(burst, muzzle, static_cast<double>(step) / kSmokeSteps);
-    if (step < kFlashSteps) addFlash(burst, muzzle, 1 - static_cast<double>(step) / kFlashSteps);
+    const bool flashes = sight.motion == Motion::Full && step < kFlashSteps;
+    if (flashes) addFlash(burst, muzzle, 1 - static_cast<double>(step) / kFlashSteps);
     return burst;
 }
 

@@ -47,13 +47,18 @@ void StormShow::advance(const FieldLayer& layer) {
     m_changes.swap(m_lit);
     m_lit.clear();
     m_lights.clear();
+    if (layer.motion() == Motion::Full) blow(layer);
+    for (Drop& drop : m_drops) show(drop, layer);
+    m_changes.insert(m_changes.end(), m_lit.begin(), m_lit.end());
+}
+
+void StormShow::blow(const FieldLayer& layer) {
     flicker(layer);
     m_squall -= std::max(m_width / kSquallWay, 1);
     // One goes, and the next comes, while half of it is still to be seen.
     const int half = m_width / kSquall / 2;
     if (m_squall < -half) m_squall = m_width - half;
-    for (Drop& drop : m_drops) fall(drop, layer);
-    m_changes.insert(m_changes.end(), m_lit.begin(), m_lit.end());
+    for (Drop& drop : m_drops) fall(drop);
 }
 
 void StormShow::end() {
@@ -94,13 +99,15 @@ void StormShow::flicker(const FieldLayer& layer) {
     m_lit.push_back(sky);
 }
 
-void StormShow::fall(Drop& drop, const FieldLayer& layer) {
-    const int width = dropWidth(m_height), length = dropLength(m_height, drop.isNear);
-    const int way = length * 3 / 2;
+void StormShow::fall(Drop& drop) {
+    const int way = dropLength(m_height, drop.isNear) * 3 / 2;
     drop.y += way;
     drop.x -= way / kSlant;
     if (drop.y >= m_height) drop = {inSquall(), -below(way), drop.isNear};
+}
 
+void StormShow::show(Drop& drop, const FieldLayer& layer) {
+    const int width = dropWidth(m_height), length = dropLength(m_height, drop.isNear);
     const int step = width * kSlant, steps = (length + step - 1) / step;
     const std::size_t before = m_lights.size();
     for (int down = 0; down < steps; ++down)

@@ -23,7 +23,8 @@ class StormShow {
         std::uint32_t pixel = 0;
     };
 
-    /// Lets a tenth of a second go by over what `layer` shows.
+    /// Lets a tenth of a second go by over what `layer` shows. With reduced motion the rain stands
+    /// still, and nothing flickers.
     void advance(const FieldLayer& layer);
 
     /// No light from now on.
@@ -44,7 +45,9 @@ class StormShow {
     int inSquall();
     void strew(const FieldLayer& layer);
     void flicker(const FieldLayer& layer);
-    void fall(Drop& drop, const FieldLayer& layer);
+    void blow(const FieldLayer& layer);
+    void fall(Drop& drop);
+    void show(Drop& drop, const FieldLayer& layer);
     void lightUp(const PixelRect& area, std::uint32_t pixel, const FieldLayer& layer);
     void addRun(const PixelRect& run, std::uint32_t pixel);
 

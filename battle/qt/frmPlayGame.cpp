@@ -57,6 +57,7 @@ frmPlayGame::frmPlayGame(const QtScreenPorts& screen, const BattlePorts& ports, 
     makeButtons();
     m_strip = new QtOptionStrip{m_layout, m_windows, m_battle.options(), board()};
     m_layer.setOn(m_strip->wantsEffects());
+    m_layer.setMotion(m_shared.motion);
     connectControls();
     const QtBattleControls controls{m_side, cmdShoot, cmdQuit, m_strip};
     addBattleKeys(*this, m_battle, controls);

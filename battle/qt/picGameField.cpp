@@ -97,19 +97,38 @@ void picGameField::paintEvent(QPaintEvent* event) {
     const QImage image = shown();
     if (image.isNull()) return;
     QPainter painter{this};
-    if (image.size() == fittingSize()) {
-        const qreal ratio = devicePixelRatioF();
-        const QList<QRect> all{event->region().begin(), event->region().end()};
-        for (const QRect& part : event->rect() == m_stormStep ? m_stormParts : all) {
-            const QRectF source{part.x() * ratio, part.y() * ratio, part.width() * ratio,
-                                part.height() * ratio};
-            painter.drawImage(QRectF{part}, image, source);
-        }
-    } else {
-        painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        painter.drawImage(QRectF{rect()}, image);
+    if (image.size() == fittingSize())
+        paintFitting(painter, image, *event);
+    else
+        paintScaled(painter, image);
+    for (const auto& [area, colour] : m_storm.lights())
+        painter.fillRect(area.x, area.y, area.width, area.height, QColor::fromRgba(colour));
+}
+
+/// Leaves the painter with the picture's pixels as its units, each of them one of the display's.
+void picGameField::paintFitting(QPainter& painter, const QImage& image,
+                                const QPaintEvent& event) const {
+    const QTransform toDevice = painter.deviceTransform();
+    const QPoint corner = toDevice.map(QPointF{0, 0}).toPoint();
+    painter.setTransform(QTransform::fromTranslate(corner.x(), corner.y()) * toDevice.inverted());
+
+    const QTransform toPixels = QTransform::fromScale(devicePixelRatioF(), devicePixelRatioF());
+    const QList<QRect> all{event.region().begin(), event.region().end()};
+    for (const QRect& part : event.rect() == m_stormStep ? m_stormParts : all) {
+        const QRect pixels = toPixels.mapRect(QRectF{part}).toAlignedRect() & image.rect();
+        painter.drawImage(pixels.topLeft(), image, pixels);
     }
-    paintStorm(painter);
+    // Where corners lie between two pixels, one more may be the field's than the picture has.
+    painter.fillRect(image.width(), 0, 1, image.height(), Qt::black);
+    painter.fillRect(0, image.height(), image.width() + 1, 1, Qt::black);
+}
+
+/// Leaves the painter with the picture's pixels as its units.
+void picGameField::paintScaled(QPainter& painter, const QImage& image) const {
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(QRectF{rect()}, image);
+    const QRectF pixel = logical({0, 0, 1, 1});
+    painter.scale(pixel.width(), pixel.height());
 }
 
 /// What the player sees, without a copy.
@@ -141,13 +160,6 @@ void picGameField::repaintStorm() {
     // Clipping to a hundred small rectangles would cost twice as much as sending one large one.
     const QScopedValueRollback step{m_stormStep, around};
     repaint(around);
-}
-
-void picGameField::paintStorm(QPainter& painter) const {
-    const QRectF pixel = logical({0, 0, 1, 1});
-    painter.scale(pixel.width(), pixel.height());
-    for (const auto& [area, colour] : m_storm.lights())
-        painter.fillRect(area.x, area.y, area.width, area.height, QColor::fromRgba(colour));
 }
 
 void picGameField::mousePressEvent(QMouseEvent* event) {

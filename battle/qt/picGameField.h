@@ -67,7 +67,8 @@ class picGameField : public QWidget {
     bool isFitting() const;
     QRect touched(const PixelRect& area) const;
     void repaintStorm();
-    void paintStorm(QPainter& painter) const;
+    void paintFitting(QPainter& painter, const QImage& image, const QPaintEvent& event) const;
+    void paintScaled(QPainter& painter, const QImage& image) const;
     QRectF logical(const PixelRect& area) const;
     QRect onDesktop(const PixelRect& area) const;
 

@@ -213,7 +213,7 @@ void frmGetPlayers::showOptions() {
 }
 
 bool frmGetPlayers::canFade() {
-    return SetFormAlpha(*this, kOpaque, FadeDemand::Always, m_settings);
+    return SetFormAlpha(*this, kOpaque, FadeDemand::Always, m_settings, m_shared.motion);
 }
 
 void frmGetPlayers::chooseSkillLevel() {

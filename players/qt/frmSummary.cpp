@@ -169,9 +169,7 @@ void frmSummary::timerDateTime_Timer() {
     labelDateTime->setText(QString::fromStdString(m_summary.labelDateTime()));
 }
 
-void frmSummary::paintEvent(QPaintEvent* event) {
-    QtScreen::paintEvent(event);
-    QPainter painter{this};
+void frmSummary::paintGround(QPainter& painter, const QRect&) {
     painter.setRenderHint(QPainter::Antialiasing);
     const QPoint corner = bubbleOf(m_kind).topLeft(), tip = corner + kTipOfBubble;
     m_shapes.paint(painter, QStringLiteral("face"), {corner + kFaceOfBubble, kFace},

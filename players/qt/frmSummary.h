@@ -20,7 +20,7 @@ class frmSummary : public QtScreen {
     frmSummary(const QtScreenPorts& ports, SummaryKind kind, const SummaryPorts& rules);
 
   protected:
-    void paintEvent(QPaintEvent* event) override;
+    void paintGround(QPainter& painter, const QRect& exposed) override;
 
   private:
     void makeFrames();

@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
+#include <QScreen>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -16,6 +17,7 @@
 #include "controls/qt/QtPropertyBagFile.h"
 #include "look/qt/QtLook.h"
 #include "look/qt/QtShapes.h"
+#include "screen/qt/QtPlacement.h"
 
 namespace skylob {
 
@@ -24,6 +26,7 @@ namespace {
 constexpr int kMargin = 16, kGap = 16, kButtonGap = 8;
 constexpr QSize kIcon{40, 40}, kButton{104, 36};
 constexpr int kWidestText = 480;  ///< before lines are broken
+constexpr int kFrame = 8;         ///< that a window may have around it
 
 /// One of the program's drawings, sharp on every display.
 class Drawing : public QWidget {
@@ -54,18 +57,25 @@ int widthForTitle(const QString& title) {
     return metrics.horizontalAdvance(title) + 8 * metrics.height();
 }
 
+/// How wide a text may be beside an icon on the display where a box comes up.
+int roomForText() {
+    const QScreen& display = *displayOf(QApplication::activeWindow());
+    return display.availableSize().width() - 2 * kMargin - kIcon.width() - kGap - kFrame;
+}
+
 /// Lines are broken between words, where they are too long, but no word is cut.
 void fit(QLabel& label, int narrowest) {
     label.ensurePolished();
     const QFontMetrics metrics{label.font()};
-    int widestLine = narrowest, widestWord = kWidestText;
+    const int room = roomForText();
+    int widestLine = std::min(narrowest, room), widestWord = std::min(kWidestText, room);
     for (const QString& line : label.text().split(u'\n')) {
         widestLine = std::max(widestLine, metrics.horizontalAdvance(line) + 1);
         for (const QString& word : line.split(u' '))
             widestWord = std::max(widestWord, metrics.horizontalAdvance(word) + 1);
     }
     label.setWordWrap(widestLine > widestWord);
-    label.setMinimumWidth(std::min(widestLine, std::max(widestWord, narrowest)));
+    label.setMinimumWidth(std::min(widestLine, std::max(widestWord, std::min(narrowest, room))));
 }
 
 struct Kind {

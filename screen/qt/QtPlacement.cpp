@@ -13,6 +13,8 @@ namespace skylob {
 
 namespace {
 
+constexpr QMargins kUsualFrame{4, 32, 4, 4};
+
 /// Windows are placed by their frames, whose size a new one does not know: as wide as the others'.
 void centre(QWidget& window, const QPoint& middle, const QRect& display, const QSize& frame) {
     const QPoint corner = middle - window.rect().center();
@@ -45,7 +47,7 @@ QScreen* displayOf(const QWidget* before) {
 }
 
 QRect roomOn(const QScreen& display, const QWidget* before) {
-    QMargins frame;
+    QMargins frame = kUsualFrame;
     if (before) {
         const QRect inner = before->geometry(), outer = before->frameGeometry();
         frame = {inner.left() - outer.left(), inner.top() - outer.top(),

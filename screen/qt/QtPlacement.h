@@ -20,7 +20,7 @@ DesktopArea areaOf(const QRect& rect);
 QScreen* displayOf(const QWidget* before);
 
 /// What a window can show on a display that has no desktop bars there and leaves room for a frame
-/// like that of the window before it: a new one does not know its own.
+/// like that of the window before it, or for a usual one: a new one does not know its own.
 QRect roomOn(const QScreen& display, const QWidget* before);
 
 /// In the middle of the window before it, moved as far as need be to be wholly on the display.

@@ -3,7 +3,9 @@
 #include <QCloseEvent>
 #include <QEventLoop>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 #include <QWindow>
 #include <utility>
 
@@ -44,7 +46,8 @@ QtScreen::QtScreen(const QtScreenDesign& design, const QtScreenPorts& ports)
       m_shapes{ports.shapes},
       m_windows{ports.windows},
       m_fade{new QtScreenFade{this, ports.shared, ports.settings}},
-      m_smallest{design.size} {
+      m_smallest{design.size},
+      m_mayGrow{design.mayGrow} {
     setObjectName(design.name);
     setWindowTitle(design.caption);
     applyLook(*this);
@@ -76,10 +79,41 @@ void QtScreen::bringIntoView(const QWidget& widget, const QPoint& place) {
 }
 
 void QtScreen::fitInto(const QSize& room) {
-    if (!mayGrow()) return;
+    if (m_smallest.boundedTo(room) != m_smallest && !m_scroll) scrollItsWidgets();
+    if (!m_scroll) return;
+    const QSize fitting = smallestWithBars(room).boundedTo(room);
+    if (!mayGrow()) return setFixedSize(fitting);
     setMinimumSize(m_smallest.boundedTo(room));
     if (!(windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen)))
-        resize(size().boundedTo(room));
+        resize(size().expandedTo(fitting).boundedTo(room));
+}
+
+/// The bar that scrolls in one direction takes something of the other. Where logical pixels are no
+/// whole ones of the display, windows get up to one less than they ask for.
+QSize QtScreen::smallestWithBars(const QSize& room) const {
+    QSize size = m_smallest;
+    if (m_smallest.height() > room.height())
+        size += QSize{m_scroll->verticalScrollBar()->sizeHint().width() + 1, 0};
+    if (m_smallest.width() > room.width())
+        size += QSize{0, m_scroll->horizontalScrollBar()->sizeHint().height() + 1};
+    return size;
+}
+
+void QtScreen::scrollItsWidgets() {
+    QWidget* const focused = focusWidget();
+    const auto widgets = findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
+    m_scroll = new QtScrollBoard{m_smallest, this};
+    board()->installEventFilter(this);
+    for (QWidget* widget : widgets) {
+        if (widget->isWindow()) continue;
+        const QRect place = widget->geometry();
+        const bool wasSeen = widget->isVisible();
+        widget->setParent(board());
+        widget->setGeometry(place);
+        if (wasSeen) widget->show();
+    }
+    if (isVisible()) m_scroll->show();
+    if (focused) focused->setFocus();
 }
 
 void QtScreen::fitToDisplay() {
@@ -123,12 +157,25 @@ void QtScreen::leave(std::function<void()> next, int step) {
 
 void QtScreen::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
-    if (mayGrow())
-        connect(windowHandle(), &QWindow::screenChanged, this, &QtScreen::fitToDisplay,
-                Qt::UniqueConnection);
+    connect(windowHandle(), &QWindow::screenChanged, this, &QtScreen::fitToDisplay,
+            Qt::UniqueConnection);
     if (std::exchange(m_activated, true)) return;
     m_fade->fadeIn();
     Form_Activate();
+}
+
+void QtScreen::paintEvent(QPaintEvent* event) {
+    if (m_scroll) return;
+    QPainter painter{this};
+    paintGround(painter, event->rect());
+}
+
+bool QtScreen::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Paint && watched == board()) {
+        QPainter painter{board()};
+        paintGround(painter, static_cast<QPaintEvent*>(event)->rect());
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 void QtScreen::hideEvent(QHideEvent* event) {

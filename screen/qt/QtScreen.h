@@ -50,10 +50,10 @@ class QtScreen : public QWidget {
     /// then no other window of the program takes input.
     void showModal(const QWidget* above);
 
-    bool mayGrow() const { return m_scroll != nullptr; }
+    bool mayGrow() const { return m_mayGrow; }
 
-    /// Keeps a screen that may grow within the room that its display has for it. Where that is less
-    /// than its smallest size, the screen scrolls.
+    /// Keeps the screen within the room that its display has for it. Where that is less than its
+    /// smallest size, or its only one, the screen scrolls.
     void fitInto(const QSize& room);
 
     /// Makes screen readers find a dialog in every modal screen, a window in every other.
@@ -74,6 +74,10 @@ class QtScreen : public QWidget {
     /// What the widgets of a screen that may grow are to be children of: as large as the screen,
     /// and never smaller than its smallest size.
     QWidget* board() const;
+
+    /// What a screen shows behind its widgets. Those that paint it themselves do it here and not in
+    /// paintEvent(), with a painter at the corner of what scrolls.
+    virtual void paintGround(QPainter&, const QRect& /*exposed*/) {}
 
     /// Where the board scrolls: brings that widget, or the place on it, into view, until the focus
     /// moves on.
@@ -100,6 +104,8 @@ class QtScreen : public QWidget {
     void hideEvent(QHideEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
     basSkylob& m_shared;
     SettingsStore& m_settings;
@@ -108,10 +114,13 @@ class QtScreen : public QWidget {
 
   private:
     void fitToDisplay();
+    QSize smallestWithBars(const QSize& room) const;
+    void scrollItsWidgets();
 
     QtScreenFade* m_fade;
-    QtScrollBoard* m_scroll = nullptr;  ///< of a screen that may grow
+    QtScrollBoard* m_scroll = nullptr;  ///< of a screen that may grow, or has to scroll
     const QSize m_smallest;
+    const bool m_mayGrow;
     QEventLoop* m_modalLoop = nullptr;  ///< while showModal() waits
     bool m_activated = false, m_leaving = false;
 };

@@ -24,8 +24,13 @@ QtScreenFade::QtScreenFade(QWidget* screen, basSkylob& shared, const SettingsSto
     connect(timerFadeInOut, &QTimer::timeout, this, &QtScreenFade::timerFadeInOut_Timer);
 }
 
+void QtScreenFade::setAlpha(int alpha) {
+    m_shared.FadeActive =
+        SetFormAlpha(*m_screen, alpha, FadeDemand::WhenEnabled, m_settings, m_shared.motion);
+}
+
 void QtScreenFade::load() {
-    m_shared.FadeActive = SetFormAlpha(*m_screen, kInvisible, FadeDemand::WhenEnabled, m_settings);
+    setAlpha(kInvisible);
     m_fadesIn = m_shared.FadeActive;
 }
 
@@ -34,7 +39,7 @@ void QtScreenFade::fadeIn() {
 }
 
 void QtScreenFade::fadeOut(std::function<void()> leavingWork, int step) {
-    m_shared.FadeActive = SetFormAlpha(*m_screen, kOpaque, FadeDemand::WhenEnabled, m_settings);
+    setAlpha(kOpaque);
     if (!m_shared.FadeActive) return leavingWork();
     m_leavingWork = std::move(leavingWork);
     StartFade(kOpaque, kInvisible, step, AfterFade::Close);

@@ -38,6 +38,7 @@ class QtScreenFade : public QObject {
     bool isFading() const { return m_fade.isActive(); }
 
   private:
+    void setAlpha(int alpha);
     void StartFade(int start, int end, int step, AfterFade after);
     bool frameIsDue() const;
     void timerFadeInOut_Timer();

@@ -87,6 +87,10 @@ void bringToPlace(QtScreen& screen, const WindowStore& windows, const QWidget* b
     if (site.place) screen.setWindowState(toQt(site.place->state));
 }
 
+void fitToDisplayOf(QtScreen& screen, const QWidget* before) {
+    screen.fitInto(roomOn(*displayOf(before), before).size());
+}
+
 QSize roomForScreen(const QString& name, const WindowStore& windows, const QWidget* before,
                     PlaceMemory memory) {
     return roomOn(*siteOf(name, windows, before, memory).display, before).size();

@@ -25,6 +25,10 @@ enum class PlaceMemory { OnAnyDisplay, OnItsDisplay };
 void bringToPlace(QtScreen& screen, const WindowStore& windows, const QWidget* before,
                   PlaceMemory memory);
 
+/// Has a screen that will come up on the display of the one `before` it scroll where that leaves
+/// too little room.
+void fitToDisplayOf(QtScreen& screen, const QWidget* before);
+
 /// How large the screen of that name can be on the display to which it would be brought.
 QSize roomForScreen(const QString& name, const WindowStore& windows, const QWidget* before,
                     PlaceMemory memory);

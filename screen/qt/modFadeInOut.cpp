@@ -8,6 +8,7 @@
 #include <memory>
 #include <string_view>
 
+#include "base/Motion.h"
 #include "base/Settings.h"
 #include "screen/Fade.h"
 
@@ -42,7 +43,9 @@ bool hasCompositingManager(xcb_connection_t* display) {
 
 }  // namespace
 
-bool SetFormAlpha(QWidget& form, int alpha, FadeDemand demand, const SettingsStore& settings) {
+bool SetFormAlpha(QWidget& form, int alpha, FadeDemand demand, const SettingsStore& settings,
+                  Motion motion) {
+    if (motion == Motion::Reduced) return false;
     if (demand == FadeDemand::WhenEnabled && !settings::readFadeStatus(settings)) return false;
     xcb_connection_t* const display = x11Connection();
     if (!display || !hasCompositingManager(display)) return false;

@@ -33,8 +33,8 @@ QRegion changed(const std::vector<TitleSpot>& before, const std::vector<TitleSpo
 
 }  // namespace
 
-QtTitleAnimation::QtTitleAnimation(const QtShapes& shapes, QWidget* parent)
-    : QWidget{parent}, m_shapes{shapes}, m_spots{m_scene.at(0)} {
+QtTitleAnimation::QtTitleAnimation(const QtShapes& shapes, const Motion& motion, QWidget* parent)
+    : QWidget{parent}, m_shapes{shapes}, m_motion{motion}, m_spots{m_scene.at(0)} {
     setFixedSize(kTitleWidth, kTitleHeight);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -50,7 +50,7 @@ void QtTitleAnimation::showMoment(double seconds) {
 }
 
 void QtTitleAnimation::resume() {
-    if (isVisible()) m_timer.start(kFrameMilliseconds, this);
+    if (isVisible() && m_motion == Motion::Full) m_timer.start(kFrameMilliseconds, this);
 }
 
 void QtTitleAnimation::showEvent(QShowEvent*) {
@@ -62,7 +62,10 @@ void QtTitleAnimation::hideEvent(QHideEvent*) {
 }
 
 void QtTitleAnimation::timerEvent(QTimerEvent*) {
-    showMoment(static_cast<double>(m_running.elapsed()) / 1000);
+    if (m_motion == Motion::Full)
+        return showMoment(static_cast<double>(m_running.elapsed()) / 1000);
+    m_timer.stop();
+    showMoment(0);
 }
 
 void QtTitleAnimation::makeBackdrop() {

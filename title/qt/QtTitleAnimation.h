@@ -6,6 +6,7 @@
 #include <QWidget>
 #include <vector>
 
+#include "base/Motion.h"
 #include "title/TitleScene.h"
 
 namespace skylob {
@@ -13,13 +14,14 @@ namespace skylob {
 class QtShapes;
 
 /// The animated picture of the title page, 640 x 280. It moves 15 times a second as long as it is
-/// seen, and only what has changed is painted again.
+/// seen and motion is not to be reduced, and only what has changed is painted again.
 class QtTitleAnimation : public QWidget {
     Q_OBJECT
 
   public:
-    /// `shapes` has the two pieces; it must outlive the widget.
-    explicit QtTitleAnimation(const QtShapes& shapes, QWidget* parent = nullptr);
+    /// `shapes` has the two pieces; it must outlive the widget, and so must `motion`, which may
+    /// become another one at any time.
+    QtTitleAnimation(const QtShapes& shapes, const Motion& motion, QWidget* parent = nullptr);
 
     bool isRunning() const { return m_timer.isActive(); }
 
@@ -40,6 +42,7 @@ class QtTitleAnimation : public QWidget {
     void makeBackdrop();
 
     const QtShapes& m_shapes;
+    const Motion& m_motion;
     TitleScene m_scene;
     std::vector<TitleSpot> m_spots;  ///< what is shown over the backdrop
     QPixmap m_backdrop;              ///< what never moves, in device pixels

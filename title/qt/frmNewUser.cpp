@@ -2,7 +2,6 @@
 
 #include <QCheckBox>
 #include <QLabel>
-#include <QPaintEvent>
 #include <QPainter>
 #include <QShortcut>
 
@@ -50,10 +49,8 @@ frmNewUser::frmNewUser(const QtScreenPorts& ports, const std::string& overview)
     cmdContinue->setFocus();
 }
 
-void frmNewUser::paintEvent(QPaintEvent* event) {
-    QtScreen::paintEvent(event);
-    if (!event->rect().intersects(kSky)) return;
-    QPainter painter{this};
+void frmNewUser::paintGround(QPainter& painter, const QRect& exposed) {
+    if (!exposed.intersects(kSky)) return;
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setClipRect(kSky);
     painter.translate(-kSkyOfTitle);

@@ -18,7 +18,7 @@ class frmNewUser : public QtScreen {
     frmNewUser(const QtScreenPorts& ports, const std::string& overview);
 
   protected:
-    void paintEvent(QPaintEvent* event) override;
+    void paintGround(QPainter& painter, const QRect& exposed) override;
 
   private:
     void askedToClose() override;

@@ -13,6 +13,7 @@
 #include "screen/Fade.h"
 #include "screen/qt/QtLinkLabel.h"
 #include "title/TitlePage.h"
+#include "title/qt/QtScaleChoice.h"
 #include "title/qt/QtTitleAnimation.h"
 #include "title/qt/QtTitlePicture.h"
 
@@ -20,19 +21,20 @@ namespace skylob {
 
 namespace {
 
-void addLabel(const char* name, const QString& text, const char* role, const QRect& place,
-              QWidget* parent) {
+QLabel* addLabel(const char* name, const QString& text, const char* role, const QRect& place,
+                 QWidget* parent) {
     auto* label = new QLabel{text, parent};
     label->setObjectName(QLatin1String{name});
     label->setGeometry(place);
     label->setProperty("role", QLatin1String{role});
+    return label;
 }
 
 }  // namespace
 
 // Quirk "page without a caption": without the blank the toolkit would put in one.
 frmTitlePage::frmTitlePage(const QtScreenPorts& ports, const Clock& clock, SoundPlayer& sounds,
-                           LinkOpener& links, MessageBoxes& boxes)
+                           LinkOpener& links, MessageBoxes& boxes, int scale)
     : QtScreen{{.name = QStringLiteral("frmTitlePage"),
                 .caption = QStringLiteral(" "),
                 .size = {kTitleWidth, kTitlePageHeight},
@@ -42,13 +44,10 @@ frmTitlePage::frmTitlePage(const QtScreenPorts& ports, const Clock& clock, Sound
       m_sounds{sounds},
       m_links{links},
       m_boxes{boxes},
-      m_picture{new QtTitleAnimation{m_shapes, this}} {
+      m_picture{new QtTitleAnimation{m_shapes, m_shared.motion, this}} {
     setAccessibleName(toQt(kProgramTitle));
     makeLabels();
-    cmdContinue = QtFormButtons{objectName(), m_shapes, *this}.make(QStringLiteral("cmdContinue"),
-                                                                    {456, 368, 160, 48});
-    cmdContinue->setFocus();
-    connect(cmdContinue, &GlintButton::Click, this, &frmTitlePage::cmdContinue_Click);
+    makeButtons(scale);
 }
 
 void frmTitlePage::makeLabels() {
@@ -62,6 +61,18 @@ void frmTitlePage::makeLabels() {
     labelCopyright->setFixedHeight(20);
     connect(labelCopyright, &QtLinkLabel::Click, this,
             [this] { OpenLink(LinkKind::Web, "", m_links, m_boxes); });
+}
+
+void frmTitlePage::makeButtons(int scale) {
+    QtFormButtons buttons{objectName(), m_shapes, *this};
+    cmdContinue = buttons.make(QStringLiteral("cmdContinue"), {456, 368, 160, 48});
+    cmdContinue->setFocus();
+    connect(cmdContinue, &GlintButton::Click, this, &frmTitlePage::cmdContinue_Click);
+    GlintButton* const cmdScale = buttons.make(QStringLiteral("cmdScale"), {456, 304, 160, 36},
+                                               tr(" How large everything is shown "));
+    auto* labelScale = addLabel("labelScale", {}, "note", {396, 342, 220, 22}, this);
+    labelScale->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    new QtScaleChoice{cmdScale, labelScale, m_windows, scale};
 }
 
 void frmTitlePage::cmdContinue_Click() {
@@ -82,8 +93,7 @@ bool frmTitlePage::event(QEvent* event) {
     return QtScreen::event(event);
 }
 
-void frmTitlePage::paintEvent(QPaintEvent*) {
-    QPainter painter{this};
+void frmTitlePage::paintGround(QPainter& painter, const QRect&) {
     painter.setRenderHint(QPainter::Antialiasing);
     paintTitleGround(painter, m_shapes);
 }

@@ -16,9 +16,9 @@ class frmTitlePage : public QtScreen {
     Q_OBJECT
 
   public:
-    /// All arguments must outlive the screen.
+    /// `scale` is this run's, in percent. All other arguments must outlive the screen.
     frmTitlePage(const QtScreenPorts& ports, const Clock& clock, SoundPlayer& sounds,
-                 LinkOpener& links, MessageBoxes& boxes);
+                 LinkOpener& links, MessageBoxes& boxes, int scale);
 
   signals:
     /// A new user goes on. The receiver is to welcome them, and to return when that is over.
@@ -31,12 +31,13 @@ class frmTitlePage : public QtScreen {
 
   protected:
     bool event(QEvent* event) override;
-    void paintEvent(QPaintEvent* event) override;
+    void paintGround(QPainter& painter, const QRect& exposed) override;
 
   private:
     void askedToClose() override;
     GlintButton* primaryButton() const override { return cmdContinue; }
     void makeLabels();
+    void makeButtons(int scale);
     void cmdContinue_Click();
 
     const Clock& m_clock;

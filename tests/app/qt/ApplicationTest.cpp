@@ -10,6 +10,7 @@
 #include <QWindow>
 
 #include "controls/qt/GlintButton.h"
+#include "platform/qt/QtWindowStore.h"
 #include "tests/support/PlayersRig.h"
 
 namespace skylob::test {
@@ -129,7 +130,8 @@ int main(int argc, char** argv) {
 
     skylob::CommandLine commandLine;
     commandLine.seed = 4;
-    skylob::Application application{argc, argv, commandLine};
+    skylob::QtWindowStore windows;
+    skylob::Application application{argc, argv, commandLine, windows};
     QCursor::setPos(1500, 100);
     QTimer::singleShot(0, &application, [&] {
         skylob::test::ApplicationTest test;

@@ -26,6 +26,11 @@ class CommandLineTest : public QObject {
         QVERIFY(!parse({}).userData);
         QVERIFY(parse({"--plain", "--seed=5"}).plain);
         QVERIFY(!parse({}).plain);
+        QVERIFY(parse({"--reduced-motion"}).reducedMotion);
+        for (const int scale : {100, 137, 200})
+            QCOMPARE(parse({"--scale", std::to_string(scale)}).scale, scale);
+        for (const char* scale : {"", "99", "201", "150%", "1.5", "1e2", "-150", "99999999999"})
+            QCOMPARE(parse({"--scale", scale}).request, Request::Refused);
         for (const auto& refused :
              {parse({"--seed"}), parse({"--seed", "-1"}), parse({"--seed", "1x"}),
               parse({"--seed="}), parse({"--data-dir", ""}), parse({"--fast"}), parse({"-seed=1"}),

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cmath>
 #include <numbers>
 
@@ -127,6 +128,39 @@ TEST(BlastLight, FallsOnBlackAndPiecesAloneAndIsGoneWithTheBlast) {
     EXPECT_GT(brightest[1], 5 * brightest[2]);  // one on oneself
     EXPECT_GT(brightest[2], 2 * brightest[3]);  // a miss
     EXPECT_GT(brightest[3], 50);
+}
+
+/// The most of the black sky that becomes clearly brighter or darker from one look to the next, in
+/// pixels: by a shell's flight, by its hit and by a storm.
+static std::array<int, 3> flashes(Motion motion) {
+    constexpr int kEvery = 7, kLooked = 500 * 500 / kEvery;
+    LitRig rig;
+    rig.layer.setMotion(motion);
+    std::array<int, kLooked> last{};
+    std::array<int, 3> most{};
+    rig.onLook = [&] {
+        int changed = 0;
+        for (std::size_t i = 0; i < kLooked; ++i) {
+            const int green = rig.layer.pixels()[i * kEvery] >> 8 & 0xFF;
+            const bool isSky = rig.picture().screenPixels()[i * kEvery] == 0xFF000000u;
+            changed += isSky && std::abs(green - std::exchange(last[i], green)) > 10;
+        }
+        const auto& scene = rig.battle.scene();
+        int& peak = most[scene.blast ? 1 : scene.flight.inTheAir ? 0 : 2];
+        peak = std::max(peak, changed);
+    };
+    rig.look();
+    most = {};
+    rig.fire(kHit);
+    most[2] = 0;  // a new round has begun
+    rig.passTime();
+    rig.begin(kStorm);
+    return most;
+}
+
+TEST(FieldLayer, DoesNotFlashWhereMotionIsToBeReduced) {
+    const auto full = flashes(Motion::Full), calm = flashes(Motion::Reduced);
+    for (std::size_t i = 0; i < full.size(); ++i) EXPECT_GT(full[i], 2 * calm[i]) << i;
 }
 
 TEST(GunLight, LeavesAWreckUntilTheRoundIsOver) {

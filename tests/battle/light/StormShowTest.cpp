@@ -113,6 +113,18 @@ TEST(StormShow, LightsTheSkyBehindTheGunsAndDarkensNothing) {
     EXPECT_GT(onPieces, 100);  // whose images are taken off
 }
 
+TEST_P(Show, StandsStillWhereMotionIsToBeReduced) {
+    layer.setMotion(Motion::Reduced);
+    std::vector<std::uint32_t> first;
+    for (int picturesShown = 0; picturesShown < 150; ++picturesShown) {
+        show.advance(layer);
+        display();
+        if (first.empty()) first = shown;
+        ASSERT_EQ(shown, first) << picturesShown;
+    }
+    EXPECT_GT(changedPixels(), 50);
+}
+
 INSTANTIATE_TEST_SUITE_P(Heights, Show, testing::Values(170, 780));
 
 }  // namespace skylob::test

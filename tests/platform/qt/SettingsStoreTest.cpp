@@ -6,6 +6,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "platform/qt/QtScaleFactor.h"
 #include "platform/qt/QtSettingsStore.h"
 #include "platform/qt/QtWindowStore.h"
 #include "tests/support/CapturedErrors.h"
@@ -60,6 +61,20 @@ class SettingsStoreTest : public QObject {
             QCOMPARE(store.get("GameSpeed", "50"), "8"s);
             expectOneLine(errors.text());
         }
+    }
+
+    void makesTheToolkitLargerOnTopOfTheUsersOwn() {
+        constexpr const char* kName = "QT_SCALE_FACTOR";
+        for (const auto& [own, factor] : {std::pair{"1.25", "2.5"}, {"wide", "2"}, {"", "2"}}) {
+            qputenv(kName, own);
+            std::optional<QtScaleFactor> larger{200};
+            QCOMPARE(qgetenv(kName), factor);
+            larger.reset();
+            QCOMPARE(qgetenv(kName), own);
+        }
+        qunsetenv(kName);
+        QtScaleFactor{200};
+        QVERIFY(!qEnvironmentVariableIsSet(kName));
     }
 
   private:

@@ -6,6 +6,7 @@
 #include <QAccessible>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QPainter>
 #include <QScreen>
 #include <QTest>
 #include <QTimer>
@@ -37,6 +38,9 @@ class Screen : public QtScreen {
     void keyPressEvent(QKeyEvent* event) override {
         ++keys;
         QtScreen::keyPressEvent(event);
+    }
+    void paintGround(QPainter& painter, const QRect&) override {
+        painter.fillRect(0, 0, 10, 10, Qt::red);
     }
 };
 
@@ -124,6 +128,33 @@ class QtScreenTest : public QObject {
         button.setEnabled(false);
         QCOMPARE(press(90), 2);
         QCOMPARE(others, 0);
+    }
+
+    void scrollsWhereItsOnlySizeDoesNotFit() {
+        Screen screen{{"name", "caption", {200, 100}, Qt::Window, false}, ports};
+        QLineEdit upper{&screen}, lower{&screen};
+        upper.setGeometry(10, 10, 50, 20);
+        lower.setGeometry(140, 70, 50, 20);
+        upper.setFocus();
+        const auto isInView = [](QWidget& widget) {
+            return widget.visibleRegion().boundingRect() == widget.rect();
+        };
+        screen.fitInto({120, 60});
+        screen.show();
+        QVERIFY(QTest::qWaitForWindowActive(&screen));
+        QCOMPARE(screen.size(), QSize(120, 60));
+        QCOMPARE(QApplication::focusWidget(), &upper);
+        for (QWidget* field : {&lower, &upper}) {
+            field->setFocus();
+            QVERIFY(isInView(*field));
+            const bool showsGround = screen.grab().toImage().pixel(2, 2) == 0xFFFF0000u;
+            QCOMPARE(showsGround, field == &upper);
+        }
+        screen.fitInto({500, 60});
+        QCOMPARE(screen.size(), QSize(200 + 15, 60));  // and the bar beside it
+        screen.fitInto({500, 500});
+        QCOMPARE(screen.size(), QSize(200, 100));
+        QTRY_VERIFY(isInView(upper) && isInView(lower));
     }
 
     void comesBackToWhereItWasLeft() {

@@ -26,15 +26,28 @@ class TitleAnimationTest : public QObject {
 
   private slots:
     void runsOnlyWhileItIsSeen() {
-        QtTitleAnimation animation{m_shapes};
+        QtTitleAnimation animation{m_shapes, m_motion};
         for (const bool seen : {false, true, false}) {
             animation.setVisible(seen);
             QCOMPARE(animation.isRunning(), seen);
         }
     }
 
+    void standsStillWhereMotionIsToBeReduced() {
+        Motion motion = Motion::Full;
+        QtTitleAnimation animation{m_shapes, motion};
+        const QImage calm = animation.grab().toImage();
+        animation.showMoment(3);
+        animation.show();
+        motion = Motion::Reduced;  // which a desktop may say late
+        QTRY_VERIFY(!animation.isRunning());
+        QCOMPARE(animation.grab().toImage(), calm);
+        animation.resume();
+        QVERIFY(!animation.isRunning());
+    }
+
     void paintsAgainWhatHasChangedAndLittleElse() {
-        StillAnimation animation{m_shapes};
+        StillAnimation animation{m_shapes, m_motion};
         animation.show();
         QVERIFY(QTest::qWaitForWindowExposed(&animation));
         for (const double seconds : {0.5, 0.6, 1.7, 1.75, 2.8, 3.0, 3.05, 3.7, 3.8, 4.5, 6.0}) {
@@ -54,6 +67,7 @@ class TitleAnimationTest : public QObject {
 
   private:
     const QtShapes m_shapes{programDrawings()};
+    Motion m_motion = Motion::Full;
 };
 
 QTEST_MAIN(TitleAnimationTest)
