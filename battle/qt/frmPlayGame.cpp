@@ -13,6 +13,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/qt/QtSpokenWidget.h"
+#include "battle/FieldDescription.h"
 #include "battle/qt/QtDragAim.h"
 #include "battle/qt/QtEffectTimers.h"
 #include "battle/qt/QtHints.h"
@@ -109,6 +111,7 @@ void frmPlayGame::makeButtons() {
         // Quirk "blank at the ends": one on either side.
         cmdShoot->setToolTip(tr(" Shoot your Artillery Piece "));
     }
+    setSpokenKey(*cmdShoot, Qt::ALT | Qt::Key_S);
     cmdQuit = buttons.make(QStringLiteral("cmdQuit"), m_layout.cmdQuit);
 }
 
@@ -227,6 +230,8 @@ void frmPlayGame::showPanel(const BattlePanel& panel) {
             m_side[side]->setVisible(side == std::max(panel.turn, kLeftSide));
     }
     showReportRow(panel);
+    m_field->setAccessibleDescription(
+        QString::fromStdString(fieldDescription(m_battle.state(), m_shared)));
     labelRoundNumber->setText(QString::fromStdString(panel.labelRoundNumber));
     m_strip->showPanel(panel);
     showCommands(panel);
@@ -242,8 +247,8 @@ void frmPlayGame::showPanel(const BattlePanel& panel) {
 void frmPlayGame::showReportRow(const BattlePanel& panel) {
     labelReport->showReport(QString::fromStdString(panel.labelReport));
     const QString score = QString::fromStdString(panel.score);
-    labelScore->setText(QString::fromStdString(panel.labelScore));
     labelScore->setAccessibleName(score);
+    labelScore->setText(QString::fromStdString(panel.labelScore));
     labelScore->setToolTip(Qt::convertFromPlainText(score));
 }
 
@@ -305,7 +310,7 @@ void frmPlayGame::endStorm() {
 }
 
 void frmPlayGame::showReport(const std::string& report) {
-    labelReport->showReport(QString::fromStdString(report));
+    labelReport->showCountdown(QString::fromStdString(report));
 }
 
 int frmPlayGame::displayWidth() const {

@@ -7,6 +7,7 @@
 #include <QTextEdit>
 
 #include "base/OpenLink.h"
+#include "base/qt/QtSpokenWidget.h"
 #include "controls/qt/GlintButton.h"
 #include "controls/qt/QtFormButtons.h"
 #include "manual/PrintLayout.h"
@@ -51,6 +52,7 @@ frmManual::frmManual(const QtScreenPorts& ports, const StringTable& texts, LinkO
     labelHelpTopic->setObjectName(QStringLiteral("labelHelpTopic"));
     labelHelpTopic->setGeometry(16, 12, 688, 32);
     labelHelpTopic->setProperty("role", QStringLiteral("topic"));
+    keepFromReaders(*labelHelpTopic);  // the text has it for a name
     txtManual->setObjectName(QStringLiteral("txtManual"));
     txtManual->setGeometry(16, 52, 688, 408);
     txtManual->setReadOnly(true);

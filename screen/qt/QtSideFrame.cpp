@@ -41,9 +41,9 @@ QColor QtSideFrame::colour() const {
     return toQColor(m_side == 1 ? themeColour("side-1") : themeColour("side-2"));
 }
 
-void QtSideFrame::setCaption(const QString& caption) {
+void QtSideFrame::setCaption(const QString& caption, const QString& spoken) {
     m_caption = caption;
-    setAccessibleName(caption.trimmed());
+    setAccessibleName(spoken.isEmpty() ? caption.trimmed() : spoken);
     fitCaption();
 }
 
