@@ -10,47 +10,59 @@ import sys
 
 from screen_reader import RETURN, SPACE, Program, wait_for
 
-SPEEDS, FLATTEST, STEEPEST = range(100, 1000), 70, 86
+FLATTEST, STEEPEST, CLEARANCE, NEAR = 60, 86, 80, 150
 
 
 class Gunner:
-    """Aims by what the field says of pieces, mountain and the last shell."""
+    """Aims by what the field says of pieces, mountain and the last shell. Heights and distances are
+    counted from our piece."""
 
-    # A shell's reach goes by its speed's square. Made better by each shell that comes down.
-    thrust = 0.006
+    pull = 40  # how strongly a shell is pulled down: corrected by each that has come down
 
     def look(self, field):
-        """A new round: the angle goes over the mountain."""
-        (x, height), (target, _) = [map(int, at) for at in re.findall(r"at column (\d+), height (\d+)", field)]
+        """A new round: the angle that brings a shell over the mountain and down on the target."""
+        (x, y), (target, height) = [map(int, at) for at in re.findall(r"at column (\d+), height (\d+)", field)]
         peak, ridge = map(int, re.search(r"reaches (\d+) at column (\d+)", field).groups())
-        self.distance = target - x
-        slope = math.degrees(math.atan2(peak - height, ridge - x))
-        self.set_angle(max(FLATTEST, round(slope) + 10))
+        self.distance, self.rise = target - x, height - y
+        part = (ridge - x) / self.distance
+        self.set_angle(math.atan2(peak + CLEARANCE - y - part**2 * self.rise, (ridge - x) * (1 - part)))
 
-    def set_angle(self, angle):
-        self.angle = min(angle, STEEPEST)
-        self.spread = math.sin(2 * math.radians(self.angle))
-        self.too_slow, self.too_fast = SPEEDS[0] - 1, SPEEDS[-1] + 1
+    def set_angle(self, radians):
+        self.angle = min(max(round(math.degrees(radians)), FLATTEST), STEEPEST)
+        self.too_slow, self.too_fast = 99, 1000
+
+    def fall(self, distance):
+        """What a shell has fallen behind a straight line by that distance, for a pull and a speed of 1."""
+        return (distance / math.cos(math.radians(self.angle))) ** 2
+
+    def drop(self, distance):
+        """... and what it is to have fallen behind to come down there."""
+        return max(distance * math.tan(math.radians(self.angle)) - self.rise, 1)
 
     def aim(self):
-        """The speed for the target's distance, between those that have been too slow and too fast."""
-        if self.too_fast - self.too_slow < 2:  # the mountain is in the way
-            self.set_angle(self.angle + 3)
-        speed = round(math.sqrt(self.distance / (self.thrust * self.spread)))
-        self.speed = min(max(speed, self.too_slow + 1), self.too_fast - 1)
+        if self.too_fast - self.too_slow < 2:
+            self.set_angle(math.radians(self.angle + 3))
+        self.speed = round(math.sqrt(self.pull * self.fall(self.distance) / self.drop(self.distance)))
+        if not self.too_slow < self.speed < self.too_fast:
+            self.speed = (self.too_slow + self.too_fast) // 2
 
     def learn(self, field):
         """Where the shell came down."""
         landing = f"Your last shell with speed {self.speed} and angle {self.angle} (fell|left)(.*?)[;.]"
         how, where = re.search(landing, field).groups()
-        if " short" in where or "the left" in where:
+        is_short = " short" in where or "the left" in where
+        if is_short:
             self.too_slow = self.speed
         else:
             self.too_fast = self.speed
-        if how == "fell":
-            columns = int(re.search(r"\d+", where).group())
-            reach = self.distance + (columns if " past" in where else -columns)
-            self.thrust = max(reach, 1) / (self.speed**2 * self.spread)
+        if how == "left":
+            return
+        columns = int(re.search(r"\d+", where).group())
+        if columns < NEAR:
+            reach = self.distance + (-columns if is_short else columns)
+            self.pull = self.speed**2 * self.drop(reach) / self.fall(reach)
+        elif is_short:
+            self.set_angle(math.radians(self.angle + 3))  # the mountain was in the way
 
 
 game = Program("Skylob")
@@ -69,7 +81,7 @@ def shoot():
         assert bar.value == value, f"{name} is {bar.value} instead of {value}"
     game.heard.clear()
     game.find("Shoot").press()
-    wait_for("report", lambda: any("°: " in text for text in game.heard))
+    print(wait_for("report", lambda: [text for text in game.heard if "°: " in text]), flush=True)
 
 
 def box():

@@ -70,7 +70,7 @@ class Thing:
         """What is shown in it."""
         count = self._ask(Atspi.Accessible.get_child_count, 0)
         found = [self._ask(lambda it, at=at: it.get_child_at_index(at), None) for at in range(count)]
-        return [child for child in map(Thing, found) if "showing" in child.states()]
+        return [child for child in map(Thing, filter(None, found)) if "showing" in child.states()]
 
     def find(self, name, role=None):
         """The first thing of that name in it, at any depth, or nothing."""
