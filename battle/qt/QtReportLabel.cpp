@@ -1,7 +1,10 @@
 #include "battle/qt/QtReportLabel.h"
 
 #include <QAccessible>
+#include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QRegularExpression>
+#include <QThread>
 
 #include "base/qt/QtSpokenWidget.h"
 #include "look/qt/QtLook.h"
@@ -11,11 +14,21 @@ namespace skylob {
 namespace {
 
 constexpr int kSmallestSize = 12;
+constexpr int kForQuestions = 200, kSlice = 5;  // milliseconds
 constexpr bool kHasAnnouncements = QT_VERSION >= QT_VERSION_CHECK(6, 8, 0);
 
 QString withoutClock(QString text) {
     static const QRegularExpression clock{QStringLiteral("\\d+:\\d\\d")};
     return text.remove(clock).simplified();
+}
+
+/// An event without the text makes readers ask for it. They are answered at once, because the
+/// thread can be blocked until the next report stands here.
+void answerReaders() {
+    if (!QAccessible::isActive()) return;
+    for (const QDeadlineTimer end{kForQuestions}; !end.hasExpired(); QThread::msleep(kSlice))
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents |
+                                        QEventLoop::X11ExcludeTimers);
 }
 
 }  // namespace
@@ -58,9 +71,11 @@ void QtReportLabel::speak() {
     QAccessibleAnnouncementEvent event{this, accessibleName()};
     QAccessible::updateAccessibility(&event);
 #else
-    if (comesUp) return;  // the toolkit has told of that
-    QAccessibleEvent event{this, QAccessible::ObjectShow};
-    QAccessible::updateAccessibility(&event);
+    if (!comesUp) {  // otherwise the toolkit has told of it
+        QAccessibleEvent event{this, QAccessible::ObjectShow};
+        QAccessible::updateAccessibility(&event);
+    }
+    answerReaders();
 #endif
 }
 

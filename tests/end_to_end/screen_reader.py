@@ -11,6 +11,7 @@ from gi.repository import Atspi, GLib  # noqa: E402
 # How many seconds anything may take on a machine that is busy with other things. The program answers
 # nobody while a shell flies.
 PATIENCE = 120
+KEY_PATIENCE = 10
 RETURN, SPACE = 0xFF0D, 0x20
 Atspi.init()
 Atspi.set_timeout(1000 * PATIENCE, 1000 * PATIENCE)
@@ -89,11 +90,19 @@ class Thing:
     def set_value(self, value):
         Atspi.Value.set_current_value(self._it, value)
 
-    def key(self, key):
-        """Presses a key of the X keyboard when the thing has the focus."""
+    def key(self, key, done):
+        """Presses a key of the X keyboard when the thing has the focus. While windows come and go a key
+        can be lost: if it is not done after some seconds, again."""
+        presses = [0]
+
+        def is_done():
+            if "focused" in self.states() and time.monotonic() > presses[-1] + KEY_PATIENCE:
+                Atspi.generate_keyboard_event(key, None, Atspi.KeySynthType.SYM)
+                presses.append(time.monotonic())
+            return done()
+
         Atspi.Component.grab_focus(self._it)
-        wait_for(f"focus on '{self.name}'", lambda: "focused" in self.states())
-        Atspi.generate_keyboard_event(key, None, Atspi.KeySynthType.SYM)
+        return wait_for(f"effect of a key on '{self.name}'", is_done)
 
 
 class Program(Thing):
@@ -101,13 +110,14 @@ class Program(Thing):
     when the event came."""
 
     def __init__(self, name):
-        self.heard = []
-        self._listener = Atspi.EventListener.new(self._hear)
-        for what in "name", "description":
-            self._listener.register(f"object:property-change:accessible-{what}")
         desktop = Atspi.get_desktop(0)
         desktop.set_cache_mask(Atspi.Cache.NONE)
         super().__init__(wait_for(name, lambda: self._on(desktop, name)))
+        self.heard = []
+        self._listener = Atspi.EventListener.new(self._hear)
+        # Not before it is there: while it starts, the toolkit can miss that somebody wants events.
+        for what in "name", "description":
+            self._listener.register(f"object:property-change:accessible-{what}")
 
     @staticmethod
     def _on(desktop, name):
