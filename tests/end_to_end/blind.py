@@ -16,52 +16,47 @@ FLATTEST, STEEPEST, CLEARANCE = 60, 86, 80
 
 
 class Gunner:
-    """Aims by what the field says of pieces, mountain and the last shell. Heights and distances are
-    counted from our piece."""
+    """Aims by what the field says of pieces, mountain and the last shell."""
 
     def look(self, field):
         """A new round: the angle that brings a shell over the mountain and down on the target."""
         (x, y), (target, height) = [map(int, at) for at in re.findall(r"at column (\d+), height (\d+)", field)]
         peak, ridge = map(int, re.search(r"reaches (\d+) at column (\d+)", field).groups())
-        self.pull = PULL
-        self.distance, self.rise = target - x, height - y
+        self.pull, self.distance, self.rise = PULL, target - x, height - y
         part = (ridge - x) / self.distance
-        self.set_angle(math.atan2(peak + CLEARANCE - y - part**2 * self.rise, (ridge - x) * (1 - part)))
+        slope = (peak + CLEARANCE - y - part**2 * self.rise) / (ridge - x) / (1 - part)
+        self.set_angle(math.degrees(math.atan(slope)))
 
-    def set_angle(self, radians):
-        self.angle = min(max(round(math.degrees(radians)), FLATTEST), STEEPEST)
+    def set_angle(self, angle):
+        self.angle = min(max(round(angle), FLATTEST), STEEPEST)
         self.too_slow, self.too_fast = 99, 1000
 
-    def fall(self, distance):
-        """What a shell has fallen behind a straight line by that distance, for a pull and a speed of 1."""
-        return (distance / math.cos(math.radians(self.angle))) ** 2
-
-    def drop(self, distance):
-        """... and what it is to have fallen behind to come down there."""
-        return max(distance * math.tan(math.radians(self.angle)) - self.rise, 1)
+    def bend(self, distance):
+        """The part that the pull is of the speed's square for a shell to come down at that distance."""
+        slope = math.tan(math.radians(self.angle))
+        return (distance * slope - self.rise) / (distance**2 * (1 + slope**2))
 
     def aim(self):
         if self.too_fast - self.too_slow < 2:
-            self.set_angle(math.radians(self.angle + 3))
-        self.speed = round(math.sqrt(self.pull * self.fall(self.distance) / self.drop(self.distance)))
+            self.set_angle(self.angle + 3)
+        self.speed = round(math.sqrt(self.pull / self.bend(self.distance)))
         if not self.too_slow < self.speed < self.too_fast:
             self.speed = (self.too_slow + self.too_fast) // 2
 
     def learn(self, field):
-        """Where the shell came down."""
+        """Where the last shell came down."""
         landing = f"Your last shell with speed {self.speed} and angle {self.angle} (fell|left)(.*?)[;.]"
         how, where = re.search(landing, field).groups()
+        columns = int(re.search(r"\d+", where).group()) if how == "fell" else NEAR
         is_short = " short" in where or "the left" in where
         if is_short:
             self.too_slow = self.speed
         else:
             self.too_fast = self.speed
-        columns = int(re.search(r"\d+", where).group()) if how == "fell" else NEAR
         if columns <= NEAR:
-            reach = self.distance + (-columns if is_short else columns)
-            self.pull = self.speed**2 * self.drop(reach) / self.fall(reach)
+            self.pull = self.speed**2 * self.bend(self.distance + (-columns if is_short else columns))
         elif is_short:
-            self.set_angle(math.radians(self.angle + 3))  # the mountain was in the way
+            self.set_angle(self.angle + 3)  # the mountain was in the way
 
 
 game = Program("Skylob")
@@ -98,7 +93,7 @@ def read_box():
     """Tells what a box says and goes on. Whether it tells of a round that we have won."""
     shown = box()
     texts = [thing.name for thing in shown.children() if thing.role == "label"]
-    print(*texts, sep=" ", flush=True)
+    print(*texts, flush=True)
     (shown.find("Okay") or shown.find("OK")).press()
     wait_for("end of the box", lambda: shown.name == "" or not box())
     return any(text.endswith("wins this Round!") and "Computer" not in text for text in texts)
