@@ -27,6 +27,14 @@ void setSpokenRole(QWidget& widget, QAccessible::Role role) {
     widget.setProperty(kRole, static_cast<int>(role));
 }
 
+void setSpokenName(QWidget& widget, const QString& name) {
+    if (widget.accessibleName() != name) widget.setAccessibleName(name);
+}
+
+void setSpokenDescription(QWidget& widget, const QString& description) {
+    if (widget.accessibleDescription() != description) widget.setAccessibleDescription(description);
+}
+
 void setSpokenKey(QWidget& widget, const QKeySequence& key) {
     widget.setProperty(kKey, key);
 }

@@ -12,6 +12,10 @@ namespace skylob {
 /// What kind of thing it is, where its class does not say so.
 void setSpokenRole(QWidget& widget, QAccessible::Role role);
 
+/// Its accessible name and description. The toolkit tells of a change even where there is none.
+void setSpokenName(QWidget& widget, const QString& name);
+void setSpokenDescription(QWidget& widget, const QString& description);
+
 /// The key that presses, ticks or focuses it, where its caption does not show one.
 void setSpokenKey(QWidget& widget, const QKeySequence& key);
 

@@ -92,7 +92,7 @@ void QtBarDigits::set(std::optional<int> value) {
 
 void QtBarDigits::showDigits() {
     const QString digits = QString::fromStdString(m_number.digits());
-    m_bar->setAccessibleDescription(digits);
+    setSpokenDescription(*m_bar, digits);
     m_digits->setText(digits + QLatin1Char{'_'});
     m_digits->setGeometry(m_bar->rect().adjusted(20, 1, -20, -1));
     m_digits->setVisible(!digits.isEmpty());

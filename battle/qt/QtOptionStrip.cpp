@@ -102,7 +102,7 @@ void QtOptionStrip::showPanel(const BattlePanel& panel) {
     chkMeteors->setChecked(panel.chkMeteors);
     chkLightning->setChecked(panel.chkLightning);
     chkWind->setChecked(panel.chkWind);
-    chkWind->setAccessibleName(QString::fromStdString(panel.windInWords));
+    setSpokenName(*chkWind, QString::fromStdString(panel.windInWords));
     chkWind->setText(QString::fromStdString(panel.chkWindCaption));
     labelGameSpeed->setEnabled(panel.commandsEnabled);
     for (QWidget* control : controls()) control->setEnabled(panel.commandsEnabled);

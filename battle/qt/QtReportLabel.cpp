@@ -15,7 +15,7 @@ namespace {
 
 constexpr int kSmallestSize = 12;
 constexpr int kForQuestions = 200, kSlice = 5;  // milliseconds
-constexpr bool kHasAnnouncements = QT_VERSION >= QT_VERSION_CHECK(6, 8, 0);
+constexpr bool kEventsCarryText = QT_VERSION >= QT_VERSION_CHECK(6, 8, 0);
 
 QString withoutClock(QString text) {
     static const QRegularExpression clock{QStringLiteral("\\d+:\\d\\d")};
@@ -25,7 +25,7 @@ QString withoutClock(QString text) {
 /// An event without the text makes readers ask for it. They are answered at once, because the
 /// thread can be blocked until the next report stands here.
 void answerReaders() {
-    if (!QAccessible::isActive()) return;
+    if (kEventsCarryText || !QAccessible::isActive()) return;
     for (const QDeadlineTimer end{kForQuestions}; !end.hasExpired(); QThread::msleep(kSlice))
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents |
                                         QEventLoop::X11ExcludeTimers);
@@ -35,15 +35,15 @@ void answerReaders() {
 
 QtReportLabel::QtReportLabel(QWidget* parent) : QLabel{parent} {
     setTextFormat(Qt::PlainText);
-    // Without announcements, what readers speak when it comes up is a notification.
-    if (!kHasAnnouncements) setSpokenRole(*this, QAccessible::Notification);
-    hide();
+    // Readers speak these when they come up, this one with the screen.
+    setSpokenRole(*this, QAccessible::Notification);
+    setAccessibleName(tr("The battle begins"));
 }
 
 void QtReportLabel::showReport(const QString& text) {
     if (text == m_text) return;
     put(text, text);
-    if (text == m_report) return;
+    if (text.isEmpty() || text == m_report) return;
     m_report = text;
     speak();
 }
@@ -58,25 +58,18 @@ void QtReportLabel::showCountdown(const QString& text) {
 
 void QtReportLabel::put(const QString& text, const QString& spoken) {
     m_text = text;
-    setAccessibleName(spoken);
+    setSpokenName(*this, spoken.isEmpty() ? tr("The battle begins") : spoken);
     showFitting(*this, text, {kTextSize, kSmallestSize});
-    if (text.isEmpty()) hide();
 }
 
 void QtReportLabel::speak() {
-    if (m_text.isEmpty()) return;
-    const bool comesUp = isHidden();
-    show();
 #if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
     QAccessibleAnnouncementEvent event{this, accessibleName()};
-    QAccessible::updateAccessibility(&event);
 #else
-    if (!comesUp) {  // otherwise the toolkit has told of it
-        QAccessibleEvent event{this, QAccessible::ObjectShow};
-        QAccessible::updateAccessibility(&event);
-    }
-    answerReaders();
+    QAccessibleEvent event{this, QAccessible::ObjectShow};
 #endif
+    QAccessible::updateAccessibility(&event);
+    answerReaders();
 }
 
 void QtReportLabel::resizeEvent(QResizeEvent* event) {

@@ -13,7 +13,7 @@ class QtReportLabel : public QLabel {
   public:
     explicit QtReportLabel(QWidget* parent);
 
-    /// An empty report hides the line. One that comes back after a countdown is not spoken again.
+    /// A report that comes back after a countdown is not spoken again.
     void showReport(const QString& text);
 
     /// A text with a clock in it, such as "1:01", which is heard without: it is spoken when another

@@ -224,14 +224,15 @@ void frmPlayGame::showField() {
 }
 
 void frmPlayGame::showPanel(const BattlePanel& panel) {
+    if (cmdShoot->isEnabled() && !panel.commandsEnabled) dropFocusOfCommands();
     for (const int side : kSides) {
         m_side[side]->showPanel(panel.side[side], panel.turn == side);
         if (m_layout.oneFrameAtATime)
             m_side[side]->setVisible(side == std::max(panel.turn, kLeftSide));
     }
     showReportRow(panel);
-    m_field->setAccessibleDescription(
-        QString::fromStdString(fieldDescription(m_battle.state(), m_shared)));
+    setSpokenDescription(*m_field,
+                         QString::fromStdString(fieldDescription(m_battle.state(), m_shared)));
     labelRoundNumber->setText(QString::fromStdString(panel.labelRoundNumber));
     m_strip->showPanel(panel);
     showCommands(panel);
@@ -244,17 +245,24 @@ void frmPlayGame::showPanel(const BattlePanel& panel) {
     QCoreApplication::sendPostedEvents(this, QEvent::UpdateRequest);
 }
 
+/// Before they are disabled: it would wander from one to the next, and readers would hear of all.
+void frmPlayGame::dropFocusOfCommands() {
+    m_focusStaysOnShoot = cmdShoot->hasFocus();
+    QList<QWidget*> commands{cmdShoot, cmdQuit};
+    commands += m_strip->controls();
+    for (QWidget* command : commands) command->clearFocus();
+}
+
 void frmPlayGame::showReportRow(const BattlePanel& panel) {
     labelReport->showReport(QString::fromStdString(panel.labelReport));
     const QString score = QString::fromStdString(panel.score);
-    labelScore->setAccessibleName(score);
+    setSpokenName(*labelScore, score);
     labelScore->setText(QString::fromStdString(panel.labelScore));
     labelScore->setToolTip(Qt::convertFromPlainText(score));
 }
 
 void frmPlayGame::showCommands(const BattlePanel& panel) {
     const bool wereEnabled = cmdShoot->isEnabled();
-    if (wereEnabled && !panel.commandsEnabled) m_focusStaysOnShoot = cmdShoot->hasFocus();
     for (GlintButton* button : {cmdShoot, cmdQuit}) enable(*button, panel.commandsEnabled);
     if (!wereEnabled && panel.commandsEnabled) moveFocusToTurn(panel.turn);
     showHints(panel);

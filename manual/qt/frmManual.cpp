@@ -65,6 +65,7 @@ frmManual::frmManual(const QtScreenPorts& ports, const StringTable& texts, LinkO
 
 void frmManual::makeMenu() {
     m_topics->setObjectName(QStringLiteral("menuHelpTopic"));
+    m_topics->setAccessibleName(tr("Help Topics"));
     for (const Topic& topic : kTopics) {
         QAction* item = m_topics->addAction(tr(topic.caption));
         item->setCheckable(true);

@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 
+#include "base/qt/QtSpokenWidget.h"
 #include "look/qt/QtLook.h"
 
 namespace skylob {
@@ -37,7 +38,7 @@ QtChosenPlayer::QtChosenPlayer(int side, QWidget* parent)
 
 void QtChosenPlayer::setName(const QString& name) {
     m_shownName = name;
-    m_name->setAccessibleName(name);
+    setSpokenName(*m_name, name);
     m_name->setVisible(!name.isEmpty());
     m_hint->setVisible(name.isEmpty());
     showFitting(*m_name, name, kNameSizes);

@@ -4,6 +4,7 @@
 #include <QPainterPath>
 #include <QTextDocument>
 
+#include "base/qt/QtSpokenWidget.h"
 #include "look/qt/QtColour.h"
 #include "look/qt/QtLook.h"
 
@@ -43,7 +44,7 @@ QColor QtSideFrame::colour() const {
 
 void QtSideFrame::setCaption(const QString& caption, const QString& spoken) {
     m_caption = caption;
-    setAccessibleName(spoken.isEmpty() ? caption.trimmed() : spoken);
+    setSpokenName(*this, spoken.isEmpty() ? caption.trimmed() : spoken);
     fitCaption();
 }
 
