@@ -24,8 +24,8 @@ class Gunner:
         peak, ridge = map(int, re.search(r"reaches (\d+) at column (\d+)", field).groups())
         self.pull, self.distance, self.rise = PULL, target - x, height - y
         part = (ridge - x) / self.distance
-        slope = (peak + CLEARANCE - y - part**2 * self.rise) / (ridge - x) / (1 - part)
-        self.set_angle(math.degrees(math.atan(slope)))
+        height_there = peak + CLEARANCE - y - part**2 * self.rise
+        self.set_angle(math.degrees(math.atan2(height_there, (ridge - x) * (1 - part))))
 
     def set_angle(self, angle):
         self.angle = min(max(round(angle), FLATTEST), STEEPEST)
