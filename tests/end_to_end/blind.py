@@ -124,5 +124,5 @@ won, announced = play_set()
 print(f"{won} rounds won, {sum(announced)} of {len(announced)} shots announced")
 await_thing("Quit").press()
 await_thing("Yes").press()
-# A busy machine may answer so late that another report stands there.
+# A busy machine may answer too late.
 sys.exit(won < int(sys.argv[1]) or 2 * sum(announced) < len(announced))

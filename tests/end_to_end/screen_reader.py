@@ -12,6 +12,8 @@ from gi.repository import Atspi, GLib  # noqa: E402
 # nobody while a shell flies.
 PATIENCE = 120
 KEY_PATIENCE = 10
+# ... and how long screen readers wait for an answer.
+USUAL_PATIENCE = 0.8
 RETURN, SPACE = 0xFF0D, 0x20
 Atspi.init()
 Atspi.set_timeout(1000 * PATIENCE, 1000 * PATIENCE)
@@ -107,7 +109,7 @@ class Thing:
 
 class Program(Thing):
     """A program on the desktop. `heard` are the names and descriptions that have changed, as they were
-    when the event came."""
+    told when the event came."""
 
     def __init__(self, name):
         desktop = Atspi.get_desktop(0)
@@ -125,5 +127,6 @@ class Program(Thing):
         return next((it for it in programs if it and it.get_name() == name), None)
 
     def _hear(self, event):
-        it = Thing(event.source)
-        self.heard.append(it.name if event.type.endswith("name") else it.description)
+        it, asked = Thing(event.source), time.monotonic()
+        text = it.name if event.type.endswith("name") else it.description
+        self.heard.append(text if time.monotonic() < asked + USUAL_PATIENCE else f"(too late) {text}")
