@@ -1,11 +1,11 @@
 """Usage: accessible_tree.py PROGRAM
-Prints the windows of a running program as a screen reader knows them, a thing a line: role, name,
-value, description, states that matter and keys.
+Prints the window of a running program that is in front as a screen reader knows it, a thing a line:
+role, name, value, description, states that matter and keys.
 """
 
 import sys
 
-from screen_reader import Program
+from screen_reader import Program, wait_for
 
 STATES = "active", "modal", "focused", "checked", "selected", "pressed", "editable"
 
@@ -27,4 +27,8 @@ def show(things, depth=0):
         show(thing.children(), depth + 1)
 
 
-show(Program(sys.argv[1]).children())
+program = Program(sys.argv[1])
+in_front = wait_for(
+    "window in front", lambda: [window for window in program.children() if "active" in window.states()]
+)
+show(in_front)
