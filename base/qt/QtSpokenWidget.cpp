@@ -41,8 +41,6 @@ void setSpokenKey(QWidget& widget, const QKeySequence& key) {
 
 void keepFromReaders(QWidget& widget) {
     widget.setProperty(kKept, true);
-    // A label with a name of its own does not tell of its text.
-    widget.setAccessibleName(QStringLiteral(" "));
 }
 
 bool isKeptFromReaders(const QObject* widget) {
@@ -91,10 +89,8 @@ QKeySequence QtSpokenWidget::key() const {
     return widget()->property(kKey).value<QKeySequence>();
 }
 
-QAccessible::State QtSpokenWidget::state() const {
-    QAccessible::State state = QAccessibleWidget::state();
-    if (isKeptFromReaders(widget())) state.invisible = true;
-    return state;
+bool QtSpokenWidget::isValid() const {
+    return QAccessibleWidget::isValid() && !isKeptFromReaders(widget());
 }
 
 QStringList QtSpokenWidget::keyBindingsForAction(const QString& action) const {

@@ -19,8 +19,8 @@ void setSpokenDescription(QWidget& widget, const QString& description);
 /// The key that presses, ticks or focuses it, where its caption does not show one.
 void setSpokenKey(QWidget& widget, const QKeySequence& key);
 
-/// It is decoration, or another widget tells the same: readers do not find it, and a label that is
-/// kept from them raises no events when its text changes.
+/// It is decoration, or another widget tells the same: readers neither find it nor hear when its
+/// text or its state changes.
 void keepFromReaders(QWidget& widget);
 bool isKeptFromReaders(const QObject* widget);
 
@@ -36,7 +36,7 @@ class QtSpokenWidget : public QAccessibleWidget {
 
     QAccessible::Role role() const override;
     QString text(QAccessible::Text kind) const override;
-    QAccessible::State state() const override;
+    bool isValid() const override;
     QStringList keyBindingsForAction(const QString& action) const override;
 
     int childCount() const override;

@@ -79,14 +79,14 @@ class SpokenScreensTest : public QObject {
         compare("manual", manual);
         auto* const menu = manual.findChild<QMenu*>();
         menu->popup({0, 0});
-        compareSpoken("manual-menu", spoken(*menu));
+        compareSpoken("manual-menu", spoken(QAccessible::queryAccessibleInterface(menu)));
         QtBox question{"Quit?", "Really?\n\nThe set is lost!", of.shapes};
         question.setIcon("question");
-        question.addButtons({QtBox::Answer::Yes, QtBox::Answer::No}, QtBox::Answer::No);
-        compare("box-question", question);
         QtBox entry{"Add a Player", "The new\nname:", of.shapes};
         entry.addEntry("Cyd");
-        entry.addButtons({QtBox::Answer::Ok, QtBox::Answer::Cancel}, QtBox::Answer::Ok);
+        for (QtBox* box : {&question, &entry})
+            box->addButtons({QtBox::Answer::Yes, QtBox::Answer::No}, QtBox::Answer::No);
+        compare("box-question", question);
         compare("box-entry", entry);
     }
 
@@ -115,7 +115,7 @@ class SpokenScreensTest : public QObject {
         window.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&window));
         QCoreApplication::processEvents();
-        compareSpoken(name, spoken(window));
+        compareSpoken(name, spoken(QAccessible::queryAccessibleInterface(&window)));
     }
 };
 
