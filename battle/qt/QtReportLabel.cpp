@@ -1,7 +1,10 @@
 #include "battle/qt/QtReportLabel.h"
 
 #include <QAccessible>
+#include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QRegularExpression>
+#include <QThread>
 
 #include "base/qt/QtSpokenWidget.h"
 #include "look/qt/QtLook.h"
@@ -11,10 +14,21 @@ namespace skylob {
 namespace {
 
 constexpr int kSmallestSize = 12;
+constexpr int kForQuestions = 200, kSlice = 5;  // milliseconds
+constexpr bool kEventsCarryText = QT_VERSION >= QT_VERSION_CHECK(6, 8, 0);
 
 QString withoutClock(QString text) {
     static const QRegularExpression clock{QStringLiteral("\\d+:\\d\\d")};
     return text.remove(clock).simplified();
+}
+
+/// An event without the text makes readers ask for it. They are answered at once, because the
+/// thread can be blocked until the next report stands here.
+void answerReaders() {
+    if (kEventsCarryText || !QAccessible::isActive()) return;
+    for (const QDeadlineTimer end{kForQuestions}; !end.hasExpired(); QThread::msleep(kSlice))
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents |
+                                        QEventLoop::X11ExcludeTimers);
 }
 
 }  // namespace
@@ -55,6 +69,7 @@ void QtReportLabel::speak() {
     QAccessibleEvent event{this, QAccessible::ObjectShow};
 #endif
     QAccessible::updateAccessibility(&event);
+    answerReaders();
 }
 
 void QtReportLabel::resizeEvent(QResizeEvent* event) {

@@ -53,10 +53,15 @@ QStringList GlintButtonAccessible::actionNames() const {
 }
 
 void GlintButtonAccessible::doAction(const QString& name) {
-    if (name != pressAction())
-        QtSpokenWidget::doAction(name);
-    else if (button()->isEnabled() && button()->isVisible())
-        button()->press();
+    if (name != pressAction()) return QtSpokenWidget::doAction(name);
+    // Later, because whoever asks waits for an answer, and a click can begin a whole flight or
+    // bring up a modal screen.
+    QMetaObject::invokeMethod(
+        button(),
+        [pressed = button()] {
+            if (pressed->isEnabled() && pressed->isVisible()) pressed->press();
+        },
+        Qt::QueuedConnection);
 }
 
 }  // namespace skylob

@@ -45,6 +45,15 @@ start_compositing() {
 }
 is_grey() { import -window root -crop 1x1+0+0 -depth 8 txt:- | grep -q '#808080'; }
 
+# start_session_bus: one of our own, over which programs started from now on tell screen readers what is
+# on their screens.
+start_session_bus() {
+    dbus-daemon --session --nofork --nopidfile --print-address=3 3>"$work/bus" >"$work/bus.log" 2>&1 &
+    wait_for test -s "$work/bus" || fail "no session bus: $(<"$work/bus.log")"
+    DBUS_SESSION_BUS_ADDRESS=$(<"$work/bus")
+    export DBUS_SESSION_BUS_ADDRESS QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1
+}
+
 window() { xdotool search --onlyvisible --name "$1" 2>/dev/null | head -n 1; }
 is_shown() { [[ -n $(window "$1") ]]; }
 # A search that fails, because some window goes at the moment, says so: that is not "none found".
