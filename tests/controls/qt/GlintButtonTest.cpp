@@ -252,6 +252,9 @@ class GlintButtonTest : public QObject {
         button.design().writeProperties(copy);
         const auto written = QJsonDocument::fromJson(file.toJson()).object();
         QCOMPARE(written.value("copy").toObject(), written.value("full").toObject());
+        QCOMPARE(button.design().FontSize(), 16.0F);
+        QCOMPARE(button.design().MouseIcon(), std::string{"hand"});
+        QCOMPARE(QWidget::find(button.design().hwnd()), &button);
     }
 
     void reportsAWrongTypeOnce() {
