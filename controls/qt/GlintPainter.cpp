@@ -5,6 +5,7 @@
 
 #include "controls/qt/GlintPainterFace.h"
 #include "controls/qt/QtPictureMerge.h"
+#include "look/qt/QtColour.h"
 
 namespace skylob {
 
@@ -124,9 +125,11 @@ class Painting {
         const int left = qRound(content.left * ratio), top = qRound(content.top * ratio);
         const int right = qRound(content.right * ratio) - u;
         const int bottom = qRound(content.bottom * ratio) - u;
+        // Not in the colour of hovering, which the caption has under the pointer.
+        const QColor colour = toQColor(m_drawing.button.palette.TextColour);
         const auto dot = [&](int x, int y) {
             // One on, one off, along all four sides.
-            if ((x / u + y / u) % 2 == 0) fill({x, y, u, u}, m_drawing.shades.text);
+            if ((x / u + y / u) % 2 == 0) fill({x, y, u, u}, colour);
         };
         for (int x = left; x <= right; x += u)
             for (const int y : {top, bottom}) dot(x, y);
