@@ -102,9 +102,9 @@ class Painting {
         const QRect area{2 * u, 2 * u, m_drawing.width - 4 * u - drop,
                          m_drawing.height - 4 * u - drop};
         if (m_drawing.style() != kStyleGlass) {
-            fill(area, withAlpha(m_drawing.shades.flat, 120));
+            fill(area, withAlpha(m_drawing.shades.flat, m_drawing.shades.veil));
         } else if (!m_drawing.canvas.backdrop.isNull()) {
-            m_painter.setOpacity(0.5);
+            m_painter.setOpacity(0.4);
             m_painter.setClipRect(area);
             m_painter.drawImage(m_image.rect(), m_drawing.canvas.backdrop);
             m_painter.setClipping(false);
