@@ -123,6 +123,7 @@ void Tour::measureFocus(QWidget& control, const QString& place, const QString& s
     QWidget* const before = control.window()->focusWidget();
     if (before) before->clearFocus();
     const QImage without = seen(control);
+    control.window()->setAttribute(Qt::WA_KeyboardFocusChange);  // some marks are for keyboards
     control.setFocus(Qt::TabFocusReason);
     QCoreApplication::processEvents();
     m_table.add(place, state, nameOf(control) + QStringLiteral(": focus mark"), PartKind::Mark,
