@@ -2,13 +2,10 @@
 
 #include <QAbstractButton>
 #include <QLabel>
-#include <QLineEdit>
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QSignalBlocker>
-#include <QTableView>
 #include <QTest>
-#include <QTextEdit>
 
 #include "controls/qt/GlintButton.h"
 
@@ -70,7 +67,7 @@ void Tour::add(const QString& place, const QString& state, const Part& part,
     m_table.add(place, state, part.name, part.kind, contrastOf(part, picture));
 }
 
-void Tour::measure(QWidget& widget, const QString& place, const QString& state, bool isTold) {
+void Tour::measure(QWidget& widget, const QString& place, const QString& state, Limits limits) {
     const QList<Part> parts = partsOf(widget);
     if (parts.isEmpty()) return;
     const QImage picture = seen(widget);
@@ -80,24 +77,19 @@ void Tour::measure(QWidget& widget, const QString& place, const QString& state, 
             if (!rect->isNull()) rect->translate(kMargin, kMargin);
         const QString what = nameOf(widget) + QLatin1String{": "} + part.name;
         const double contrast = contrastOf(part, picture);
-        if (isTold)
+        if (limits == Limits::None)
             m_table.tell(place, state, what, contrast);
         else
             m_table.add(place, state, what, part.kind, contrast);
     }
 }
 
-void Tour::look(QWidget& window, const QString& place, const QString& state) {
+void Tour::look(QWidget& window, const QString& place, const QString& state, Limits limits) {
     for (QWidget* widget : window.findChildren<QWidget*>())
-        if (isSeen(*widget)) measure(*widget, place, state);
-    measure(window, place, state);
+        if (isSeen(*widget)) measure(*widget, place, state, limits);
+    measure(window, place, state, limits);
     if (!m_folder.isEmpty())
         window.grab().save(QStringLiteral("%1/%2, %3.png").arg(m_folder, place, state));
-}
-
-void Tour::tell(QWidget& window, const QString& place, const QString& state) {
-    for (QWidget* widget : window.findChildren<QWidget*>())
-        if (isSeen(*widget)) measure(*widget, place, state, true);
 }
 
 void Tour::visit(QWidget& window, const QString& place) {

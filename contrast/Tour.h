@@ -14,10 +14,12 @@ class Tour {
     /// Pictures are kept in the folder, if there is one. The table must outlive the tour.
     Tour(ContrastTable& table, const QString& folder) : m_table{table}, m_folder{folder} {}
 
+    /// What passes within seconds is told without limits.
+    enum class Limits { All, None };
+
     /// The window as it is now.
-    void look(QWidget& window, const QString& place, const QString& state);
-    /// The same, without limits.
-    void tell(QWidget& window, const QString& place, const QString& state);
+    void look(QWidget& window, const QString& place, const QString& state,
+              Limits limits = Limits::All);
 
     /// The same, and each of its controls with the focus, under the pointer, pressed, disabled and,
     /// if it can be ticked, the other way. Nothing is clicked.
@@ -27,7 +29,8 @@ class Tour {
     void add(const QString& place, const QString& state, const Part& part, const QImage& picture);
 
   private:
-    void measure(QWidget& widget, const QString& place, const QString& state, bool isTold = false);
+    void measure(QWidget& widget, const QString& place, const QString& state,
+                 Limits limits = Limits::All);
     void measureFocus(QWidget& control, const QString& place, const QString& state);
     void measurePointer(QWidget& control, const QString& place);
     void measureDisabled(QWidget& control, const QString& place);

@@ -5,7 +5,6 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QScrollBar>
@@ -122,7 +121,7 @@ void visitBoxes(Tour& tour) {
 
 void visitStorm(Tour& tour, test::Screen& screen, const QString& place) {
     screen.pacer.inStorm = [&](std::int32_t) {
-        tour.tell(*screen.form, place, QStringLiteral("in a storm"));
+        tour.look(*screen.form, place, QStringLiteral("in a storm"), Tour::Limits::None);
     };
     screen.clock.time += std::chrono::hours{1};
     screen.random.script({0});
