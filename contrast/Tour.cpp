@@ -44,6 +44,7 @@ bool isCovered(const QWidget& widget, const QRect& place) {
 }
 
 void putPointer(QWidget& on, const QPoint& at) {
+    QCursor::setPos(on.mapToGlobal(at));
     QTest::mouseMove(&on, at);
     QCoreApplication::processEvents();
 }
@@ -132,8 +133,8 @@ void Tour::measurePointer(QWidget& control, const QString& place) {
         measureFocus(control, place, QStringLiteral("hovered, focused"));
     QTest::mousePress(&control, Qt::LeftButton, {}, hold);
     measure(control, place, QStringLiteral("pressed"));
-    putPointer(*control.window(), control.mapTo(control.window(), outside));
     QTest::mouseRelease(&control, Qt::LeftButton, {}, outside);
+    putPointer(*control.window(), control.mapTo(control.window(), outside));
     if (auto* const button = qobject_cast<GlintButton*>(&control))
         (void)QTest::qWaitFor([button] { return !button->state().IsOver; });
 }
