@@ -236,6 +236,7 @@ double ratio(double one, double other) {
 /// The contrasts of some light to all of the ground's, the least first.
 std::vector<double> ratios(const std::vector<double>& lights, double to) {
     std::vector<double> all;
+    all.reserve(lights.size());
     for (const double light : lights) all.push_back(ratio(light, to));
     std::ranges::sort(all);
     return all;
