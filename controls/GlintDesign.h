@@ -6,7 +6,8 @@
 namespace skylob {
 
 /// A button's public properties: what setting each of them sets off, in that order, and how they
-/// come from a form and go back to it. Reading a property is reading the state.
+/// come from a form and go back to it. Reading a property is reading the state; those that the
+/// surface keeps are read here.
 ///
 /// "Mark" below means that the surface hears the key under which the form has to be saved.
 /// Nothing is validated: any number is stored.
@@ -51,6 +52,18 @@ class GlintDesign {
     void setSpecialEffect(std::int32_t value);
     void setCheckBoxBehaviour(bool value);
     void setValue(bool value);
+
+    /// What the surface has: all of the font, the pointer's shape (0 is the form's), the picture of
+    /// a shape of one's own (empty for none), and the window's handle.
+    GlintFont Font() const { return m_surface.font(); }
+    bool FontBold() const { return Font().bold; }
+    bool FontItalic() const { return Font().italic; }
+    bool FontUnderline() const { return Font().underline; }
+    float FontSize() const { return Font().size; }
+    std::string FontName() const { return Font().name; }
+    std::int16_t MousePointer() const { return m_surface.mousePointer(); }
+    PictureReference MouseIcon() const { return m_surface.mouseIcon(); }
+    GlintWindowHandle hwnd() const { return m_surface.windowHandle(); }
 
     static constexpr const char* Version = "w2005.08.15";
 

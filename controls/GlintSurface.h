@@ -17,6 +17,9 @@ struct GlintPixel {
     bool operator==(const GlintPixel&) const = default;
 };
 
+/// The number by which the window system knows a window.
+using GlintWindowHandle = std::uintptr_t;
+
 /// The window that a button lives on and the host behind it, as the button's rules see them.
 class GlintSurface {
   public:
@@ -54,6 +57,8 @@ class GlintSurface {
     /// the bounds: the result has their left and top.
     virtual GlintRect measureCaption(const std::string& caption, const GlintRect& bounds) const = 0;
 
+    /// The button's own window. It may have had none till then, and keeps it from then on.
+    virtual GlintWindowHandle windowHandle() const = 0;
     virtual GlintSize clientSize() const = 0;
     /// The button's window is all of its client rectangle but these pixels.
     virtual void setRegion(const std::vector<GlintPixel>& removed) = 0;

@@ -34,17 +34,18 @@ inline constexpr ThemeColour kThemeColours[] = {
     {"line", 0x35425F},          // edges and separators that mean nothing
     {"line-off", 0x222C44},      // the same of a disabled scroll bar
     {"edge", 0x6E7FA6},          // edges that mean something
-    {"edge-off", 0x3A4765},      // the same when disabled
+    {"edge-off", 0x616E8C},      // the same when disabled
     {"text", 0xE8EDF8},          //
     {"bright", 0xFFFFFF},        // titles, headings, selected text
     {"soft", 0xAAB6D0},          // secondary text
-    {"dim", 0x76839F},           // disabled text
+    {"dim", 0x808DAA},           // disabled text
     {"resting", 0x8E9BB8},       // title and badge of a side that is not on turn
     {"moon", 0x6FE0EC},          // the accent
     {"gold", 0xF2B92E},          // fire
     {"side-1", 0xFF917C},        // coral
     {"side-2", 0xE39BFF},        // orchid
-    {"selection", 0x24507A},     // selected rows, items and texts
+    {"selection", 0x24507A},     // selected rows and items, which have a mark of moon besides
+    {"marked", 0x3570AD},        // selected parts of texts
     {"tip", 0xF3E9C6},           // tool tips
     {"tip-text", 0x1B1A12},      //
     {"tip-edge", 0x8A7A3C},      //

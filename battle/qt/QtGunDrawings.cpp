@@ -73,7 +73,7 @@ void QtGunDrawings::paintGun(QPainter& painter, const GunPose& pose, const QRect
     paint(QStringLiteral("bed"));
     paint(nameFor("flag", pose.side));
     paintBarrel(painter, pose, box);
-    paint(QStringLiteral("carriage"));
+    paint(nameFor("carriage", pose.side));
     painter.restore();
     if (pose.onTurn) paintSign(painter, pose.side, box);
 }

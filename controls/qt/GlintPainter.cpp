@@ -5,6 +5,7 @@
 
 #include "controls/qt/GlintPainterFace.h"
 #include "controls/qt/QtPictureMerge.h"
+#include "look/qt/QtColour.h"
 
 namespace skylob {
 
@@ -101,9 +102,9 @@ class Painting {
         const QRect area{2 * u, 2 * u, m_drawing.width - 4 * u - drop,
                          m_drawing.height - 4 * u - drop};
         if (m_drawing.style() != kStyleGlass) {
-            fill(area, withAlpha(m_drawing.shades.flat, 120));
+            fill(area, withAlpha(m_drawing.shades.flat, m_drawing.shades.veil));
         } else if (!m_drawing.canvas.backdrop.isNull()) {
-            m_painter.setOpacity(0.5);
+            m_painter.setOpacity(0.4);
             m_painter.setClipRect(area);
             m_painter.drawImage(m_image.rect(), m_drawing.canvas.backdrop);
             m_painter.setClipping(false);
@@ -124,9 +125,11 @@ class Painting {
         const int left = qRound(content.left * ratio), top = qRound(content.top * ratio);
         const int right = qRound(content.right * ratio) - u;
         const int bottom = qRound(content.bottom * ratio) - u;
+        // Not in the colour of hovering, which the caption has under the pointer.
+        const QColor colour = toQColor(m_drawing.button.palette.TextColour);
         const auto dot = [&](int x, int y) {
             // One on, one off, along all four sides.
-            if ((x / u + y / u) % 2 == 0) fill({x, y, u, u}, m_drawing.shades.text);
+            if ((x / u + y / u) % 2 == 0) fill({x, y, u, u}, colour);
         };
         for (int x = left; x <= right; x += u)
             for (const int y : {top, bottom}) dot(x, y);

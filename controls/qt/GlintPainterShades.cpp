@@ -1,6 +1,7 @@
 #include "controls/qt/GlintPainterShades.h"
 
 #include "controls/qt/GlintPainter.h"
+#include "look/Contrast.h"
 #include "look/qt/QtColour.h"
 
 namespace skylob {
@@ -27,7 +28,10 @@ GlintShades::GlintShades(const GlintCanvas& canvas) {
     darkShadow = toQColor(palette.DarkShadowColour);
     hotBorder = toQColor(palette.HotBorderColour);
     faceLight = toQColor(palette.FaceLightColour);
-    flat = mix(toQColor(palette.FaceColour), hotBorder, 0.55);
+    // What is dark on a light face has to be read on its dull one, too.
+    const bool isLight = luminance(palette.FaceColour) > luminance(palette.TextColour);
+    flat = mix(toQColor(palette.FaceColour), hotBorder, isLight ? 0.4 : 0.55);
+    veil = isLight ? 16 : 120;
     mask = toQColor(palette.MaskRGB);
     onHighlight = highlight;
     bevelFace = canvas.enabled ? face : flat;

@@ -18,6 +18,7 @@ struct GlintShades {
     QColor mask;         ///< what is transparent in pictures
     QColor onHighlight;  ///< what a toggled-on face leans to
     QColor bevelFace;    ///< what a bevel line that is softened leans to
+    int veil;            ///< what lies over all of a disabled button: the alpha of `flat`
 
     explicit GlintShades(const GlintCanvas& canvas);
 };

@@ -139,6 +139,13 @@ GlintRect QtGlintHost::measureCaption(const std::string& caption, const GlintRec
     return {bounds.left, bounds.top, bounds.left + size.width(), bounds.top + size.height()};
 }
 
+GlintWindowHandle QtGlintHost::windowHandle() const {
+    // The toolkit gives widgets windows of their own only when asked for them; the form's other
+    // widgets need none.
+    m_button.setAttribute(Qt::WA_DontCreateNativeAncestors);
+    return static_cast<GlintWindowHandle>(m_button.winId());
+}
+
 GlintSize QtGlintHost::clientSize() const {
     return {m_button.width(), m_button.height()};
 }

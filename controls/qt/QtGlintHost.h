@@ -63,6 +63,7 @@ class QtGlintHost final : public GlintSurface, public GlintPointer, public Glint
     void setAccessKeyFrom(const std::string& caption) override;
     GlintSize measurePicture(const PictureReference& picture) const override;
     GlintRect measureCaption(const std::string& caption, const GlintRect& bounds) const override;
+    GlintWindowHandle windowHandle() const override;
     GlintSize clientSize() const override;
     void setRegion(const std::vector<GlintPixel>& removed) override;
     void captureBackground() override;

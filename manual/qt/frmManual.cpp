@@ -88,7 +88,7 @@ void frmManual::makeButtons() {
     connect(cmdPrintHelp, &GlintButton::Click, this, &frmManual::cmdPrintHelp_Click);
     auto* labelContact = new QtLinkLabel{tr("Questions? Write to us."), this};
     labelContact->setObjectName(QStringLiteral("labelContact"));
-    labelContact->move(348, 488);
+    labelContact->move(344, 488);
     connect(labelContact, &QtLinkLabel::Click, this,
             [this] { OpenLink(LinkKind::Mail, "", m_links, m_boxes); });
     cmdReturn = buttons.make(QStringLiteral("cmdReturn"), {560, 472, 144, 52});

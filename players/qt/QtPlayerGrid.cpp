@@ -3,6 +3,7 @@
 #include <QAccessible>
 #include <QHeaderView>
 #include <QHelpEvent>
+#include <QPainter>
 #include <QScrollBar>
 #include <QShortcut>
 #include <QStyledItemDelegate>
@@ -10,6 +11,7 @@
 #include <QToolTip>
 #include <algorithm>
 
+#include "look/qt/QtColour.h"
 #include "players/qt/PlayerGridModel.h"
 #include "players/qt/SpokenGrid.h"
 
@@ -17,12 +19,22 @@ namespace skylob {
 
 namespace {
 
-constexpr int kHeaderHeight = 32, kRowHeight = 30;
+constexpr int kHeaderHeight = 32, kRowHeight = 30, kRowMark = 3;
 constexpr int kWidth = 580, kNameWidth = 214, kSetsWidth = 128, kAverageWidth = 114;
 
-class WholeTextToolTips : public QStyledItemDelegate {
+/// Marks the highlighted row at its beginning, and shows texts that are cut in tool tips.
+class RowDelegate : public QStyledItemDelegate {
   public:
     using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override {
+        QStyledItemDelegate::paint(painter, option, index);
+        if (index.column() != PlayerGridModel::Name || !(option.state & QStyle::State_Selected))
+            return;
+        painter->fillRect(QRect{option.rect.topLeft(), QSize{kRowMark, option.rect.height()}},
+                          toQColor(themeColour("moon")));
+    }
 
     bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
                    const QModelIndex& index) override {
@@ -41,7 +53,7 @@ QtPlayerGrid::QtPlayerGrid(QWidget* parent)
     : QTableView{parent}, m_model{new PlayerGridModel{this}} {
     setObjectName(QStringLiteral("grid"));
     setModel(m_model);
-    setItemDelegate(new WholeTextToolTips{this});
+    setItemDelegate(new RowDelegate{this});
     setAccessibleName(tr("Player list"));
     setShowGrid(false);
     setAlternatingRowColors(true);

@@ -33,6 +33,7 @@ QAccessibleInterface* makeAccessible(const QString&, QObject* object) {
 QtLinkLabel::QtLinkLabel(const QString& text, QWidget* parent) : QLabel{text, parent} {
     setProperty("role", QStringLiteral("link"));
     setAccessibleName(text);
+    setIndent(0);
     setCursor(Qt::PointingHandCursor);
     setFocusPolicy(Qt::TabFocus);
 }

@@ -95,6 +95,16 @@ TEST_F(GlintDesignTest, SetsOffItsEffectsInOrder) {
     for (const auto set : {&D::setFontBold, &D::setFontItalic, &D::setFontUnderline})
         (design.*set)(true);
     EXPECT_EQ(surfaceFont, (GlintFont{"Serif", 9, true, true, true}));
+    surfaceFont = {"Mono", 7, false, true, false};
+    EXPECT_EQ(design.Font(), surfaceFont);
+    EXPECT_EQ(std::tuple(design.FontName(), design.FontSize()), std::tuple("Mono", 7.0F));
+    EXPECT_EQ(std::tuple(design.FontBold(), design.FontItalic(), design.FontUnderline()),
+              std::tuple(false, true, false));
+    surfaceFont = {"Mono", 7, true, false, true};
+    EXPECT_EQ(std::tuple(design.FontBold(), design.FontItalic(), design.FontUnderline()),
+              std::tuple(true, false, true));
+    EXPECT_EQ(std::tuple(design.MousePointer(), design.MouseIcon(), design.hwnd()),
+              std::tuple(2, "i", 77u));
 }
 
 TEST_F(GlintDesignTest, ComesFromItsFormAndGoesBack) {

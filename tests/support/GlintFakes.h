@@ -50,6 +50,7 @@ class GlintRig : public GlintSurface, public GlintPointer, public GlintEvents {
         const int width = 7 * static_cast<int>(caption.size());
         return {bounds.left, bounds.top, bounds.left + width, bounds.top + 10};
     }
+    GlintWindowHandle windowHandle() const override { return 77; }
     GlintSize clientSize() const override { return client; }
     void setRegion(const std::vector<GlintPixel>& cut) override { note("region ", cut.size()); }
     void captureBackground() override {

@@ -57,7 +57,7 @@ void frmTitlePage::makeLabels() {
              {24, 382, 380, 20}, this);
     auto* labelCopyright = new QtLinkLabel{toQt(kCopyright), this};
     labelCopyright->setObjectName(QStringLiteral("labelCopyright"));
-    labelCopyright->move(24, 402);
+    labelCopyright->move(20, 402);  // its text, behind the focus frame, at 24
     labelCopyright->setFixedHeight(20);
     connect(labelCopyright, &QtLinkLabel::Click, this,
             [this] { OpenLink(LinkKind::Web, "", m_links, m_boxes); });

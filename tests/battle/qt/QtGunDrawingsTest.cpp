@@ -13,6 +13,7 @@ class QtGunDrawingsTest : public QObject {
   private slots:
     void barrelsEndAtTheMuzzle();
     void anotherPoseIsAnotherImage();
+    void sidesAreToldApartByShape();
 
   private:
     const QtShapes m_shapes{programDrawings()};
@@ -59,6 +60,23 @@ void QtGunDrawingsTest::anotherPoseIsAnotherImage() {
     QVERIFY(image(other) != image(pose));
     for (int i = 0; i < 200; ++i) (void)image({.side = 2, .turn = i / 100.0});
     QVERIFY(image(pose) == QtGunDrawings{m_shapes}.draw(pose, {24, 24})->image.pixels);
+}
+
+/// In black and white, and if both faced the same way.
+void QtGunDrawingsTest::sidesAreToldApartByShape() {
+    QtGunDrawings guns{m_shapes};
+    const auto one = guns.draw({.side = 1, .turn = 1}, {24, 24});
+    const auto two = guns.draw({.side = 2, .turn = -1}, {24, 24});
+    const int width = one->image.width, height = one->image.height;
+    int differing = 0;
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x) {
+            const auto line = static_cast<std::size_t>(y * width);
+            const QRgb left = one->image.pixels.at(line + static_cast<std::size_t>(x));
+            const QRgb right = two->image.pixels.at(line + static_cast<std::size_t>(width - 1 - x));
+            differing += std::abs(qGray(left) - qGray(right)) > 60;
+        }
+    QVERIFY2(differing >= 25, qPrintable(QString::number(differing)));
 }
 
 }  // namespace skylob::test

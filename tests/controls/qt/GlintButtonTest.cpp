@@ -172,12 +172,18 @@ class GlintButtonTest : public QObject {
 
     void showsItsFocusAndIsCutToItsStyle() {
         Form form;
+        form.design.setForeOver(0x00FF00);
+        form.design.setForeColor(0xFFFFFF);  // makes the palette anew
         for (GlintButton* focused : {&form.second, &form.first}) {
             focused->setFocus();
-            const QImage image = form.first.grab().toImage();
-            int dots = 0;  // every other one of the 90 along the top
-            for (int x = 0; x < image.width(); ++x) dots += image.pixel(x, 6) == 0xFFFFFFFF;
-            QCOMPARE(dots, focused == &form.first ? 45 : 0);
+            for (GlintButton* hovered : {&form.second, &form.first}) {
+                form.moveTo(*hovered, {50, 20});
+                QTRY_COMPARE(form.first.state().IsOver, hovered == &form.first);
+                const QImage image = form.first.grab().toImage();
+                int dots = 0;  // every other one of the 90 along the top
+                for (int x = 0; x < image.width(); ++x) dots += image.pixel(x, 6) == 0xFFFFFFFF;
+                QCOMPARE(dots, focused == &form.first ? 45 : 0);
+            }
         }
         const QRegion shape = form.first.mask();
         QVERIFY(shape.contains(QPoint{0, 0}));
@@ -258,6 +264,9 @@ class GlintButtonTest : public QObject {
         button.design().writeProperties(copy);
         const auto written = QJsonDocument::fromJson(file.toJson()).object();
         QCOMPARE(written.value("copy").toObject(), written.value("full").toObject());
+        QCOMPARE(button.design().FontSize(), 16.0F);
+        QCOMPARE(button.design().MouseIcon(), std::string{"hand"});
+        QCOMPARE(QWidget::find(button.design().hwnd()), &button);
     }
 
     void reportsAWrongTypeOnce() {
