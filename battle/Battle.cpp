@@ -17,13 +17,14 @@ Battle::Battle(basSkylob& shared, const BattlePorts& ports, BattleView& view)
     : m_shared{shared},
       m_ports{ports},
       m_view{view},
+      m_observer{ports.observer ? *ports.observer : m_nobody},
       m_animation{m_picture, view, ports.pacer},
       m_sounds{ports.sounds, m_state},
       m_desk{m_state, shared, ports.clock, m_sounds, view},
       m_aims{m_state.aim, [this] { m_desk.barMoved(); }},
       m_effect{ports.pacer},
       m_commands{m_state, m_effect},
-      m_options{shared, m_state, m_desk, m_commands, ports.random, ports.pacer},
+      m_options{shared, m_state, m_desk, m_commands, ports.random, ports.pacer, m_observer},
       m_computer{m_state, m_aims, ports.random},
       m_sky{m_state, m_animation, ports.random, m_effect},
       m_meteors{m_sky, shared},
@@ -38,6 +39,7 @@ void Battle::Form_Activate() {
     m_shared.RoundsWon = {};
     m_shared.TotalKills = {};
     m_shared.SetOver = false;
+    m_observer.setBegins(m_shared, m_state);
     StartRound();
 }
 
@@ -52,12 +54,14 @@ void Battle::StartRound() {
     }
     ++m_state.RoundNumber;
     m_desk.show();
+    m_observer.rulesDraw();
     if (m_state.chkWind) m_options.drawWind();
     chooseFirstShooter();
     m_shared.Winner = 0;
     m_shared.SelfHit = false;
     m_shared.DirectHit = false;
     GenerateBattlefield();
+    m_observer.roundBegun(m_state);
     BeginTurn();
 }
 
@@ -128,6 +132,7 @@ void Battle::loseWithoutMen() {
 
 void Battle::ComputerTurn() {
     m_ports.pacer.Wait(1);
+    m_observer.rulesDraw();
     m_computer.takeAim(m_shared.SkillLevel);
     m_ports.pacer.yieldToEvents();
     m_ports.pacer.Wait(0.25f);
@@ -143,7 +148,10 @@ void Battle::waitForPlayer() {
 }
 
 void Battle::cmdShoot_Click() {
-    m_commands.give(Deed::Shoot, [this] { fire(); });
+    m_commands.give(Deed::Shoot, [this] {
+        m_observer.rulesDraw();
+        fire();
+    });
 }
 
 void Battle::fire() {
@@ -185,9 +193,10 @@ void Battle::FinishShot(ShotReport report) {
 
 void Battle::tell(const ShotReport& report) {
     m_state.report = report;
-    if (!report.wasFired()) return;
+    if (!report.wasFired()) return m_observer.turnLost(report.side);
     m_state.lastShot[report.side] = report;
     m_animation.scene().lastLanding[report.side] = markOf(m_shots.back(), m_state.field);
+    m_observer.shotDone(m_shots.back(), report, m_state);
 }
 
 void Battle::afterShot(void (Battle::*next)()) {
@@ -210,6 +219,7 @@ void Battle::EndRound() {
 
 void Battle::EndSet() {
     m_shared.SetOver = true;
+    m_observer.setEnded(m_shared);
     m_view.showCursor(BattleCursor::Hourglass);
     m_ports.pacer.Wait(1);
     m_view.showCursor(BattleCursor::Normal);
@@ -249,6 +259,7 @@ void Battle::leave() {
     // Quirk "saved by leaving": a set that is played to its end saves nothing.
     saveOptions(m_state, m_ports.settings);
     m_state.phase = Phase::Left;
+    m_observer.setLeft();
     m_view.holdInput();
     m_ports.pacer.yieldToEvents();
     m_view.closeBattle();

@@ -5,6 +5,7 @@
 #include "base/basSkylob.h"
 #include "battle/Aims.h"
 #include "battle/AmbientClock.h"
+#include "battle/BattleObserver.h"
 #include "battle/BattleOptions.h"
 #include "battle/BattlePorts.h"
 #include "battle/BattleView.h"
@@ -102,6 +103,8 @@ class Battle {
     basSkylob& m_shared;
     BattlePorts m_ports;
     BattleView& m_view;
+    BattleObserver m_nobody;  ///< where nobody wants to be told
+    BattleObserver& m_observer;
     BattleState m_state;
     FieldPicture m_picture;
     FieldAnimation m_animation;
