@@ -141,7 +141,7 @@ void Battle::ComputerTurn() {
 
 void Battle::waitForPlayer() {
     m_view.releaseInput();
-    m_state.phase = Phase::Waiting;
+    m_state.phase = playersPhase();
     m_options.setGameSpeed(m_shared.GameSpeed);
     m_desk.markActivity();
     m_ambientClock.startTimers();
@@ -238,11 +238,11 @@ void Battle::readRules() {
 /// The player is busy with something else over the battle.
 void Battle::setAside() {
     m_ambientClock.stopTimers();
-    m_state.phase = Phase::Asking;
+    if (!m_isWatched) m_state.phase = Phase::Asking;  // and nobody is asked
 }
 
 void Battle::takeUp() {
-    m_state.phase = Phase::Waiting;
+    m_state.phase = playersPhase();
     m_desk.markActivity();
     m_ambientClock.startTimers();
 }

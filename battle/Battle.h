@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <vector>
 
 #include "base/basSkylob.h"
@@ -51,6 +52,14 @@ class Battle {
     /// a meteor or a storm is under way.
     void readRules();
 
+    /// The set is only watched: it takes no command of the player's but leaving, and game speed;
+    /// neither a meteor nor a storm comes. To be called before the set starts.
+    void watch() { m_isWatched = true; }
+
+    /// Runs `commands` of a set that is watched: they are taken as those of the player whose turn
+    /// it is.
+    void asThePlayer(const std::function<void()>& commands) { m_commands.asThePlayer(commands); }
+
     /// The ticks of the screen's timers, which run while the panel says so.
     void timerMeteors_Timer() { m_ambientClock.timerMeteors_Timer(); }
     void timerLightning_Timer() { m_ambientClock.timerLightning_Timer(); }
@@ -87,6 +96,7 @@ class Battle {
     void BeginTurn();
     void ComputerTurn();
     void waitForPlayer();
+    Phase playersPhase() const { return m_isWatched ? Phase::Watching : Phase::Waiting; }
     void loseWithoutMen();
     void fire();
     void FireShell();
@@ -120,7 +130,7 @@ class Battle {
     LightningStorm m_storm;
     AmbientClock m_ambientClock;
     std::vector<Shot> m_shots;
-    bool m_activated = false;
+    bool m_activated = false, m_isWatched = false;
 };
 
 }  // namespace skylob
