@@ -14,6 +14,8 @@ struct CommandLine {
     std::string error;                   ///< Refused: one line that says why
     std::optional<std::uint64_t> seed;   ///< --seed: makes the run repeatable
     std::optional<std::string> dataDir;  ///< --data-dir: the working directory, in UTF-8
+    std::optional<std::string> record;   ///< --record: the file for sets, in UTF-8
+    std::optional<std::string> replay;   ///< --replay: the recorded set to show
     bool plain = false;                  ///< --plain: no light over the battlefield at first
     bool userData = false;               ///< --user-data: the user's data folder instead
 };

@@ -3,6 +3,7 @@
 #include <QCommandLineParser>
 #include <algorithm>
 #include <charconv>
+#include <optional>
 
 namespace skylob {
 
@@ -24,6 +25,8 @@ constexpr Option kOptions[]{
     {"plain", 0, nullptr, &CommandLine::plain,
      "no light over the battlefield (\"Effects\" in the battle)"},
     {"seed", 0, "N", nullptr, "repeatable chance: the same seed, the same battlefields"},
+    {"record", 0, "FILE", nullptr, "write each set down in FILE, in place of the one before"},
+    {"replay", 0, "FILE", nullptr, "show the set that is written down in FILE, and leave"},
     {"help", 'h', nullptr, nullptr, "print this text"},
     {"version", 'v', nullptr, nullptr, "print the version"},
 };
@@ -100,6 +103,11 @@ bool readSeed(const QCommandLineParser& parser, CommandLine& result) {
     return error == std::errc{} && end == text.data() + text.size();
 }
 
+std::optional<std::string> fileName(const QCommandLineParser& parser, const QString& option) {
+    if (!parser.isSet(option)) return std::nullopt;
+    return parser.value(option).toStdString();
+}
+
 CommandLine readOptions(const QCommandLineParser& parser) {
     CommandLine result;
     for (const Option& option : kOptions)
@@ -111,6 +119,12 @@ CommandLine readOptions(const QCommandLineParser& parser) {
     if (result.dataDir && result.dataDir->empty()) return refused("--data-dir needs a folder");
     if (result.userData && result.dataDir)
         return refused("--data-dir and --user-data exclude each other");
+    result.record = fileName(parser, QStringLiteral("record"));
+    result.replay = fileName(parser, QStringLiteral("replay"));
+    if ((result.record && result.record->empty()) || (result.replay && result.replay->empty()))
+        return refused("--record and --replay need a file");
+    if (result.replay && (result.record || result.seed || result.dataDir || result.userData))
+        return refused("--replay goes with no other option than --plain");
     return result;
 }
 

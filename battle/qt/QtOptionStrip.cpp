@@ -96,8 +96,9 @@ void QtOptionStrip::showPanel(const BattlePanel& panel) {
     chkLightning->setChecked(panel.chkLightning);
     chkWind->setChecked(panel.chkWind);
     chkWind->setText(QString::fromStdString(panel.chkWindCaption));
-    labelGameSpeed->setEnabled(panel.commandsEnabled);
     for (QWidget* control : controls()) control->setEnabled(panel.commandsEnabled);
+    scrollGameSpeed->setEnabled(panel.commandsEnabled || panel.isWatched);
+    labelGameSpeed->setEnabled(scrollGameSpeed->isEnabled());
 }
 
 QList<QWidget*> QtOptionStrip::controls() const {

@@ -17,6 +17,7 @@
 #include "battle/qt/QtEffectTimers.h"
 #include "battle/qt/QtHints.h"
 #include "battle/qt/QtOptionStrip.h"
+#include "battle/qt/QtReplayHand.h"
 #include "battle/qt/QtReportLabel.h"
 #include "battle/qt/QtSidePanel.h"
 #include "battle/qt/QtStormHold.h"
@@ -173,6 +174,13 @@ void frmPlayGame::setTabOrder() {
     for (qsizetype i = 1; i < order.size(); ++i) QWidget::setTabOrder(order[i - 1], order[i]);
 }
 
+void frmPlayGame::watch(BattleReplay& replay) {
+    m_battle.watch();
+    auto* hand = new QtReplayHand{m_battle, replay, this};
+    connect(hand, &QtReplayHand::ended, this, &frmPlayGame::replayEnded);
+    setWindowTitle(windowTitle() + tr(" (replay)"));
+}
+
 void frmPlayGame::Form_Activate() {
     queue([this] { m_battle.Form_Activate(); });
 }
@@ -250,7 +258,8 @@ void frmPlayGame::showReportRow(const BattlePanel& panel) {
 void frmPlayGame::showCommands(const BattlePanel& panel) {
     const bool wereEnabled = cmdShoot->isEnabled();
     if (wereEnabled && !panel.commandsEnabled) m_focusStaysOnShoot = cmdShoot->hasFocus();
-    for (GlintButton* button : {cmdShoot, cmdQuit}) enable(*button, panel.commandsEnabled);
+    enable(*cmdShoot, panel.commandsEnabled);
+    enable(*cmdQuit, panel.commandsEnabled || panel.isWatched);
     if (!wereEnabled && panel.commandsEnabled) moveFocusToTurn(panel.turn);
     showHints(panel);
 }
