@@ -18,9 +18,16 @@ QtReplayHand::QtReplayHand(Battle& battle, BattleReplay& replay, QObject* parent
     m_timer->start(kThinking);
 }
 
+void QtReplayHand::leaveSoon() {
+    m_isToLeave = true;
+    m_timer->start(0);
+}
+
 void QtReplayHand::step() {
     if (m_battle.state().phase != Phase::Watching)
         m_timer->start(kOthersTurn);
+    else if (m_isToLeave)
+        m_battle.cmdQuit_Click();
     else if (m_replay.difference() || m_replay.wasLeftHere())
         end();
     else

@@ -17,6 +17,9 @@ class QtReplayHand : public QObject {
     /// `battle` and `replay` must outlive the hand. `parent` is the screen.
     QtReplayHand(Battle& battle, BattleReplay& replay, QObject* parent);
 
+    /// Who watches wants to leave: that happens as soon as nothing is in the air.
+    void leaveSoon();
+
   signals:
     /// The set was left here when it was recorded, or is not the recorded one any more. When the
     /// receivers have told the player, it is left.
@@ -30,7 +33,7 @@ class QtReplayHand : public QObject {
     Battle& m_battle;
     BattleReplay& m_replay;
     QTimer* m_timer;
-    bool m_hasAimed = false;
+    bool m_hasAimed = false, m_isToLeave = false;
 };
 
 }  // namespace skylob

@@ -139,7 +139,7 @@ void frmPlayGame::connectControls() {
         m_field->showChanges();
     });
     connect(cmdShoot, &GlintButton::Click, this, [this] { m_battle.cmdShoot_Click(); });
-    connect(cmdQuit, &GlintButton::Click, this, [this] { m_battle.cmdQuit_Click(); });
+    connect(cmdQuit, &GlintButton::Click, this, [this] { quit(); });
     connect(m_field, &picGameField::pieceClicked, this, [this] { m_battle.FieldPiece_Click(); });
     connect(m_timers, &QtEffectTimers::ticked, this, &frmPlayGame::fitField);
 }
@@ -151,7 +151,7 @@ void frmPlayGame::addShortcuts() {
         connect(shortcut, &QShortcut::activated, this, std::move(action));
     };
     const auto shooterSide = [this] { return m_side[m_battle.state().Shooter]; };
-    onKey(Qt::Key_Escape, [this] { m_battle.cmdQuit_Click(); });
+    onKey(Qt::Key_Escape, [this] { quit(); });
     onKey(Qt::Key_F1, [this] { m_battle.readRules(); });
     onKey(Qt::Key_F11, [this] { setWindowState(windowState() ^ Qt::WindowFullScreen); });
     onKey(Qt::ALT | Qt::Key_P, [shooterSide] { shooterSide()->scrollSpeed()->setFocus(); });
@@ -176,9 +176,16 @@ void frmPlayGame::setTabOrder() {
 
 void frmPlayGame::watch(BattleReplay& replay) {
     m_battle.watch();
-    auto* hand = new QtReplayHand{m_battle, replay, this};
-    connect(hand, &QtReplayHand::ended, this, &frmPlayGame::replayEnded);
+    m_replayHand = new QtReplayHand{m_battle, replay, this};
+    connect(m_replayHand, &QtReplayHand::ended, this, &frmPlayGame::replayEnded);
     setWindowTitle(windowTitle() + tr(" (replay)"));
+}
+
+void frmPlayGame::quit() {
+    if (m_replayHand)
+        m_replayHand->leaveSoon();
+    else
+        m_battle.cmdQuit_Click();
 }
 
 void frmPlayGame::Form_Activate() {
@@ -221,16 +228,23 @@ QList<QRect> frmPlayGame::toBeSeen() const {
 }
 
 void frmPlayGame::askedToClose() {
-    m_battle.cmdQuit_Click();
+    quit();
 }
 
 void frmPlayGame::showField() {
     m_field->showChanges();
 }
 
+/// The computer's bars, too, are nobody's in a set that is watched: input is not held meanwhile.
+SidePanel frmPlayGame::shown(const SidePanel& side) const {
+    SidePanel shown = side;
+    if (m_replayHand) shown.enabled = false;
+    return shown;
+}
+
 void frmPlayGame::showPanel(const BattlePanel& panel) {
     for (const int side : kSides) {
-        m_side[side]->showPanel(panel.side[side], panel.turn == side);
+        m_side[side]->showPanel(shown(panel.side[side]), panel.turn == side);
         if (m_layout.oneFrameAtATime)
             m_side[side]->setVisible(side == std::max(panel.turn, kLeftSide));
     }
@@ -241,7 +255,7 @@ void frmPlayGame::showPanel(const BattlePanel& panel) {
     m_timers->follow();
     fitField();
     m_field->showChanges();  // a barrel points another way, or it is the other side's turn
-    if (!m_gate->isClosed()) return;
+    if (!m_gate->isClosed() && !m_replayHand) return;
     bringIntoView(m_field);
     // While the thread is blocked nothing else would bring the changes to the display.
     QCoreApplication::sendPostedEvents(this, QEvent::UpdateRequest);
@@ -286,12 +300,13 @@ void frmPlayGame::showCursor(BattleCursor cursor) {
         unsetCursor();
 }
 
+/// What somebody who only watches wants, to leave, is to be heard after the shot.
 void frmPlayGame::holdInput() {
-    m_gate->close();
+    if (!m_replayHand) m_gate->close();
 }
 
 void frmPlayGame::releaseInput() {
-    m_gate->dropInputAndOpen();
+    if (!m_replayHand) m_gate->dropInputAndOpen();
 }
 
 void frmPlayGame::showStorm() {

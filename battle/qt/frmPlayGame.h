@@ -19,6 +19,7 @@ class QtEffectTimers;
 class QtHints;
 class QtInputGate;
 class QtOptionStrip;
+class QtReplayHand;
 class QtReportLabel;
 class QtSidePanel;
 class QtStormHold;
@@ -87,6 +88,8 @@ class frmPlayGame : public QtScreen, private BattleView {
     void showRules() override;
     void closeBattle() override;
 
+    void quit();
+    SidePanel shown(const SidePanel& side) const;
     void makeSidePanels();
     void makeReportRow();
     void showReportRow(const BattlePanel& panel);
@@ -118,6 +121,7 @@ class frmPlayGame : public QtScreen, private BattleView {
     int m_displayWidth = 0;                    ///< that the field was drawn for
     bool m_focusStaysOnShoot = false;
     QtHints* m_hints = nullptr;
+    QtReplayHand* m_replayHand = nullptr;  ///< of a set that is watched
 };
 
 }  // namespace skylob

@@ -25,12 +25,16 @@ class CommandLineTest : public QObject {
         QVERIFY(parse({"--user-data"}).userData);
         QVERIFY(!parse({}).userData);
         QVERIFY(parse({"--plain", "--seed=5"}).plain);
+        QCOMPARE(parse({"--record=a b", "--seed=5"}).record, "a b");
+        QCOMPARE(parse({"--plain", "--replay", "-"}).replay, "-");
         QVERIFY(!parse({}).plain);
         for (const auto& refused :
              {parse({"--seed"}), parse({"--seed", "-1"}), parse({"--seed", "1x"}),
               parse({"--seed="}), parse({"--data-dir", ""}), parse({"--fast"}), parse({"-seed=1"}),
               parse({"--help=x"}), parse({"--help", "--fast"}), parse({"file"}), parse({""}),
-              parse({"--", "-\n"}), parse({"--user-data", "--data-dir", "x"}), parse({"\xff"})}) {
+              parse({"--", "-\n"}), parse({"--user-data", "--data-dir", "x"}), parse({"--record="}),
+              parse({"--replay=x", "--seed=1"}), parse({"--replay=x", "--record=y"}),
+              parse({"\xff"})}) {
             QCOMPARE(refused.request, Request::Refused);
             QVERIFY(!refused.error.empty() && refused.error.find('\n') == std::string::npos);
         }
