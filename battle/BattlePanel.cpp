@@ -2,6 +2,8 @@
 
 #include <cstdlib>
 
+#include "battle/FieldDescription.h"
+
 namespace skylob {
 
 namespace {
@@ -75,6 +77,7 @@ BattlePanel panelOf(const BattleState& state, const basSkylob& shared) {
     panel.chkLightning = state.chkLightning;
     panel.chkWind = state.chkWind;
     panel.chkWindCaption = windCaption(state.Wind);
+    panel.windInWords = windInWords(state.Wind);
     panel.commandsEnabled = isUsable(Deed::ChangeOption, state);
     panel.isWatched = state.phase == Phase::Watching;
     panel.timerMeteors = state.timerMeteors;

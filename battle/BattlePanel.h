@@ -33,7 +33,7 @@ struct BattlePanel {
 
     bool chkSound = false, chkTrajectory = false, chkMeteors = false;
     bool chkLightning = false, chkWind = false;
-    std::string chkWindCaption;
+    std::string chkWindCaption, windInWords;
 
     /// cmdShoot, cmdQuit, the game speed bar and the five boxes are usable.
     bool commandsEnabled = false;

@@ -177,12 +177,7 @@ void drawBattlefield(const Battlefield& field, FieldPicture& picture, int ground
         picture.filledCircle(field.MoonX, field.moonY, kMoonRadius, kCyan);
         picture.filledCircle(shadow, field.moonY, kMoonRadius, kBlack);
     }
-    for (int x = 1; x < kColumns; x += 2) {
-        const int mirrored = kColumns + 1 - x;
-        for (const int column : {x, mirrored})
-            picture.verticalLine(column, 1, field.heightAt(column), field.groundColour,
-                                 groundLineWidth);
-    }
+    picture.ground(field.TerrainHeight, field.groundColour, groundLineWidth);
     for (const int side : kSides) picture.placePiece(side, field.PieceX[side], field.PieceY[side]);
     picture.refresh();
 }

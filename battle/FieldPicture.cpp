@@ -78,11 +78,25 @@ Colour FieldPicture::pixel(int x, int y) const {
     return dot.isEmpty() ? kBlack : toColour(m_screen[index(dot.x, dot.y)]);
 }
 
-void FieldPicture::verticalLine(int x, int y1, int y2, Colour colour, int width) {
+void FieldPicture::ground(std::span<const int> heights, Colour colour, int width) {
     const int pixels = width * m_dotScale;
-    const int top = row(y2);
-    fill({column(x) - (pixels - 1) / 2, top, pixels, row(y1) - top + 1}, toPixel(colour),
-         Buffers::Both);
+    std::vector<int> tops(static_cast<std::size_t>(m_width), m_height);
+    for (std::size_t x = 1; x < heights.size(); ++x) {
+        const int left = column(static_cast<int>(x)) - (pixels - 1) / 2, top = row(heights[x]);
+        for (int px = std::max(left, 0); px < std::min(left + pixels, m_width); ++px) {
+            int& highest = tops[static_cast<std::size_t>(px)];
+            highest = std::min(highest, top);
+        }
+    }
+    // Row by row, because a picture lies in memory in that order.
+    for (int py = 0; py < m_height; ++py) {
+        for (auto* const buffer : {&m_persistent, &m_screen}) {
+            std::uint32_t* const pixel = buffer->data() + index(0, py);
+            for (std::size_t px = 0; px < tops.size(); ++px)
+                pixel[px] = tops[px] <= py ? toPixel(colour) : pixel[px];
+        }
+    }
+    markDirty({0, 0, m_width, m_height});
 }
 
 void FieldPicture::filledCircle(int x, int y, int radius, Colour colour) {

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <vector>
 
 #include "base/Colour.h"
@@ -66,8 +67,9 @@ class FieldPicture {
     /// several device pixels that is one of them: see liftPoint for all.
     Colour pixel(int x, int y) const;
 
-    /// A line along column x, from height y1 up to y2, both included; in both buffers.
-    void verticalLine(int x, int y1, int y2, Colour colour, int width = 1);
+    /// A line along each column from the bottom up to its height, included; in both buffers. The
+    /// first height is of no column: they count from 1.
+    void ground(std::span<const int> heights, Colour colour, int width = 1);
 
     /// A filled circle, round in pixels, in both buffers; `radius` is in horizontal units.
     void filledCircle(int x, int y, int radius, Colour colour);

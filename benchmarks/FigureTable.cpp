@@ -46,13 +46,14 @@ std::string share(double value, double whole) {
 
 std::string budgetText(const Figure& figure) {
     if (figure.budget == 0) return "-";
-    if (figure.nominal == 0) return timeText(figure.budget);
+    if (figure.nominal == 0) return text("%.3g x fill", figure.budget);
     return text("%.2f to ", figure.least) + text("%.2f", figure.budget);
 }
 
 void printFigure(const Figure& figure, double seconds, double fill, double turns) {
-    const double value = figure.nominal == 0 ? seconds : seconds / figure.nominal;
-    const std::string measured = figure.nominal == 0 ? timeText(value) : text("%.4f", value);
+    const bool isRatio = figure.nominal != 0;
+    const double value = seconds / (isRatio ? figure.nominal : fill);
+    const std::string measured = isRatio ? text("%.4f", value) : timeText(seconds);
     const bool missed = figure.budget != 0 && (value > figure.budget || value < figure.least);
     std::printf(kLine, figure.what, measured.c_str(), budgetText(figure).c_str(),
                 share(value, figure.budget).c_str(), share(seconds, fill).c_str(),

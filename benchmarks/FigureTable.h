@@ -10,7 +10,9 @@ namespace skylob {
 /// that which goes by, for work in which the display or the clock has a part.
 enum class Time { Spent, GoneBy };
 
-/// Something measured, and what it is held against. Times are seconds.
+/// Something measured, and what it is held against. Machines differ, so a budget is a ratio: how
+/// many times the first figure of the table it may take, or what is said with `nominal`. Times are
+/// seconds.
 struct Figure {
     const char* what;
     void (*measure)(benchmark::State&);

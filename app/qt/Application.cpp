@@ -8,15 +8,18 @@
 #include "app/qt/QtProgramTexts.h"
 #include "base/NullPorts.h"
 #include "base/Volume.h"
+#include "battle/qt/QtMenGauge.h"
 #include "battle/qt/frmPlayGame.h"
 #include "battle/record/RecordFile.h"
 #include "controls/qt/GlintButtonAccessible.h"
 #include "manual/qt/frmManual.h"
+#include "players/qt/QtPlayerGrid.h"
 #include "players/qt/frmGetPlayers.h"
 #include "players/qt/frmGetSkillLevel.h"
 #include "players/qt/frmSummary.h"
 #include "screen/qt/QtLinkLabel.h"
 #include "screen/qt/QtPlacement.h"
+#include "screen/qt/QtSpokenControls.h"
 #include "title/qt/frmNewUser.h"
 #include "title/qt/frmTitlePage.h"
 
@@ -78,6 +81,9 @@ Application::Application(int& argc, char** argv, const CommandLine& commandLine)
     GlintButtonAccessible::install();
     QtLinkLabel::installAccessible();
     QtScreen::installAccessible();
+    installSpokenControls();
+    QtMenGauge::installAccessible();
+    QtPlayerGrid::installAccessible();
     m_sounds.setVolume(recallVolume(m_windows));
     setApplicationName(QStringLiteral("Skylob"));
     setDesktopFileName(QStringLiteral("skylob"));  // by which a desktop knows the windows' icon

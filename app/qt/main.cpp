@@ -16,6 +16,7 @@
 #include "app/qt/ReplayProgram.h"
 #include "base/Release.h"
 #include "battle/record/RecordFile.h"
+#include "platform/qt/QtPictureTransport.h"
 
 namespace {
 
@@ -79,6 +80,7 @@ int play(char** argv, const skylob::CommandLine& commandLine) {
     }
     if (!enterDataFolder(commandLine)) return kUnusableArguments;
     if (!hasDisplay()) return EXIT_FAILURE;
+    skylob::sendPicturesInline();
     int toolkitArguments = 1;  // the arguments are ours alone
     const auto usualHandler = qInstallMessageHandler(endWhereThereIsNoDisplay);
     skylob::Application application{toolkitArguments, argv, commandLine};
@@ -90,6 +92,7 @@ int play(char** argv, const skylob::CommandLine& commandLine) {
 int replay(char** argv, const skylob::CommandLine& commandLine) try {
     const skylob::BattleRecord record = skylob::readRecordFile(*commandLine.replay);
     if (!hasDisplay()) return EXIT_FAILURE;
+    skylob::sendPicturesInline();
     int toolkitArguments = 1;
     const auto usualHandler = qInstallMessageHandler(endWhereThereIsNoDisplay);
     skylob::ReplayProgram program{toolkitArguments, argv, commandLine, record};

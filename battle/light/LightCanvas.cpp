@@ -4,12 +4,16 @@ namespace skylob {
 
 namespace {
 
-constexpr int kFinePerPixel = 4;  // a polygon's edges are looked at that finely, both ways
-
 /// Two of a pixel's four parts, 16 bits apart, by a share of 255; rounded.
 std::uint32_t scaled(std::uint32_t parts, std::uint32_t share) {
     const std::uint32_t product = parts * share + 0x800080u;
     return (product + (product >> 8 & 0xFF00FFu)) >> 8 & 0xFF00FFu;
+}
+
+/// Premultiplied.
+std::uint32_t faded(Colour colour, std::uint32_t alpha) {
+    const std::uint32_t opaque = colour.pixel();
+    return scaled(opaque & 0xFF00FFu, alpha) | scaled(opaque >> 8 & 0xFF00FFu, alpha) << 8;
 }
 
 std::uint32_t laidOver(std::uint32_t under, std::uint32_t over) {
@@ -31,14 +35,10 @@ double squaredDistance(double x, double y, LightPoint from, LightPoint to) {
     return awayX * awayX + awayY * awayY;
 }
 
-bool isInside(double x, double y, std::span<const LightPoint> corners) {
-    bool inside = false;
-    for (std::size_t i = 0, before = corners.size() - 1; i < corners.size(); before = i++) {
-        const LightPoint &a = corners[i], &b = corners[before];
-        if ((a.y > y) != (b.y > y) && x < a.x + (b.x - a.x) * (y - a.y) / (b.y - a.y))
-            inside = !inside;
-    }
-    return inside;
+/// How far inside the edge from one corner to the next, which runs clockwise around.
+double depth(double x, double y, LightPoint from, LightPoint to) {
+    const double dx = to.x - from.x, dy = to.y - from.y;
+    return (dx * (y - from.y) - dy * (x - from.x)) / std::sqrt(dx * dx + dy * dy);
 }
 
 }  // namespace
@@ -50,11 +50,7 @@ void LightCanvas::start(const PixelRect& area) {
 }
 
 void LightCanvas::lay(std::uint32_t* under, Colour colour, double strength) {
-    const auto alpha = static_cast<std::uint32_t>(strength * 255 + 0.5);
-    const std::uint32_t opaque = colour.pixel();
-    const std::uint32_t over =
-        scaled(opaque & 0xFF00FFu, alpha) | scaled(opaque >> 8 & 0xFF00FFu, alpha) << 8;
-    *under = *under == 0 ? over : laidOver(*under, over);
+    *under = laidOver(*under, faded(colour, static_cast<std::uint32_t>(strength * 255 + 0.5)));
 }
 
 void LightCanvas::glow(LightPoint at, double radius, Colour colour, double strength) {
@@ -71,7 +67,8 @@ void LightCanvas::disc(LightPoint at, double radius, Colour colour, double stren
     const double reach = radius + 1;
     shade({at.x - reach, at.y - reach}, {at.x + reach, at.y + reach}, colour, strength,
           [at, radius](double x, double y) {
-              return smoothEdge(radius - std::hypot(x - at.x, y - at.y));
+              const double dx = x - at.x, dy = y - at.y;
+              return smoothEdge(radius - std::sqrt(dx * dx + dy * dy));
           });
 }
 
@@ -93,13 +90,13 @@ void LightCanvas::polygon(std::span<const LightPoint> corners, Colour colour, do
         high = {std::max(high.x, corner.x), std::max(high.y, corner.y)};
     }
     shade(low, high, colour, strength, [corners](double x, double y) {
-        int inside = 0;
-        for (int i = 0; i < kFinePerPixel * kFinePerPixel; ++i) {
-            const double dx = (i % kFinePerPixel + 0.5) / kFinePerPixel - 0.5;
-            const double dy = (i / kFinePerPixel + 0.5) / kFinePerPixel - 0.5;
-            if (isInside(x + dx, y + dy, corners)) ++inside;
+        double least = 0.5;
+        LightPoint from = corners.back();
+        for (const LightPoint& to : corners) {
+            least = std::min(least, depth(x, y, from, to));
+            from = to;
         }
-        return inside / double{kFinePerPixel * kFinePerPixel};
+        return smoothEdge(least);
     });
 }
 

@@ -37,7 +37,7 @@ class LightCanvas {
     /// A line with round ends and smooth edges.
     void line(LightPoint from, LightPoint to, double width, Colour colour, double strength = 1);
 
-    /// A filled polygon with smooth edges.
+    /// A convex polygon with smooth edges, its corners clockwise.
     void polygon(std::span<const LightPoint> corners, Colour colour, double strength = 1);
 
     /// An image, unscaled, its left upper pixel at x, y.

@@ -25,7 +25,7 @@ struct Muzzle {
 };
 
 void addFlash(LightBurst& burst, const Muzzle& muzzle, double left) {
-    burst.glow(muzzle.before(4, 0), 58 * muzzle.unit, kGlow, 0.5 * left);
+    burst.glow(muzzle.before(4, 0), 44 * muzzle.unit, kGlow, 0.5 * left);
     burst.glow(muzzle.before(5, 0), 18 * muzzle.unit, kFlame, 0.9 * left);
     for (const double aside : {-0.5, 0.5})
         burst.line(muzzle.at, muzzle.before(8 * left, 15 * aside * left), 2.6 * muzzle.unit * left,

@@ -9,7 +9,9 @@ namespace skylob {
 namespace {
 
 constexpr int kDrops = 80;
-constexpr int kSlant = 5;  // a drop is blown one drop's width to the left for each 5 it falls
+constexpr int kSquall = 3;       // it rains in one part of so many
+constexpr int kSquallWay = 160;  // pictures that it takes to cross the field
+constexpr int kSlant = 5;        // a drop is blown one drop's width to the left for each 5 it falls
 constexpr std::uint32_t kNearDrop = 0xFF5B6E94u, kFarDrop = 0xFF35425Fu;
 
 // The sky in a flicker, the last picture first, and how rarely one comes: every three seconds.
@@ -38,6 +40,10 @@ void StormShow::advance(const FieldPicture& picture) {
     m_lit.clear();
     m_lights.clear();
     flicker(picture);
+    m_squall -= std::max(m_width / kSquallWay, 1);
+    // One goes, and the next comes, while half of it is still to be seen.
+    const int half = m_width / kSquall / 2;
+    if (m_squall < -half) m_squall = m_width - half;
     for (Drop& drop : m_drops) fall(drop, picture);
     m_changes.insert(m_changes.end(), m_lit.begin(), m_lit.end());
 }
@@ -53,12 +59,18 @@ int StormShow::below(int end) {
     return static_cast<int>(m_chance() % static_cast<unsigned>(std::max(end, 1)));
 }
 
+/// Where a new drop begins to fall: the squall is blown about as the drops are.
+int StormShow::inSquall() {
+    return m_squall + below(m_width / kSquall + m_height / kSlant);
+}
+
 void StormShow::strew(const FieldPicture& picture) {
     m_width = picture.width();
     m_height = picture.height();
+    m_squall = m_width - m_width / kSquall;
     m_drops.clear();
     for (int number = 0; number < kDrops; ++number) {
-        const int x = below(m_width), y = below(m_height);
+        const int x = inSquall(), y = below(m_height);
         m_drops.push_back({x, y, number % 2 == 0});
     }
 }
@@ -79,7 +91,7 @@ void StormShow::fall(Drop& drop, const FieldPicture& picture) {
     const int way = length * 3 / 2;
     drop.y += way;
     drop.x -= way / kSlant;
-    if (drop.y >= m_height) drop = {below(m_width + m_height / kSlant), -below(way), drop.isNear};
+    if (drop.y >= m_height) drop = {inSquall(), -below(way), drop.isNear};
 
     const int step = width * kSlant, steps = (length + step - 1) / step;
     const std::size_t before = m_lights.size();

@@ -7,6 +7,7 @@
 #include <QWheelEvent>
 
 #include "base/qt/QtInput.h"
+#include "base/qt/QtSpokenWidget.h"
 
 namespace skylob {
 
@@ -52,6 +53,7 @@ QtBarDigits::QtBarDigits(QScrollBar* bar, const BarRange& range)
     m_digits->setProperty("role", QStringLiteral("digits"));
     m_digits->setAlignment(Qt::AlignCenter);
     m_digits->setAttribute(Qt::WA_TransparentForMouseEvents);
+    keepFromReaders(*m_digits);  // the bar's description tells them
     m_digits->hide();
     bar->installEventFilter(this);
 }
@@ -90,7 +92,7 @@ void QtBarDigits::set(std::optional<int> value) {
 
 void QtBarDigits::showDigits() {
     const QString digits = QString::fromStdString(m_number.digits());
-    m_bar->setAccessibleDescription(digits);
+    setSpokenDescription(*m_bar, digits);
     m_digits->setText(digits + QLatin1Char{'_'});
     m_digits->setGeometry(m_bar->rect().adjusted(20, 1, -20, -1));
     m_digits->setVisible(!digits.isEmpty());

@@ -5,6 +5,7 @@
 #include <QScrollBar>
 
 #include "base/Volume.h"
+#include "base/qt/QtSpokenWidget.h"
 #include "battle/qt/QtSidePanel.h"
 
 namespace skylob {
@@ -13,6 +14,8 @@ QtOptionStrip::QtOptionStrip(const frmPlayGameLayout& layout, WindowStore& windo
                              BattleOptions& options, QWidget* board)
     : QFrame{board}, m_windows{windows} {
     setObjectName(QStringLiteral("strip"));
+    setSpokenRole(*this, QAccessible::Grouping);
+    setAccessibleName(tr("Options"));
     makeGameSpeed(layout, board);
     chkSound = makeBox("chkSound", tr("S&ound"));
     makeVolume(layout);
@@ -20,6 +23,7 @@ QtOptionStrip::QtOptionStrip(const frmPlayGameLayout& layout, WindowStore& windo
     chkMeteors = makeBox("chkMeteors", tr("&Meteors"));
     chkLightning = makeBox("chkLightning", tr("&Lightning"));
     chkWind = makeBox("chkWind", {});
+    setSpokenKey(*chkWind, Qt::ALT | Qt::Key_W);
     makeEffects();
     connectTo(options);
 }
@@ -34,16 +38,19 @@ void QtOptionStrip::makeGameSpeed(const frmPlayGameLayout& layout, QWidget* boar
     QWidget* const parent = layout.gameSpeedInStrip ? this : board;
     labelGameSpeed = new QLabel{parent};
     labelGameSpeed->setObjectName(QStringLiteral("labelGameSpeed"));
+    keepFromReaders(*labelGameSpeed);  // the bar tells it
     if (!layout.gameSpeedInStrip) labelGameSpeed->setAlignment(Qt::AlignCenter);
     scrollGameSpeed = makeScrollBar(QStringLiteral("scrollGameSpeed"), kGameSpeedRange,
                                     layout.scrollGameSpeed, parent);
     scrollGameSpeed->setAccessibleName(tr("Game speed"));
+    setSpokenKey(*scrollGameSpeed, Qt::ALT | Qt::Key_G);
 }
 
 void QtOptionStrip::makeVolume(const frmPlayGameLayout& layout) {
     scrollVolume =
         makeScrollBar(QStringLiteral("scrollVolume"), kVolumeRange, layout.scrollVolume, this);
     scrollVolume->setAccessibleName(tr("Volume"));
+    setSpokenKey(*scrollVolume, Qt::ALT | Qt::Key_V);
     // Quirk "blank at the ends": one on either side.
     scrollVolume->setToolTip(tr(" How loud sounds are "));
     scrollVolume->setValue(recallVolume(m_windows));
@@ -95,6 +102,7 @@ void QtOptionStrip::showPanel(const BattlePanel& panel) {
     chkMeteors->setChecked(panel.chkMeteors);
     chkLightning->setChecked(panel.chkLightning);
     chkWind->setChecked(panel.chkWind);
+    setSpokenName(*chkWind, QString::fromStdString(panel.windInWords));
     chkWind->setText(QString::fromStdString(panel.chkWindCaption));
     for (QWidget* control : controls()) control->setEnabled(panel.commandsEnabled);
     scrollGameSpeed->setEnabled(panel.commandsEnabled || panel.isWatched);

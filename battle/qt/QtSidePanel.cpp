@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QScrollBar>
 
+#include "base/qt/QtSpokenWidget.h"
 #include "battle/qt/QtBarInput.h"
 #include "battle/qt/QtMenGauge.h"
 #include "look/qt/QtColour.h"
@@ -58,11 +59,16 @@ QtSidePanel::QtSidePanel(int side, const QString& caption, const SidePanelLayout
     m_labelMenLeft->setProperty("role", QStringLiteral("men"));
     for (QLabel* last : {m_labelLastSpeed, m_labelLastAngle, m_labelLastLanding})
         last->setProperty("role", QStringLiteral("note"));
+    for (QLabel* label : {m_labelSpeed, m_labelAngle, m_labelMenLeft, m_labelLastSpeed,
+                          m_labelLastAngle, m_labelLastLanding})
+        keepFromReaders(*label);  // bars, gauge and the field tell that
     // After the role: measuring the caption settles the looks of all that is in the frame.
     setCaption(caption);
     m_menGauge->setGeometry(layout.menGauge);
     m_scrollSpeed->setAccessibleName(tr("Speed"));
     m_scrollAngle->setAccessibleName(tr("Angle"));
+    setSpokenKey(*m_scrollSpeed, Qt::ALT | Qt::Key_P);
+    setSpokenKey(*m_scrollAngle, Qt::ALT | Qt::Key_A);
     new QtBarDigits{m_scrollSpeed, kSpeedRange};
     new QtBarDigits{m_scrollAngle, kAngleRange};
     connect(m_scrollSpeed, &QScrollBar::valueChanged, this,

@@ -13,6 +13,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/qt/QtSpokenWidget.h"
+#include "battle/FieldDescription.h"
 #include "battle/qt/QtDragAim.h"
 #include "battle/qt/QtEffectTimers.h"
 #include "battle/qt/QtHints.h"
@@ -110,6 +112,7 @@ void frmPlayGame::makeButtons() {
         // Quirk "blank at the ends": one on either side.
         cmdShoot->setToolTip(tr(" Shoot your Artillery Piece "));
     }
+    setSpokenKey(*cmdShoot, Qt::ALT | Qt::Key_S);
     cmdQuit = buttons.make(QStringLiteral("cmdQuit"), m_layout.cmdQuit);
 }
 
@@ -243,12 +246,15 @@ SidePanel frmPlayGame::shown(const SidePanel& side) const {
 }
 
 void frmPlayGame::showPanel(const BattlePanel& panel) {
+    if (cmdShoot->isEnabled() && !panel.commandsEnabled) dropFocusOfCommands();
     for (const int side : kSides) {
         m_side[side]->showPanel(shown(panel.side[side]), panel.turn == side);
         if (m_layout.oneFrameAtATime)
             m_side[side]->setVisible(side == std::max(panel.turn, kLeftSide));
     }
     showReportRow(panel);
+    setSpokenDescription(*m_field,
+                         QString::fromStdString(fieldDescription(m_battle.state(), m_shared)));
     labelRoundNumber->setText(QString::fromStdString(panel.labelRoundNumber));
     m_strip->showPanel(panel);
     showCommands(panel);
@@ -261,17 +267,24 @@ void frmPlayGame::showPanel(const BattlePanel& panel) {
     QCoreApplication::sendPostedEvents(this, QEvent::UpdateRequest);
 }
 
+/// Before they are disabled: it would wander from one to the next, and readers would hear of all.
+void frmPlayGame::dropFocusOfCommands() {
+    m_focusStaysOnShoot = cmdShoot->hasFocus();
+    QList<QWidget*> commands{cmdShoot, cmdQuit};
+    commands += m_strip->controls();
+    for (QWidget* command : commands) command->clearFocus();
+}
+
 void frmPlayGame::showReportRow(const BattlePanel& panel) {
     labelReport->showReport(QString::fromStdString(panel.labelReport));
     const QString score = QString::fromStdString(panel.score);
+    setSpokenName(*labelScore, score);
     labelScore->setText(QString::fromStdString(panel.labelScore));
-    labelScore->setAccessibleName(score);
     labelScore->setToolTip(Qt::convertFromPlainText(score));
 }
 
 void frmPlayGame::showCommands(const BattlePanel& panel) {
     const bool wereEnabled = cmdShoot->isEnabled();
-    if (wereEnabled && !panel.commandsEnabled) m_focusStaysOnShoot = cmdShoot->hasFocus();
     enable(*cmdShoot, panel.commandsEnabled);
     enable(*cmdQuit, panel.commandsEnabled || panel.isWatched);
     if (!wereEnabled && panel.commandsEnabled) moveFocusToTurn(panel.turn);
@@ -329,7 +342,7 @@ void frmPlayGame::endStorm() {
 }
 
 void frmPlayGame::showReport(const std::string& report) {
-    labelReport->showReport(QString::fromStdString(report));
+    labelReport->showCountdown(QString::fromStdString(report));
 }
 
 int frmPlayGame::displayWidth() const {

@@ -101,6 +101,7 @@ class frmPlayGame : public QtScreen, private BattleView {
     QString caption(int side) const;
     void showCommands(const BattlePanel& panel);
     void showHints(const BattlePanel& panel);
+    void dropFocusOfCommands();
     void moveFocusToTurn(int turn);
     void fitField();
 

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/qt/QtSpokenWidget.h"
 #include "battle/light/FieldLayer.h"
 #include "battle/qt/QtDragAim.h"
 #include "battle/qt/QtGunDrawings.h"
@@ -27,6 +28,8 @@ picGameField::picGameField(FieldPicture& picture, FieldLayer& layer, const QtSha
                            QWidget* parent)
     : QWidget{parent}, m_picture{picture}, m_layer{layer}, m_shapes{shapes} {
     setAttribute(Qt::WA_OpaquePaintEvent);
+    setSpokenRole(*this, QAccessible::Graphic);
+    setAccessibleName(tr("Battlefield"));
 }
 
 QSize picGameField::fittingSize() const {

@@ -1,5 +1,7 @@
 #include "controls/qt/GlintButtonAccessible.h"
 
+#include <QKeySequence>
+
 #include "controls/qt/GlintButton.h"
 
 namespace skylob {
@@ -14,7 +16,7 @@ QAccessibleInterface* makeAccessible(const QString&, QObject* object) {
 }  // namespace
 
 GlintButtonAccessible::GlintButtonAccessible(GlintButton* button)
-    : QAccessibleWidget{button, QAccessible::Button} {
+    : QtSpokenWidget{button, QAccessible::Button} {
 }
 
 void GlintButtonAccessible::install() {
@@ -26,21 +28,18 @@ GlintButton* GlintButtonAccessible::button() const {
     return static_cast<GlintButton*>(widget());
 }
 
-QString GlintButtonAccessible::text(QAccessible::Text kind) const {
-    const QString toolTip = button()->toolTip().trimmed();
+QString GlintButtonAccessible::name() const {
     const QString caption = button()->plainCaption();
-    switch (kind) {
-        case QAccessible::Name:
-            return caption.isEmpty() ? toolTip : caption;
-        case QAccessible::Description:
-            return toolTip;
-        default:
-            return QAccessibleWidget::text(kind);
-    }
+    return caption.isEmpty() ? button()->toolTip() : caption;
+}
+
+QKeySequence GlintButtonAccessible::key() const {
+    const auto shown = QKeySequence::mnemonic(QString::fromStdString(button()->state().Caption));
+    return shown.isEmpty() ? QtSpokenWidget::key() : shown;
 }
 
 QAccessible::State GlintButtonAccessible::state() const {
-    QAccessible::State state = QAccessibleWidget::state();
+    QAccessible::State state = QtSpokenWidget::state();
     const GlintState& glint = button()->state();
     state.disabled = !glint.Enabled || !button()->isEnabled();
     state.checkable = glint.CheckBoxBehaviour;
@@ -50,12 +49,12 @@ QAccessible::State GlintButtonAccessible::state() const {
 }
 
 QStringList GlintButtonAccessible::actionNames() const {
-    return QStringList{pressAction()} + QAccessibleWidget::actionNames();
+    return QStringList{pressAction()} + QtSpokenWidget::actionNames();
 }
 
 void GlintButtonAccessible::doAction(const QString& name) {
     if (name != pressAction())
-        QAccessibleWidget::doAction(name);
+        QtSpokenWidget::doAction(name);
     else if (button()->isEnabled() && button()->isVisible())
         button()->press();
 }

@@ -2,7 +2,6 @@
 
 #include <QAccessible>
 #include <QApplication>
-#include <QCursor>
 #include <QFontMetrics>
 #include <QShortcutEvent>
 #include <algorithm>
@@ -166,11 +165,12 @@ void QtGlintHost::captureBackground() {
 }
 
 bool QtGlintHost::IsPointerInside() const {
-    return isPointerPlaceKnown() ? QApplication::widgetAt(QCursor::pos()) == &m_button
+    return isPointerPlaceKnown() ? m_pointer.widget() == &m_button
                                  : m_entered && m_button.isVisible();
 }
 
 void QtGlintHost::runOverTimer(bool run) {
+    m_pointer.watch(run);
     if (run)
         OverTimer.start();
     else

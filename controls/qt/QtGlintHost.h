@@ -5,6 +5,7 @@
 #include <QTimer>
 
 #include "controls/GlintInteraction.h"
+#include "controls/qt/QtPointerPlace.h"
 
 class QShortcutEvent;
 
@@ -95,6 +96,7 @@ class QtGlintHost final : public GlintSurface, public GlintPointer, public Glint
     GlintFont m_font;
     std::int16_t m_pointerShape = 0;
     PictureReference m_mouseIcon;
+    mutable QtPointerPlace m_pointer;  ///< a question changes nothing but when it asks again
     QImage m_backdrop;
     int m_shortcut = 0;
     int m_drawnState = kStateUp;

@@ -7,6 +7,7 @@
 #include <QTextEdit>
 
 #include "base/OpenLink.h"
+#include "base/qt/QtSpokenWidget.h"
 #include "controls/qt/GlintButton.h"
 #include "controls/qt/QtFormButtons.h"
 #include "manual/PrintLayout.h"
@@ -51,6 +52,7 @@ frmManual::frmManual(const QtScreenPorts& ports, const StringTable& texts, LinkO
     labelHelpTopic->setObjectName(QStringLiteral("labelHelpTopic"));
     labelHelpTopic->setGeometry(16, 12, 688, 32);
     labelHelpTopic->setProperty("role", QStringLiteral("topic"));
+    keepFromReaders(*labelHelpTopic);  // the text has it for a name
     txtManual->setObjectName(QStringLiteral("txtManual"));
     txtManual->setGeometry(16, 52, 688, 408);
     txtManual->setReadOnly(true);
@@ -63,6 +65,7 @@ frmManual::frmManual(const QtScreenPorts& ports, const StringTable& texts, LinkO
 
 void frmManual::makeMenu() {
     m_topics->setObjectName(QStringLiteral("menuHelpTopic"));
+    m_topics->setAccessibleName(tr("Help Topics"));
     for (const Topic& topic : kTopics) {
         QAction* item = m_topics->addAction(tr(topic.caption));
         item->setCheckable(true);

@@ -38,6 +38,16 @@ void PlayerGridModel::fill(std::vector<PlayerRecord> records) {
     endResetModel();
 }
 
+QString PlayerGridModel::spokenRow(int row) const {
+    const ListedPlayer of = player(row);
+    const PlayerRecord& record = of.record;
+    QString text = QString::fromStdString(of.name()) +
+                   tr(", sets played %1, won %2").arg(record.SetsPlayed).arg(record.SetsWon);
+    if (record.AverageScore != 0) text += tr(", average score %1").arg(record.AverageScore);
+    if (record.Ranking != 0) text += tr(", ranking %1").arg(record.Ranking);
+    return text;
+}
+
 int PlayerGridModel::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(m_records.size());
 }

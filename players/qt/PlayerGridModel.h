@@ -24,6 +24,10 @@ class PlayerGridModel : public QAbstractTableModel {
         return {row + 1, m_records[static_cast<std::size_t>(row)]};
     }
 
+    /// What is heard of that row, at once: "Ann, sets played 14, won 11, average score 46, ranking
+    /// 1". Figures that are not shown are not heard.
+    QString spokenRow(int row) const;
+
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;

@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 
+#include "base/qt/QtSpokenWidget.h"
 #include "look/qt/QtLook.h"
 
 namespace skylob {
@@ -27,14 +28,17 @@ QtChosenPlayer::QtChosenPlayer(int side, QWidget* parent)
       m_hint{labelInSlot("slot", this)} {
     setBadge(Badge::Filled);
     m_hint->setText(side == 1 ? tr("Double-click a name") : tr("Double-click another name"));
+    m_hint->setAccessibleName(tr("%1, or press Enter on it").arg(m_hint->text()));
     m_name->setObjectName(QStringLiteral("labelPlayerName(%1)").arg(side));
     m_name->installEventFilter(this);
-    if (side == 1) m_name->setFocusPolicy(Qt::StrongFocus);
+    if (side == 2) return;
+    m_name->setFocusPolicy(Qt::StrongFocus);
+    m_name->setAccessibleDescription(tr("Double-click it or press Enter to unselect"));
 }
 
 void QtChosenPlayer::setName(const QString& name) {
     m_shownName = name;
-    m_name->setAccessibleName(tr("Player %1: %2").arg(side()).arg(name));
+    setSpokenName(*m_name, name);
     m_name->setVisible(!name.isEmpty());
     m_hint->setVisible(name.isEmpty());
     showFitting(*m_name, name, kNameSizes);

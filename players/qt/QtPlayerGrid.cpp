@@ -1,5 +1,6 @@
 #include "players/qt/QtPlayerGrid.h"
 
+#include <QAccessible>
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QScrollBar>
@@ -10,6 +11,7 @@
 #include <algorithm>
 
 #include "players/qt/PlayerGridModel.h"
+#include "players/qt/SpokenGrid.h"
 
 namespace skylob {
 
@@ -53,7 +55,7 @@ QtPlayerGrid::QtPlayerGrid(QWidget* parent)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     layOutColumns();
     connect(this, &QTableView::doubleClicked, this,
-            [this](const QModelIndex& index) { emit chosen(m_model->player(index.row())); });
+            [this](const QModelIndex& index) { choose(index.row()); });
     for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
         connect(new QShortcut{key, this, nullptr, nullptr, Qt::WidgetShortcut},
                 &QShortcut::activated, this, [this] {
@@ -104,6 +106,18 @@ QItemSelectionModel::SelectionFlags QtPlayerGrid::selectionCommand(const QModelI
     return QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows;
 }
 
+QString QtPlayerGrid::spokenRow(int row) const {
+    return m_model->spokenRow(row);
+}
+
+int QtPlayerGrid::rowCount() const {
+    return m_model->rowCount();
+}
+
+void QtPlayerGrid::choose(int row) {
+    emit chosen(m_model->player(row));
+}
+
 void QtPlayerGrid::fill(std::vector<PlayerRecord> records) {
     m_model->fill(std::move(records));
     highlight(0);
@@ -118,6 +132,36 @@ std::optional<ListedPlayer> QtPlayerGrid::highlighted() const {
     const QModelIndexList rows = selectionModel()->selectedRows();
     if (rows.isEmpty()) return std::nullopt;
     return m_model->player(rows.front().row());
+}
+
+void QtPlayerGrid::focusInEvent(QFocusEvent* event) {
+    QTableView::focusInEvent(event);
+    // The toolkit tells of the list first, when this has been handled.
+    if (QAccessible::isActive())
+        QMetaObject::invokeMethod(this, &QtPlayerGrid::tellRow, Qt::QueuedConnection);
+}
+
+/// The table's own ways with these two tell of cells, and do nothing else.
+void QtPlayerGrid::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+    QAbstractItemView::currentChanged(current, previous);  // NOLINT(bugprone-parent-virtual-call)
+    tellRow();
+}
+
+void QtPlayerGrid::selectionChanged(const QItemSelection& selected,
+                                    const QItemSelection& deselected) {
+    QAbstractItemView::selectionChanged(  // NOLINT(bugprone-parent-virtual-call)
+        selected, deselected);
+}
+
+void QtPlayerGrid::tellRow() {
+    if (!hasFocus() || !currentIndex().isValid()) return;
+    QAccessibleEvent event{this, QAccessible::Focus};
+    event.setChild(currentIndex().row());
+    QAccessible::updateAccessibility(&event);
+}
+
+void QtPlayerGrid::installAccessible() {
+    SpokenGrid::install();
 }
 
 }  // namespace skylob

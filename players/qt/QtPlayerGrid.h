@@ -18,6 +18,15 @@ class QtPlayerGrid : public QTableView {
   public:
     explicit QtPlayerGrid(QWidget* parent);
 
+    /// Makes screen readers find a list in it, of a line for each player.
+    static void installAccessible();
+
+    int rowCount() const;
+    QString spokenRow(int row) const;
+
+    /// What a double-click on the row does.
+    void choose(int row);
+
     /// As LobbyView::fillGrid() and highlightRow().
     void fill(std::vector<PlayerRecord> records);
     void highlight(int row);
@@ -33,8 +42,13 @@ class QtPlayerGrid : public QTableView {
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                          const QEvent* event) const override;
     void resizeEvent(QResizeEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    void selectionChanged(const QItemSelection& selected,
+                          const QItemSelection& deselected) override;
 
   private:
+    void tellRow();
     void layOutColumns();
     void spreadColumns();
 

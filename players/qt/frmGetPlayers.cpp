@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "base/Settings.h"
+#include "base/qt/QtSpokenWidget.h"
 #include "base/qt/QtText.h"
 #include "controls/qt/GlintButton.h"
 #include "controls/qt/QtFormButtons.h"
@@ -86,6 +87,7 @@ void frmGetPlayers::makeComputerBox() {
     chkComputer = new QCheckBox{tr("Play the\nComputer!"), panel};
     chkComputer->setObjectName(QStringLiteral("chkComputer"));
     chkComputer->setGeometry(kComputerBox);
+    setSpokenKey(*chkComputer, Qt::ALT | Qt::Key_C);
 }
 
 void frmGetPlayers::makeOptions() {
@@ -193,7 +195,7 @@ void frmGetPlayers::highlightRow(int row) {
 
 void frmGetPlayers::showPairing(const Pairing& pairing) {
     for (const int side : kSides) {
-        frame[side]->setCaption(toQt(pairing.frameCaption(side)));
+        frame[side]->setCaption(toQt(pairing.frameCaption(side)), tr("Player %1").arg(side));
         frame[side]->setName(QString::fromStdString(pairing.labelPlayerName(side)));
     }
     const QSignalBlocker quiet{chkComputer};

@@ -3,6 +3,7 @@
 #include <QLabel>
 
 #include "base/basSkylob.h"
+#include "base/qt/QtSpokenWidget.h"
 #include "controls/qt/GlintButton.h"
 #include "controls/qt/QtFormButtons.h"
 
@@ -44,7 +45,8 @@ frmGetSkillLevel::frmGetSkillLevel(const QtScreenPorts& ports)
         connect(button, &GlintButton::Click, this,
                 [this, index = level.index] { cmdSkillLevel_Click(index); });
         if (level.index == kFairSkill) button->setFocus();
-        centredLabel(tr(level.hint), "note", {level.left, 180, 140, 20}, this);
+        button->setAccessibleDescription(tr(level.hint));
+        keepFromReaders(*centredLabel(tr(level.hint), "note", {level.left, 180, 140, 20}, this));
     }
 }
 

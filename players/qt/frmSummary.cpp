@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QTimer>
 
+#include "base/qt/QtSpokenWidget.h"
 #include "controls/qt/GlintButton.h"
 #include "controls/qt/QtFormButtons.h"
 #include "look/qt/QtColour.h"
@@ -48,10 +49,17 @@ QLabel* makeLabel(const QRect& place, const char* role, QWidget* parent) {
     return label;
 }
 
+/// Readers hear it with its figure.
+void addCaption(const QRect& place, const QString& text, QtSideFrame& frame) {
+    QLabel* const caption = makeLabel(place, "caption", &frame);
+    caption->setText(text);
+    keepFromReaders(*caption);
+}
+
 /// A row of a caption and a figure. Returns the figure's label.
 QLabel* addRow(QtSideFrame& frame, int top, const QString& text, const char* name, int number) {
     constexpr int kRowHeight = 28;
-    makeLabel({12, top, 190, kRowHeight}, "caption", &frame)->setText(text);
+    addCaption({12, top, 190, kRowHeight}, text, frame);
     auto* figure = makeLabel({204, top, 60, kRowHeight}, "figure", &frame);
     figure->setObjectName(QStringLiteral("%1(%2)").arg(QLatin1String{name}).arg(frame.side()));
     figure->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -62,7 +70,7 @@ QLabel* addRow(QtSideFrame& frame, int top, const QString& text, const char* nam
 
 /// The row of a set's score.
 void addReckoning(QtSideFrame& frame, int top, const QString& reckoning) {
-    makeLabel({12, top, 60, 28}, "caption", &frame)->setText(QObject::tr("Score"));
+    addCaption({12, top, 60, 28}, QObject::tr("Score"), frame);
     auto* score = makeLabel({72, top, 192, 28}, "men", &frame);
     score->setObjectName(QStringLiteral("labelSetScore(%1)").arg(frame.side()));
     score->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -147,7 +155,9 @@ void frmSummary::makeOkay() {
 void frmSummary::Form_Activate() {
     m_summary.Form_Activate();
     for (const int side : {1, 2}) frame[side]->setTurn(side == m_shared.Winner);
-    showFitting(*label, QString::fromStdString(m_summary.heading()), {kHeadingSize, kLargeSize});
+    const QString heading = QString::fromStdString(m_summary.heading());
+    showFitting(*label, heading, {kHeadingSize, kLargeSize});
+    label->setAccessibleName(heading);
     const QString reason = QString::fromStdString(m_summary.reason());
     showFitting(*labelReason, reason, {kTextSize, kSmallReason});
     labelReason->setAccessibleName(reason);

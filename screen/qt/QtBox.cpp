@@ -11,6 +11,7 @@
 #include <algorithm>
 
 #include "base/qt/QtInput.h"
+#include "base/qt/QtSpokenWidget.h"
 #include "controls/qt/GlintButton.h"
 #include "controls/qt/QtPropertyBagFile.h"
 #include "look/qt/QtLook.h"
@@ -90,7 +91,6 @@ Kind kindOf(QtBox::Answer answer) {
 
 QtBox::QtBox(const QString& title, const QString& text, const QtShapes& shapes)
     : m_shapes{shapes},
-      m_text{text},
       m_message{new QHBoxLayout},
       m_buttons{new QHBoxLayout},
       m_texts{new QVBoxLayout} {
@@ -99,12 +99,12 @@ QtBox::QtBox(const QString& title, const QString& text, const QtShapes& shapes)
     setWindowTitle(QString{title}.replace(QLatin1String{"[*]"}, QLatin1String{"[*][*]"}));
     setAccessibleName(title);
     applyLook(*this);
-    auto* label = new QLabel{this};
-    label->setObjectName(QStringLiteral("labelText"));
-    label->setTextFormat(Qt::PlainText);
-    label->setText(text);
-    fit(*label, widthForTitle(title) - 2 * kMargin);
-    m_texts->addWidget(label, 0, Qt::AlignVCenter);
+    m_label = new QLabel{this};
+    m_label->setObjectName(QStringLiteral("labelText"));
+    m_label->setTextFormat(Qt::PlainText);
+    m_label->setText(text);
+    fit(*m_label, widthForTitle(title) - 2 * kMargin);
+    m_texts->addWidget(m_label, 0, Qt::AlignVCenter);
     m_message->setSpacing(kGap);
     m_message->addLayout(m_texts, 1);
     m_buttons->setSpacing(kButtonGap);
@@ -125,7 +125,8 @@ void QtBox::setIcon(const QString& drawing) {
 QLineEdit* QtBox::addEntry(const QString& text) {
     auto* entry = new QLineEdit{text, this};
     entry->setObjectName(QStringLiteral("entry"));
-    entry->setAccessibleName(m_text);
+    entry->setAccessibleName(m_label->text().simplified());
+    keepFromReaders(*m_label);
     entry->selectAll();
     entry->setFocus();
     m_texts->setSpacing(kButtonGap);

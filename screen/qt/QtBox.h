@@ -4,6 +4,7 @@
 #include <vector>
 
 class QHBoxLayout;
+class QLabel;
 class QLineEdit;
 class QVBoxLayout;
 
@@ -41,7 +42,7 @@ class QtBox : public QDialog {
     GlintButton* makeButton(Answer answer, bool isPreset);
 
     const QtShapes& m_shapes;
-    QString m_text;
+    QLabel* m_label;
     QHBoxLayout *m_message, *m_buttons;
     QVBoxLayout* m_texts;
     GlintButton* m_default = nullptr;

@@ -1,24 +1,25 @@
 #include "screen/qt/QtLinkLabel.h"
 
-#include <QAccessibleWidget>
 #include <QKeyEvent>
+
+#include "base/qt/QtSpokenWidget.h"
 
 namespace skylob {
 
 namespace {
 
-class AccessibleLink : public QAccessibleWidget {
+class AccessibleLink : public QtSpokenWidget {
   public:
-    explicit AccessibleLink(QtLinkLabel* label) : QAccessibleWidget{label, QAccessible::Link} {}
+    explicit AccessibleLink(QtLinkLabel* label) : QtSpokenWidget{label, QAccessible::Link} {}
 
     QStringList actionNames() const override {
-        return QStringList{pressAction()} + QAccessibleWidget::actionNames();
+        return QStringList{pressAction()} + QtSpokenWidget::actionNames();
     }
     void doAction(const QString& name) override {
         if (name == pressAction())
             emit static_cast<QtLinkLabel*>(widget())->Click();
         else
-            QAccessibleWidget::doAction(name);
+            QtSpokenWidget::doAction(name);
     }
 };
 

@@ -1,6 +1,5 @@
 #include "screen/qt/QtScreen.h"
 
-#include <QAccessibleWidget>
 #include <QCloseEvent>
 #include <QEventLoop>
 #include <QKeyEvent>
@@ -9,6 +8,7 @@
 #include <utility>
 
 #include "base/qt/QtInput.h"
+#include "base/qt/QtSpokenWidget.h"
 #include "controls/qt/GlintButton.h"
 #include "look/qt/QtLook.h"
 #include "screen/qt/QtPlacement.h"
@@ -21,12 +21,12 @@ namespace skylob {
 namespace {
 
 /// Whether it is modal may be told the screen after the toolkit has made this.
-class ScreenAccessible : public QAccessibleWidget {
+class ScreenAccessible : public QtSpokenWidget {
   public:
-    explicit ScreenAccessible(QtScreen* screen) : QAccessibleWidget{screen} {}
+    explicit ScreenAccessible(QtScreen* screen) : QtSpokenWidget{screen, QAccessible::Window} {}
 
     QAccessible::Role role() const override {
-        return widget()->isModal() ? QAccessible::Dialog : QAccessibleWidget::role();
+        return widget()->isModal() ? QAccessible::Dialog : QtSpokenWidget::role();
     }
 };
 

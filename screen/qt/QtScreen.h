@@ -56,7 +56,7 @@ class QtScreen : public QWidget {
     /// than its smallest size, the screen scrolls.
     void fitInto(const QSize& room);
 
-    /// Makes screen readers find a dialog in every modal screen.
+    /// Makes screen readers find a dialog in every modal screen, a window in every other.
     static void installAccessible();
 
   protected:

@@ -4,6 +4,7 @@
 #include <QPainterPath>
 #include <QTextDocument>
 
+#include "base/qt/QtSpokenWidget.h"
 #include "look/qt/QtColour.h"
 #include "look/qt/QtLook.h"
 
@@ -41,9 +42,9 @@ QColor QtSideFrame::colour() const {
     return toQColor(m_side == 1 ? themeColour("side-1") : themeColour("side-2"));
 }
 
-void QtSideFrame::setCaption(const QString& caption) {
+void QtSideFrame::setCaption(const QString& caption, const QString& spoken) {
     m_caption = caption;
-    setAccessibleName(caption.trimmed());
+    setSpokenName(*this, spoken.isEmpty() ? caption.trimmed() : spoken);
     fitCaption();
 }
 

@@ -21,8 +21,8 @@ class QtSideFrame : public QGroupBox {
     QColor colour() const;
 
     /// A title of any characters: an ampersand is one, too. It is cut where the frame ends, and is
-    /// then the tool tip as well.
-    void setCaption(const QString& caption);
+    /// then the tool tip as well. Screen readers hear it, or `spoken` in its place.
+    void setCaption(const QString& caption, const QString& spoken = {});
 
     void setBadge(Badge badge);
 

@@ -48,7 +48,7 @@ TEST(FieldPicture, CutsOffWhatLiesOutside) {
         picture.setPoint(at, 500, kWhite, width);
         picture.setPassingPoint(500, at, kWhite, width);
         picture.filledCircle(at, at, 40, kWhite);
-        picture.verticalLine(at, at, at, kWhite, width);
+        picture.ground(std::vector{0, std::min(at, -1)}, kWhite, width);
         EXPECT_EQ(picture.pixel(at, at), kBlack);
         picture.putBack(picture.liftPoint(at, at, width));
         picture.putBack(picture.liftPoint(at, 500, width));
@@ -56,7 +56,7 @@ TEST(FieldPicture, CutsOffWhatLiesOutside) {
     FieldPicture none;
     none.setPoint(5, 5, kWhite);
     none.filledCircle(5, 5, 40, kWhite);
-    none.verticalLine(5, 1, 900, kWhite);
+    none.ground(std::vector{0, 900}, kWhite);
     EXPECT_EQ(none.pixel(5, 5), kBlack);
 }
 

@@ -138,6 +138,15 @@ is_turn() { look "$battle" && (($(pixels_of "$gold") > 0)); }
 gold='#F2B92E'
 await_turn() { wait_for is_turn || fail "it is nobody's turn: $(<"$work/stderr")"; }
 
+# point_at_gold: moves the pointer to the middle of the golden button.
+point_at_gold() {
+    local x y
+    look "$battle"
+    read -r x y < <(convert "$work/look.miff" -fill black +opaque "$gold" -trim \
+        -format '%[fx:round(page.x+w/2)] %[fx:round(page.y+h/2)]\n' info:)
+    xdotool mousemove --window "$(window "$battle")" "$x" "$y"
+}
+
 # expect_flight: a red trail has grown since `before`, its pixels then, and the button is not golden.
 red() { pixels_of '#FF0000'; }
 trail_grows() { look "$battle" && (($(red) > before)); }

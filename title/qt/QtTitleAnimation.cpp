@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "base/qt/QtSpokenWidget.h"
 #include "title/qt/QtTitlePicture.h"
 
 namespace skylob {
@@ -37,6 +38,7 @@ QtTitleAnimation::QtTitleAnimation(const QtShapes& shapes, QWidget* parent)
     setFixedSize(kTitleWidth, kTitleHeight);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setAttribute(Qt::WA_TransparentForMouseEvents);
+    setSpokenRole(*this, QAccessible::Graphic);
     setAccessibleName(QStringLiteral("Two guns, one firing at the other over a mountain at night"));
     m_running.start();
 }

@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QShortcut>
 
+#include "base/qt/QtSpokenWidget.h"
 #include "controls/qt/GlintButton.h"
 #include "controls/qt/QtFormButtons.h"
 #include "title/TitlePage.h"
@@ -40,6 +41,7 @@ frmNewUser::frmNewUser(const QtScreenPorts& ports, const std::string& overview)
     chkDontShow->setObjectName(QStringLiteral("chkDontShow"));
     chkDontShow->setGeometry(24, 396, 300, 28);
     auto* shortcut = new QShortcut{Qt::ALT | Qt::Key_D, this};
+    setSpokenKey(*chkDontShow, shortcut->key());
     connect(shortcut, &QShortcut::activated, chkDontShow, &QCheckBox::click);
     cmdContinue = QtFormButtons{objectName(), m_shapes, *this}.make(QStringLiteral("cmdContinue"),
                                                                     {432, 388, 144, 44});

@@ -223,6 +223,10 @@ class GlintButtonTest : public QObject {
         QCOMPARE(reader->role(), QAccessible::Button);
         QCOMPARE(reader->text(QAccessible::Name), "Rock & Roll Now");
         QCOMPARE(reader->text(QAccessible::Description), "Go");
+        QCOMPARE(reader->text(QAccessible::Accelerator), "Alt+R");
+        QCOMPARE(reader->actionInterface()->keyBindingsForAction(
+                     QAccessibleActionInterface::pressAction()),
+                 QStringList{"Alt+R"});
         QVERIFY(reader->state().checkable);
         QVERIFY(!reader->state().checked);
         reader->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
