@@ -7,8 +7,10 @@
 #include "app/qt/QtProgramEnd.h"
 #include "base/Settings.h"
 #include "base/Volume.h"
+#include "battle/qt/QtMenGauge.h"
 #include "battle/qt/frmPlayGame.h"
 #include "controls/qt/GlintButtonAccessible.h"
+#include "screen/qt/QtSpokenControls.h"
 #include "screen/qt/QtWindowPlaces.h"
 
 namespace skylob {
@@ -23,6 +25,8 @@ ReplayProgram::ReplayProgram(int& argc, char** argv, const CommandLine& commandL
       m_replay{record, m_random} {
     GlintButtonAccessible::install();
     QtScreen::installAccessible();
+    installSpokenControls();
+    QtMenGauge::installAccessible();
     setApplicationName(QStringLiteral("Skylob"));
     setDesktopFileName(QStringLiteral("skylob"));
     setQuitOnLastWindowClosed(false);
