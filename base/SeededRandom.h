@@ -17,8 +17,20 @@ class SeededRandom final : public RandomSource {
 
     double next() override;
 
+    /// The seed that makes the same numbers again.
+    std::uint64_t seed();
+
+    /// How many numbers have been drawn.
+    std::uint64_t position() const { return m_position; }
+
+    /// Goes to where `position` numbers have been drawn, back or ahead. Ahead, it takes a few
+    /// nanoseconds for each number that is left out.
+    void moveTo(std::uint64_t position);
+
   private:
+    std::optional<std::uint64_t> m_seed;
     std::optional<std::mt19937_64> m_engine;
+    std::uint64_t m_position = 0;
 };
 
 }  // namespace skylob

@@ -17,13 +17,14 @@ Battle::Battle(basSkylob& shared, const BattlePorts& ports, BattleView& view)
     : m_shared{shared},
       m_ports{ports},
       m_view{view},
+      m_observer{ports.observer ? *ports.observer : m_nobody},
       m_animation{m_picture, view, ports.pacer},
       m_sounds{ports.sounds, m_state},
       m_desk{m_state, shared, ports.clock, m_sounds, view},
       m_aims{m_state.aim, [this] { m_desk.barMoved(); }},
       m_effect{ports.pacer},
       m_commands{m_state, m_effect},
-      m_options{shared, m_state, m_desk, m_commands, ports.random, ports.pacer},
+      m_options{shared, m_state, m_desk, m_commands, ports.random, ports.pacer, m_observer},
       m_computer{m_state, m_aims, ports.random},
       m_sky{m_state, m_animation, ports.random, m_effect},
       m_meteors{m_sky, shared},
@@ -38,6 +39,7 @@ void Battle::Form_Activate() {
     m_shared.RoundsWon = {};
     m_shared.TotalKills = {};
     m_shared.SetOver = false;
+    m_observer.setBegins(m_shared, m_state);
     StartRound();
 }
 
@@ -52,12 +54,14 @@ void Battle::StartRound() {
     }
     ++m_state.RoundNumber;
     m_desk.show();
+    m_observer.rulesDraw();
     if (m_state.chkWind) m_options.drawWind();
     chooseFirstShooter();
     m_shared.Winner = 0;
     m_shared.SelfHit = false;
     m_shared.DirectHit = false;
     GenerateBattlefield();
+    m_observer.roundBegun(m_state);
     BeginTurn();
 }
 
@@ -123,6 +127,7 @@ void Battle::loseWithoutMen() {
 
 void Battle::ComputerTurn() {
     m_ports.pacer.Wait(1);
+    m_observer.rulesDraw();
     m_computer.takeAim(m_shared.SkillLevel);
     m_ports.pacer.yieldToEvents();
     m_ports.pacer.Wait(0.25f);
@@ -131,14 +136,17 @@ void Battle::ComputerTurn() {
 
 void Battle::waitForPlayer() {
     m_view.releaseInput();
-    m_state.phase = Phase::Waiting;
+    m_state.phase = playersPhase();
     m_options.setGameSpeed(m_shared.GameSpeed);
     m_desk.markActivity();
     m_ambientClock.startTimers();
 }
 
 void Battle::cmdShoot_Click() {
-    m_commands.give(Deed::Shoot, [this] { fire(); });
+    m_commands.give(Deed::Shoot, [this] {
+        m_observer.rulesDraw();
+        fire();
+    });
 }
 
 void Battle::fire() {
@@ -180,9 +188,10 @@ void Battle::FinishShot(ShotReport report) {
 
 void Battle::tell(const ShotReport& report) {
     m_state.report = report;
-    if (!report.wasFired()) return;
+    if (!report.wasFired()) return m_observer.turnLost(report.side);
     m_state.lastShot[report.side] = report;
     m_animation.scene().lastLanding[report.side] = markOf(m_shots.back(), m_state.field);
+    m_observer.shotDone(m_shots.back(), report, m_state);
 }
 
 void Battle::afterShot(void (Battle::*next)()) {
@@ -205,6 +214,7 @@ void Battle::EndRound() {
 
 void Battle::EndSet() {
     m_shared.SetOver = true;
+    m_observer.setEnded(m_shared);
     m_view.showCursor(BattleCursor::Hourglass);
     m_ports.pacer.Wait(1);
     m_view.showCursor(BattleCursor::Normal);
@@ -223,11 +233,11 @@ void Battle::readRules() {
 /// The player is busy with something else over the battle.
 void Battle::setAside() {
     m_ambientClock.stopTimers();
-    m_state.phase = Phase::Asking;
+    if (!m_isWatched) m_state.phase = Phase::Asking;  // and nobody is asked
 }
 
 void Battle::takeUp() {
-    m_state.phase = Phase::Waiting;
+    m_state.phase = playersPhase();
     m_desk.markActivity();
     m_ambientClock.startTimers();
 }
@@ -244,6 +254,7 @@ void Battle::leave() {
     // Quirk "saved by leaving": a set that is played to its end saves nothing.
     saveOptions(m_state, m_ports.settings);
     m_state.phase = Phase::Left;
+    m_observer.setLeft();
     m_view.holdInput();
     m_ports.pacer.yieldToEvents();
     m_view.closeBattle();

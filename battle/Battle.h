@@ -1,10 +1,12 @@
 #pragma once
 
+#include <functional>
 #include <vector>
 
 #include "base/basSkylob.h"
 #include "battle/Aims.h"
 #include "battle/AmbientClock.h"
+#include "battle/BattleObserver.h"
 #include "battle/BattleOptions.h"
 #include "battle/BattlePorts.h"
 #include "battle/BattleView.h"
@@ -50,6 +52,14 @@ class Battle {
     /// a meteor or a storm is under way.
     void readRules();
 
+    /// The set is only watched: it takes no command of the player's but leaving, and game speed;
+    /// neither a meteor nor a storm comes. To be called before the set starts.
+    void watch() { m_isWatched = true; }
+
+    /// Runs `commands` of a set that is watched: they are taken as those of the player whose turn
+    /// it is.
+    void asThePlayer(const std::function<void()>& commands) { m_commands.asThePlayer(commands); }
+
     /// The ticks of the screen's timers, which run while the panel says so.
     void timerMeteors_Timer() { m_ambientClock.timerMeteors_Timer(); }
     void timerLightning_Timer() { m_ambientClock.timerLightning_Timer(); }
@@ -85,6 +95,7 @@ class Battle {
     void BeginTurn();
     void ComputerTurn();
     void waitForPlayer();
+    Phase playersPhase() const { return m_isWatched ? Phase::Watching : Phase::Waiting; }
     void loseWithoutMen();
     void fire();
     void FireShell();
@@ -101,6 +112,8 @@ class Battle {
     basSkylob& m_shared;
     BattlePorts m_ports;
     BattleView& m_view;
+    BattleObserver m_nobody;  ///< where nobody wants to be told
+    BattleObserver& m_observer;
     BattleState m_state;
     FieldPicture m_picture;
     FieldAnimation m_animation;
@@ -116,7 +129,7 @@ class Battle {
     LightningStorm m_storm;
     AmbientClock m_ambientClock;
     std::vector<Shot> m_shots;
-    bool m_activated = false;
+    bool m_activated = false, m_isWatched = false;
 };
 
 }  // namespace skylob

@@ -9,13 +9,15 @@ constexpr int kStrongestWind = 39, kTooWeak = 5;
 }
 
 BattleOptions::BattleOptions(basSkylob& shared, BattleState& state, ControlDesk& desk,
-                             Commands& commands, RandomSource& random, Pacer& pacer)
+                             Commands& commands, RandomSource& random, Pacer& pacer,
+                             BattleObserver& observer)
     : m_shared{shared},
       m_state{state},
       m_desk{desk},
       m_commands{commands},
       m_random{random},
-      m_pacer{pacer} {
+      m_pacer{pacer},
+      m_observer{observer} {
 }
 
 void BattleOptions::setGameSpeed(int value) {
@@ -30,6 +32,7 @@ void BattleOptions::chkSound_Click(bool ticked) {
     carryOut(Deed::ChangeOption, [this, ticked] {
         m_state.SoundOn = ticked;
         m_desk.changed();
+        tellOf(Box::Sound);
     });
 }
 
@@ -37,6 +40,7 @@ void BattleOptions::chkTrajectory_Click(bool ticked) {
     carryOut(Deed::ChangeOption, [this, ticked] {
         m_state.ShowTrajectory = ticked;
         m_desk.changed();
+        tellOf(Box::Trajectory);
     });
 }
 
@@ -47,6 +51,7 @@ void BattleOptions::chkMeteors_Click(bool ticked) {
         // is clicked.
         m_state.timerMeteors = m_state.chkLightning;
         m_desk.changed();
+        tellOf(Box::Meteors);
         m_pacer.yieldToEvents();
     });
 }
@@ -56,6 +61,7 @@ void BattleOptions::chkLightning_Click(bool ticked) {
         m_state.chkLightning = ticked;
         m_state.timerLightning = ticked;
         m_desk.changed();
+        tellOf(Box::Lightning);
         m_pacer.yieldToEvents();
     });
 }
@@ -63,9 +69,13 @@ void BattleOptions::chkLightning_Click(bool ticked) {
 void BattleOptions::chkWind_Click(bool ticked) {
     carryOut(Deed::ChangeOption, [this, ticked] {
         m_state.chkWind = ticked;
-        if (ticked) return drawWind();
-        m_state.Wind = 0;
-        m_desk.changed();
+        if (ticked) {
+            drawWind();
+        } else {
+            m_state.Wind = 0;
+            m_desk.changed();
+        }
+        tellOf(Box::Wind);
     });
 }
 
@@ -77,7 +87,15 @@ void BattleOptions::drawWind() {
 }
 
 void BattleOptions::carryOut(Deed deed, std::function<void()> change) {
-    if (!m_commands.give(deed, std::move(change))) m_desk.showAgain();
+    const auto watched = [this, change = std::move(change)] {
+        m_observer.rulesDraw();
+        change();
+    };
+    if (!m_commands.give(deed, watched)) m_desk.showAgain();
+}
+
+void BattleOptions::tellOf(Box box) {
+    m_observer.boxClicked(box, m_state);
 }
 
 }  // namespace skylob

@@ -2,6 +2,7 @@
 
 #include "base/Pacer.h"
 #include "base/RandomInt.h"
+#include "battle/BattleObserver.h"
 #include "battle/Commands.h"
 #include "battle/ControlDesk.h"
 
@@ -14,7 +15,7 @@ class BattleOptions {
   public:
     /// All of these must outlive the options.
     BattleOptions(basSkylob& shared, BattleState& state, ControlDesk& desk, Commands& commands,
-                  RandomSource& random, Pacer& pacer);
+                  RandomSource& random, Pacer& pacer, BattleObserver& observer);
 
     /// Sets basSkylob::GameSpeed. A value outside kGameSpeedRange is brought to the nearer end;
     /// one at which the bar stands already is no change.
@@ -32,6 +33,7 @@ class BattleOptions {
 
   private:
     void carryOut(Deed deed, std::function<void()> change);
+    void tellOf(Box box);
 
     basSkylob& m_shared;
     BattleState& m_state;
@@ -39,6 +41,7 @@ class BattleOptions {
     Commands& m_commands;
     RandomSource& m_random;
     Pacer& m_pacer;
+    BattleObserver& m_observer;
 };
 
 }  // namespace skylob

@@ -94,6 +94,7 @@ BattlePanel panelOf(const BattleState& state, const basSkylob& shared) {
     panel.chkWindCaption = windCaption(state.Wind);
     panel.windInWords = windInWords(state.Wind);
     panel.commandsEnabled = isUsable(Deed::ChangeOption, state);
+    panel.isWatched = state.phase == Phase::Watching;
     panel.timerMeteors = state.timerMeteors;
     panel.timerLightning = state.timerLightning;
     return panel;

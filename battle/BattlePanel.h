@@ -38,6 +38,9 @@ struct BattlePanel {
     /// cmdShoot, cmdQuit, the game speed bar and the five boxes are usable.
     bool commandsEnabled = false;
 
+    /// The set is only watched: of these, cmdQuit and the game speed bar are usable.
+    bool isWatched = false;
+
     /// Whether the timers of meteors and lightning run.
     bool timerMeteors = false, timerLightning = false;
 

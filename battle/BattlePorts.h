@@ -6,6 +6,7 @@
 #include "base/RandomInt.h"
 #include "base/SettingsStore.h"
 #include "base/SoundPlayer.h"
+#include "battle/BattleObserver.h"
 
 namespace skylob {
 
@@ -17,6 +18,7 @@ struct BattlePorts {
     SoundPlayer& sounds;
     MessageBoxes& boxes;
     SettingsStore& settings;
+    BattleObserver* observer = nullptr;  ///< who wants to be told of it, if anybody
 };
 
 }  // namespace skylob

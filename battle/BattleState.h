@@ -17,6 +17,9 @@ struct Aim {
     int angle = kAngleRange.minimum;  ///< degrees, 10 (flat) to 90 (straight up)
 };
 
+/// The boxes that a player can tick.
+enum class Box { Sound, Trajectory, Meteors, Lightning, Wind };
+
 /// What the players were told when the last turn began. It stays on the screen until the next one:
 /// a round can end with fewer men than it says.
 struct TurnNotice {

@@ -17,7 +17,7 @@ class Commands {
     /// Carries `command` out now, or when the effect under way has ended if it is still wanted
     /// then. False when it is refused.
     bool give(Deed deed, std::function<void()> command) {
-        const Verdict verdict = verdictOn(deed, m_state.phase, m_effect.isUnderWay());
+        const Verdict verdict = verdictOn(deed, phase(), m_effect.isUnderWay());
         if (verdict == Verdict::No) return false;
         if (verdict == Verdict::Now)
             command();
@@ -28,9 +28,21 @@ class Commands {
         return true;
     }
 
+    /// Runs `commands`, which are given in place of the player of a set that is only watched.
+    void asThePlayer(const std::function<void()>& commands) {
+        m_isInPlace = true;
+        commands();
+        m_isInPlace = false;
+    }
+
   private:
+    Phase phase() const {
+        return m_isInPlace && m_state.phase == Phase::Watching ? Phase::Waiting : m_state.phase;
+    }
+
     const BattleState& m_state;
     AmbientEffect& m_effect;
+    bool m_isInPlace = false;
 };
 
 }  // namespace skylob

@@ -12,11 +12,13 @@ void HeadlessView::runQueue() {
     }
 }
 
-HeadlessBattle::HeadlessBattle(basSkylob shared, std::uint64_t seed, MemorySettings settings)
+HeadlessBattle::HeadlessBattle(basSkylob shared, std::uint64_t seed, MemorySettings settings,
+                               BattleObserver* observer)
     : m_shared{std::move(shared)},
       m_random{seed},
       m_settings{std::move(settings)},
-      m_battle{m_shared, {m_random, m_clock, m_pacer, m_sounds, m_boxes, m_settings}, m_view} {
+      m_battle{
+          m_shared, {m_random, m_clock, m_pacer, m_sounds, m_boxes, m_settings, observer}, m_view} {
     m_battle.Form_Activate();
     m_view.runQueue();
 }

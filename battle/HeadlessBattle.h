@@ -42,8 +42,10 @@ class HeadlessBattle {
   public:
     /// Starts a set of shared.NumRounds rounds between shared.PlayerName[1] and [2]. The same
     /// seed and the same shots make the same set. `settings` may bring options for the start,
-    /// such as "WindSetting".
-    HeadlessBattle(basSkylob shared, std::uint64_t seed, MemorySettings settings = {});
+    /// such as "WindSetting"; the
+    /// observer, if any, must outlive the set.
+    HeadlessBattle(basSkylob shared, std::uint64_t seed, MemorySettings settings = {},
+                   BattleObserver* observer = nullptr);
 
     /// True when the last round has been played.
     bool isOver() const { return m_shared.SetOver; }

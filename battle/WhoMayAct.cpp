@@ -8,12 +8,13 @@ bool isAllowed(Deed deed, Phase phase) {
     const bool isPlayersTurn = phase == Phase::Waiting || phase == Phase::Asking;
     switch (deed) {
         case Deed::Aim:
-            return phase != Phase::Setup && phase != Phase::Shot;
+            return phase != Phase::Setup && phase != Phase::Shot && phase != Phase::Watching;
         case Deed::ChangeOption:
         case Deed::ClickEffectBox:
             return isPlayersTurn;
-        case Deed::Shoot:
         case Deed::Quit:
+            return phase == Phase::Waiting || phase == Phase::Watching;
+        case Deed::Shoot:
         case Deed::BeginEffect:
         case Deed::ReadRules:
             break;

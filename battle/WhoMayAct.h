@@ -4,12 +4,13 @@ namespace skylob {
 
 /// How far the battle has come, as far as it concerns who may do what.
 enum class Phase {
-    Setup,    ///< before the first turn
-    Turn,     ///< a turn has begun; the computer aims, or a side without men is told so
-    Waiting,  ///< for the player whose turn it is
-    Asking,   ///< that player is being asked whether and how to leave
-    Shot,     ///< from the firing of a shell to the beginning of the next turn
-    Left,     ///< the player has left the set
+    Setup,     ///< before the first turn
+    Turn,      ///< a turn has begun; the computer aims, or a side without men is told so
+    Waiting,   ///< for the player whose turn it is
+    Watching,  ///< a set that is only watched, for its next command
+    Asking,    ///< that player is being asked whether and how to leave
+    Shot,      ///< from the firing of a shell to the beginning of the next turn
+    Left,      ///< the player has left the set
 };
 
 /// What can be wanted of a battle.

@@ -55,7 +55,7 @@ QWidget& shown(QWidget& window) {
 
 void visitTitle(Tour& tour) {
     World world;
-    frmTitlePage title{world.ports, world.clock, world.sounds, world.links, world.boxes};
+    frmTitlePage title{world.ports, world.clock, world.sounds, world.links, world.boxes, 100};
     tour.visit(shown(title), QStringLiteral("title"));
     frmNewUser welcome{world.ports, world.texts.text(kOverviewText)};
     tour.visit(shown(welcome), QStringLiteral("welcome"));

@@ -11,6 +11,7 @@
 #include "base/Volume.h"
 #include "battle/qt/QtMenGauge.h"
 #include "battle/qt/frmPlayGame.h"
+#include "battle/record/RecordFile.h"
 #include "controls/qt/GlintButtonAccessible.h"
 #include "manual/qt/frmManual.h"
 #include "platform/qt/QtMotionPortal.h"
@@ -97,6 +98,12 @@ Application::Application(int& argc, char** argv, const CommandLine& commandLine,
 
 Application::~Application() {
     delete m_manual;
+}
+
+void Application::record(RecordFile& file) {
+    m_recorder = std::make_unique<BattleRecorder>(
+        m_random,
+        [&file](const std::string& text, bool startsSet) { file.write(text, startsSet); });
 }
 
 int Application::run() {
@@ -208,7 +215,9 @@ void Application::showBattle() {
     constexpr auto kMemory = PlaceMemory::OnAnyDisplay;
     const QSize room = roomForScreen(QStringLiteral("frmPlayGame"), m_windows, m_screen, kMemory);
     m_battle = new frmPlayGame{
-        m_screenPorts, {m_random, m_clock, m_pacer, m_sounds, m_boxes, m_settings}, room};
+        m_screenPorts,
+        {m_random, m_clock, m_pacer, m_sounds, m_boxes, m_settings, m_recorder.get()},
+        room};
     on(m_battle.get(), &frmPlayGame::roundDecided, Event::RoundDecided);
     on(m_battle.get(), &frmPlayGame::rulesWanted, Event::RulesWanted);
     on(m_battle.get(), &frmPlayGame::setDecided, Event::SetDecided);

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QPointer>
+#include <memory>
 
 #include "app/CommandLine.h"
 #include "app/PlainStart.h"
@@ -11,6 +12,7 @@
 #include "base/StringTable.h"
 #include "base/SummaryKind.h"
 #include "base/basSkylob.h"
+#include "battle/record/BattleRecorder.h"
 #include "look/qt/QtShapes.h"
 #include "platform/DiskFiles.h"
 #include "platform/SystemClock.h"
@@ -29,6 +31,7 @@ namespace skylob {
 
 class frmManual;
 class frmPlayGame;
+class RecordFile;
 
 /// The running program: owns what all screens share, and decides which screen follows which.
 class Application : public QApplication {
@@ -39,6 +42,10 @@ class Application : public QApplication {
     /// object.
     Application(int& argc, char** argv, const CommandLine& commandLine, WindowStore& windows);
     ~Application() override;
+
+    /// Has every set written down from now on; `file` must outlive the object. To be called before
+    /// run().
+    void record(RecordFile& file);
 
     /// Shows the first screen and serves events until the last one has gone. Returns the exit
     /// status.
@@ -105,6 +112,7 @@ class Application : public QApplication {
     QPointer<QtScreen> m_screen;  ///< title page, player list or battle; it may have just left
     QPointer<frmPlayGame> m_battle;
     QPointer<frmManual> m_manual;
+    std::unique_ptr<BattleRecorder> m_recorder;  ///< null where nobody wants it
 };
 
 }  // namespace skylob

@@ -3,6 +3,7 @@
 #include <QCommandLineParser>
 #include <algorithm>
 #include <charconv>
+#include <optional>
 
 #include "base/Scale.h"
 
@@ -30,6 +31,8 @@ constexpr Option kOptions[]{
     {"scale", 0, "PERCENT", nullptr,
      "how large everything is, 100 to 200\n(\"Size\" on the title page keeps it)"},
     {"seed", 0, "N", nullptr, "repeatable chance: the same seed, the same battlefields"},
+    {"record", 0, "FILE", nullptr, "write each set down in FILE, in place of the one before"},
+    {"replay", 0, "FILE", nullptr, "show the set that is written down in FILE, and leave"},
     {"help", 'h', nullptr, nullptr, "print this text"},
     {"version", 'v', nullptr, nullptr, "print the version"},
 };
@@ -111,6 +114,11 @@ bool readScale(const QCommandLineParser& parser, CommandLine& result) {
     return result.scale.has_value();
 }
 
+std::optional<std::string> fileName(const QCommandLineParser& parser, const QString& option) {
+    if (!parser.isSet(option)) return std::nullopt;
+    return parser.value(option).toStdString();
+}
+
 CommandLine readOptions(const QCommandLineParser& parser) {
     CommandLine result;
     for (const Option& option : kOptions)
@@ -124,6 +132,12 @@ CommandLine readOptions(const QCommandLineParser& parser) {
     if (result.dataDir && result.dataDir->empty()) return refused("--data-dir needs a folder");
     if (result.userData && result.dataDir)
         return refused("--data-dir and --user-data exclude each other");
+    result.record = fileName(parser, QStringLiteral("record"));
+    result.replay = fileName(parser, QStringLiteral("replay"));
+    if ((result.record && result.record->empty()) || (result.replay && result.replay->empty()))
+        return refused("--record and --replay need a file");
+    if (result.replay && (result.record || result.seed || result.dataDir || result.userData))
+        return refused("--replay goes with no other option than --plain");
     return result;
 }
 

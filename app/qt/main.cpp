@@ -14,7 +14,9 @@
 #include "app/StartScale.h"
 #include "app/qt/Application.h"
 #include "app/qt/QtCommandLine.h"
+#include "app/qt/ReplayProgram.h"
 #include "base/Release.h"
+#include "battle/record/RecordFile.h"
 #include "platform/qt/QtPictureTransport.h"
 #include "platform/qt/QtScaleFactor.h"
 #include "platform/qt/QtWindowStore.h"
@@ -58,12 +60,55 @@ bool hasDisplay() {
     return false;
 }
 
+int refuse(const char* what, const std::string& file, const skylob::RecordError& why) {
+    std::fprintf(stderr, "skylob: cannot %s '%s': %s\n", what, file.c_str(), why.what());
+    return kUnusableArguments;
+}
+
 /// While the toolkit starts: what it has to say is worth a line only when it gives up, and then
 /// one line is enough.
 void endWhereThereIsNoDisplay(QtMsgType type, const QMessageLogContext&, const QString&) {
     if (type != QtFatalMsg) return;
     std::fputs("skylob: the display cannot be used\n", stderr);
     std::_Exit(EXIT_FAILURE);
+}
+
+/// Both return the exit status.
+int play(char** argv, const skylob::CommandLine& commandLine) {
+    std::optional<skylob::RecordFile> recording;
+    try {
+        if (commandLine.record) recording.emplace(*commandLine.record);
+    } catch (const skylob::RecordError& why) {
+        return refuse("record", *commandLine.record, why);
+    }
+    if (!enterDataFolder(commandLine)) return kUnusableArguments;
+    if (!hasDisplay()) return EXIT_FAILURE;
+    skylob::sendPicturesInline();
+    int toolkitArguments = 1;  // the arguments are ours alone
+    skylob::QtWindowStore windows;
+    std::optional<skylob::QtScaleFactor> scale{skylob::startScale(commandLine, windows)};
+    const auto usualHandler = qInstallMessageHandler(endWhereThereIsNoDisplay);
+    skylob::Application application{toolkitArguments, argv, commandLine, windows};
+    qInstallMessageHandler(usualHandler);
+    scale.reset();
+    if (recording) application.record(*recording);
+    return application.run();
+}
+
+int replay(char** argv, const skylob::CommandLine& commandLine) try {
+    const skylob::BattleRecord record = skylob::readRecordFile(*commandLine.replay);
+    if (!hasDisplay()) return EXIT_FAILURE;
+    skylob::sendPicturesInline();
+    int toolkitArguments = 1;
+    skylob::QtWindowStore windows;
+    std::optional<skylob::QtScaleFactor> scale{skylob::startScale(commandLine, windows)};
+    const auto usualHandler = qInstallMessageHandler(endWhereThereIsNoDisplay);
+    skylob::ReplayProgram program{toolkitArguments, argv, commandLine, record};
+    qInstallMessageHandler(usualHandler);
+    scale.reset();
+    return program.run();
+} catch (const skylob::RecordError& why) {
+    return refuse("replay", *commandLine.replay, why);
 }
 
 }  // namespace
@@ -84,15 +129,5 @@ int main(int argc, char** argv) {
         case Request::Play:
             break;
     }
-    if (!enterDataFolder(commandLine)) return kUnusableArguments;
-    if (!hasDisplay()) return EXIT_FAILURE;
-    skylob::sendPicturesInline();
-    int toolkitArguments = 1;  // the arguments are ours alone
-    skylob::QtWindowStore windows;
-    std::optional<skylob::QtScaleFactor> scale{skylob::startScale(commandLine, windows)};
-    const auto usualHandler = qInstallMessageHandler(endWhereThereIsNoDisplay);
-    skylob::Application application{toolkitArguments, argv, commandLine, windows};
-    qInstallMessageHandler(usualHandler);
-    scale.reset();
-    return application.run();
+    return commandLine.replay ? replay(argv, commandLine) : play(argv, commandLine);
 }

@@ -3,7 +3,6 @@
 #include <QCheckBox>
 #include <QScrollBar>
 #include <QShortcut>
-#include <functional>
 #include <utility>
 
 #include "battle/Battle.h"
@@ -13,7 +12,8 @@
 
 namespace skylob {
 
-void addBattleKeys(QWidget& screen, Battle& battle, const QtBattleControls& controls) {
+void addBattleKeys(QWidget& screen, Battle& battle, const QtBattleControls& controls,
+                   std::function<void()> quit) {
     const auto onKey = [&screen](const QKeySequence& key, std::function<void()> action) {
         auto* shortcut = new QShortcut{key, &screen};
         shortcut->setAutoRepeat(false);  // a key that is held is pressed once
@@ -23,7 +23,7 @@ void addBattleKeys(QWidget& screen, Battle& battle, const QtBattleControls& cont
         return side[battle.state().Shooter];
     };
     const auto* const strip = controls.strip;
-    onKey(Qt::Key_Escape, [&battle] { battle.cmdQuit_Click(); });
+    onKey(Qt::Key_Escape, std::move(quit));
     onKey(Qt::Key_F1, [&battle] { battle.readRules(); });
     onKey(Qt::Key_F11,
           [&screen] { screen.setWindowState(screen.windowState() ^ Qt::WindowFullScreen); });

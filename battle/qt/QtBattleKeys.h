@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "base/PerSide.h"
 
 class QWidget;
@@ -18,8 +20,10 @@ struct QtBattleControls {
     QtOptionStrip* strip;
 };
 
-/// Gives the screen the keys that no caption tells. Battle and controls must live as long as it.
-void addBattleKeys(QWidget& screen, Battle& battle, const QtBattleControls& controls);
+/// Gives the screen the keys that no caption tells; `quit` is what Escape does. Battle and controls
+/// must live as long as it.
+void addBattleKeys(QWidget& screen, Battle& battle, const QtBattleControls& controls,
+                   std::function<void()> quit);
 
 /// The way that Tab takes: the sides, the commands, the options.
 void orderTabs(const QtBattleControls& controls);

@@ -104,8 +104,9 @@ void QtOptionStrip::showPanel(const BattlePanel& panel) {
     chkWind->setChecked(panel.chkWind);
     setSpokenName(*chkWind, QString::fromStdString(panel.windInWords));
     chkWind->setText(QString::fromStdString(panel.chkWindCaption));
-    labelGameSpeed->setEnabled(panel.commandsEnabled);
     for (QWidget* control : controls()) control->setEnabled(panel.commandsEnabled);
+    scrollGameSpeed->setEnabled(panel.commandsEnabled || panel.isWatched);
+    labelGameSpeed->setEnabled(scrollGameSpeed->isEnabled());
 }
 
 QList<QWidget*> QtOptionStrip::controls() const {

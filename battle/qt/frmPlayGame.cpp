@@ -18,6 +18,7 @@
 #include "battle/qt/QtEffectTimers.h"
 #include "battle/qt/QtHints.h"
 #include "battle/qt/QtOptionStrip.h"
+#include "battle/qt/QtReplayHand.h"
 #include "battle/qt/QtReportLabel.h"
 #include "battle/qt/QtSidePanel.h"
 #include "battle/qt/QtStormHold.h"
@@ -60,7 +61,7 @@ frmPlayGame::frmPlayGame(const QtScreenPorts& screen, const BattlePorts& ports, 
     m_layer.setMotion(m_shared.motion);
     connectControls();
     const QtBattleControls controls{m_side, cmdShoot, cmdQuit, m_strip};
-    addBattleKeys(*this, m_battle, controls);
+    addBattleKeys(*this, m_battle, controls, [this] { quit(); });
     orderTabs(controls);
     place(m_layout);
     frmPlayGame::showPanel(m_battle.panel());
@@ -128,9 +129,23 @@ void frmPlayGame::connectControls() {
         m_field->showChanges();
     });
     connect(cmdShoot, &GlintButton::Click, this, [this] { m_battle.cmdShoot_Click(); });
-    connect(cmdQuit, &GlintButton::Click, this, [this] { m_battle.cmdQuit_Click(); });
+    connect(cmdQuit, &GlintButton::Click, this, [this] { quit(); });
     connect(m_field, &picGameField::pieceClicked, this, [this] { m_battle.FieldPiece_Click(); });
     connect(m_timers, &QtEffectTimers::ticked, this, &frmPlayGame::fitField);
+}
+
+void frmPlayGame::watch(BattleReplay& replay) {
+    m_battle.watch();
+    m_replayHand = new QtReplayHand{m_battle, replay, this};
+    connect(m_replayHand, &QtReplayHand::ended, this, &frmPlayGame::replayEnded);
+    setWindowTitle(windowTitle() + tr(" (replay)"));
+}
+
+void frmPlayGame::quit() {
+    if (m_replayHand)
+        m_replayHand->leaveSoon();
+    else
+        m_battle.cmdQuit_Click();
 }
 
 void frmPlayGame::Form_Activate() {
@@ -173,7 +188,7 @@ QList<QRect> frmPlayGame::toBeSeen() const {
 }
 
 void frmPlayGame::askedToClose() {
-    m_battle.cmdQuit_Click();
+    quit();
 }
 
 void frmPlayGame::showField() {
@@ -181,10 +196,17 @@ void frmPlayGame::showField() {
     m_field->showChanges();
 }
 
+/// The computer's bars, too, are nobody's in a set that is watched: input is not held meanwhile.
+SidePanel frmPlayGame::shown(const SidePanel& side) const {
+    SidePanel shown = side;
+    if (m_replayHand) shown.enabled = false;
+    return shown;
+}
+
 void frmPlayGame::showPanel(const BattlePanel& panel) {
     if (cmdShoot->isEnabled() && !panel.commandsEnabled) dropFocusOfCommands();
     for (const int side : kSides) {
-        m_side[side]->showPanel(panel.side[side], panel.turn == side);
+        m_side[side]->showPanel(shown(panel.side[side]), panel.turn == side);
         if (m_layout.oneFrameAtATime)
             m_side[side]->setVisible(side == std::max(panel.turn, kLeftSide));
     }
@@ -197,7 +219,7 @@ void frmPlayGame::showPanel(const BattlePanel& panel) {
     m_timers->follow();
     fitField();
     m_field->showChanges();  // a barrel points another way, or it is the other side's turn
-    if (!m_gate->isClosed()) return;
+    if (!m_gate->isClosed() && !m_replayHand) return;
     bringIntoView(m_field);
     // While the thread is blocked nothing else would bring the changes to the display.
     QCoreApplication::sendPostedEvents(this, QEvent::UpdateRequest);
@@ -221,7 +243,8 @@ void frmPlayGame::showReportRow(const BattlePanel& panel) {
 
 void frmPlayGame::showCommands(const BattlePanel& panel) {
     const bool wereEnabled = cmdShoot->isEnabled();
-    for (GlintButton* button : {cmdShoot, cmdQuit}) enable(*button, panel.commandsEnabled);
+    enable(*cmdShoot, panel.commandsEnabled);
+    enable(*cmdQuit, panel.commandsEnabled || panel.isWatched);
     if (!wereEnabled && panel.commandsEnabled) moveFocusToTurn(panel.turn);
     showHints(panel);
 }
@@ -248,12 +271,13 @@ void frmPlayGame::showCursor(BattleCursor cursor) {
         unsetCursor();
 }
 
+/// What somebody who only watches wants, to leave, is to be heard after the shot.
 void frmPlayGame::holdInput() {
-    m_gate->close();
+    if (!m_replayHand) m_gate->close();
 }
 
 void frmPlayGame::releaseInput() {
-    m_gate->dropInputAndOpen();
+    if (!m_replayHand) m_gate->dropInputAndOpen();
 }
 
 void frmPlayGame::showStorm() {

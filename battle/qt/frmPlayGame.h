@@ -13,11 +13,13 @@ class QLabel;
 
 namespace skylob {
 
+class BattleReplay;
 class GlintButton;
 class QtEffectTimers;
 class QtHints;
 class QtInputGate;
 class QtOptionStrip;
+class QtReplayHand;
 class QtReportLabel;
 class QtSidePanel;
 class QtStormHold;
@@ -38,6 +40,10 @@ class frmPlayGame : public QtScreen, private BattleView {
 
     const Battle& battle() const { return m_battle; }
 
+    /// The set is only watched, and `replay`, which must outlive the screen, plays it. To be called
+    /// before the screen is shown.
+    void watch(BattleReplay& replay);
+
     /// Where on the desktop the pieces and the last landing of the round are.
     QList<QRect> toBeSeen() const;
 
@@ -48,6 +54,10 @@ class frmPlayGame : public QtScreen, private BattleView {
 
     /// The receiver is to show the rules of the game, and to return when they have been read.
     void rulesWanted();
+
+    /// A set that is watched ends before its recorded end, or was left here. The receiver is to say
+    /// so, and to return when that has been read; then the battle closes.
+    void replayEnded();
 
     /// How loud sounds are to be from now on, in percent.
     void volumeChosen(int percent);
@@ -78,6 +88,8 @@ class frmPlayGame : public QtScreen, private BattleView {
     void showRules() override;
     void closeBattle() override;
 
+    void quit();
+    SidePanel shown(const SidePanel& side) const;
     void makeSidePanels();
     void makeReportRow();
     void showReportRow(const BattlePanel& panel);
@@ -107,6 +119,7 @@ class frmPlayGame : public QtScreen, private BattleView {
     int m_displayWidth = 0;                    ///< that the field was drawn for
     bool m_focusStaysOnShoot = false;
     QtHints* m_hints = nullptr;
+    QtReplayHand* m_replayHand = nullptr;  ///< of a set that is watched
 };
 
 }  // namespace skylob

@@ -14,13 +14,12 @@ TEST(WhoMayAct, IsOneTable) {
          {Deed::Aim, Shoot, Quit, ChangeOption, ClickEffectBox, BeginEffect, ReadRules})
         for (const bool effect : {false, true}) {
             verdicts += effect ? '/' : ' ';
-            for (const Phase phase : {Setup, Turn, Waiting, Asking, Shot, Left})
+            for (const Phase phase : {Setup, Turn, Waiting, Watching, Asking, Shot, Left})
                 verdicts += "-nl"[static_cast<int>(verdictOn(deed, phase, effect))];
         }
-    EXPECT_EQ(
-        verdicts,
-        " -nnn-n/-nnn-n --n---/--l--- --n---/--l--- --nn--/--nn-- --nn--/--ll-- --n---/------ "
-        "--n---/------");
+    EXPECT_EQ(verdicts,
+              " -nn-n-n/-nn-n-n --n----/--l---- --nn---/--ll--- --n-n--/--n-n-- --n-n--/--l-l-- "
+              "--n----/------- --n----/-------");
     // A shot may have ended the turn by the time that those behind it come.
     EXPECT_TRUE(isStillWanted(Quit, Waiting));
     EXPECT_TRUE(isStillWanted(ClickEffectBox, Shot));

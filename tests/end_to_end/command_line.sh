@@ -38,6 +38,15 @@ for option in --help --version; do
     ((status == 1)) && [[ $(wc -l <err) == 1 ]] || fail "status $status with a full disk: $(<err)"
 done
 
+# Recordings: neither is anything else replayed, nor another file overwritten.
+printf 'skylob battle 1\nseed 1\n' >cut
+for file in nowhere . file cut /dev/full; do expect 2 --replay $file; done
+echo mine >precious
+expect 2 --record precious
+grep -qx mine precious || fail "--record overwrites: $(<precious)"
+expect 2 --record nowhere/set
+expect 1 --record set # nothing to play on, but it could be written
+
 holds_lock() { ls -l "/proc/$game/fd" | grep -q Skylob.lock; }
 
 # The standard descriptors that are closed are not taken by other files.

@@ -22,11 +22,10 @@ inline QString spoken(QAccessibleInterface* of, int depth = 0) {
         };
         add(" = ", of->text(QAccessible::Value), "");
         add(" [", of->text(QAccessible::Accelerator), "]");
-        for (const auto& [isSo, state] : {std::pair{bool{is.disabled}, " disabled"},
-                                          {bool{is.checked}, " checked"},
-                                          {bool{is.selected}, " selected"},
-                                          {bool{is.focused}, " focused"}})
-            if (isSo) text += state;
+        if (is.disabled) text += " disabled";
+        if (is.checked) text += " checked";
+        if (is.selected) text += " selected";
+        if (is.focused) text += " focused";
         add(" (", of->text(QAccessible::Description), ")");
         text += '\n';
         ++depth;

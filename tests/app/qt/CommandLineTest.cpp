@@ -25,6 +25,8 @@ class CommandLineTest : public QObject {
         QVERIFY(parse({"--user-data"}).userData);
         QVERIFY(!parse({}).userData);
         QVERIFY(parse({"--plain", "--seed=5"}).plain);
+        QCOMPARE(parse({"--record=a b", "--seed=5"}).record, "a b");
+        QCOMPARE(parse({"--plain", "--replay", "-"}).replay, "-");
         QVERIFY(!parse({}).plain);
         QVERIFY(parse({"--reduced-motion"}).reducedMotion);
         for (const int scale : {100, 137, 200})
@@ -35,7 +37,9 @@ class CommandLineTest : public QObject {
              {parse({"--seed"}), parse({"--seed", "-1"}), parse({"--seed", "1x"}),
               parse({"--seed="}), parse({"--data-dir", ""}), parse({"--fast"}), parse({"-seed=1"}),
               parse({"--help=x"}), parse({"--help", "--fast"}), parse({"file"}), parse({""}),
-              parse({"--", "-\n"}), parse({"--user-data", "--data-dir", "x"}), parse({"\xff"})}) {
+              parse({"--", "-\n"}), parse({"--user-data", "--data-dir", "x"}), parse({"--record="}),
+              parse({"--replay=x", "--seed=1"}), parse({"--replay=x", "--record=y"}),
+              parse({"\xff"})}) {
             QCOMPARE(refused.request, Request::Refused);
             QVERIFY(!refused.error.empty() && refused.error.find('\n') == std::string::npos);
         }

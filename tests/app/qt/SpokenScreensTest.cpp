@@ -50,7 +50,7 @@ class SpokenScreensTest : public QObject {
 
     void tellsTitleAndWelcome() {
         World of;
-        compare("title", frmTitlePage{of.ports, of.clock, of.sounds, of.links, of.boxes});
+        compare("title", frmTitlePage{of.ports, of.clock, of.sounds, of.links, of.boxes, 100});
         compare("welcome", frmNewUser{of.ports, "A game."});
     }
 
