@@ -96,7 +96,7 @@ TEST(StormShow, LightsTheSkyBehindTheGunsAndDarkensNothing) {
         return 0.299 * (pixel >> 16 & 0xFF) + 0.587 * (pixel >> 8 & 0xFF) + 0.114 * (pixel & 0xFF);
     };
     int lit = 0, darker = 0, onGuns = 0, onPieces = 0;
-    for (int pictures = 0; pictures < 60; ++pictures) {
+    for (int pictures = 0; pictures < 150; ++pictures) {
         show.advance(layer);
         for (const auto& [area, pixel] : show.lights())
             for (int i = 0; i < area.width * area.height; ++i, ++lit) {
