@@ -159,9 +159,7 @@ void FieldPicture::refresh() {
     m_screen = m_persistent;
     m_passing.clear();
     for (const int side : kSides) {
-        const auto& [image, area] = m_pieces[side];
-        const PixelRect seen = clipped({area.x, area.y, std::min(area.width, image.width),
-                                        std::min(area.height, image.height)});
+        const PixelRect seen = clipped(m_pieces[side].seen());
         for (int py = seen.y; py < seen.y + seen.height; ++py) {
             for (int px = seen.x; px < seen.x + seen.width; ++px) {
                 auto& pixel = m_screen[index(px, py)];
@@ -172,6 +170,11 @@ void FieldPicture::refresh() {
     markDirty({0, 0, m_width, m_height});
 }
 
+/// Where its image is; nowhere while it is hidden.
+PixelRect FieldPicture::Piece::seen() const {
+    return {area.x, area.y, std::min(area.width, image.width), std::min(area.height, image.height)};
+}
+
 /// The image's pixel that is seen there.
 std::uint32_t FieldPicture::Piece::pixel(int px, int py) const {
     return image
@@ -180,8 +183,7 @@ std::uint32_t FieldPicture::Piece::pixel(int px, int py) const {
 }
 
 bool FieldPicture::showsPiece(int side, int px, int py) const {
-    const auto& [image, area] = m_pieces[side];
-    if (px - area.x >= image.width || py - area.y >= image.height) return false;
+    if (common({px, py, 1, 1}, m_pieces[side].seen()).isEmpty()) return false;
     const std::uint32_t over = m_pieces[side].pixel(px, py);
     return over >> 24 != 0 && m_screen[index(px, py)] == blend(m_persistent[index(px, py)], over);
 }

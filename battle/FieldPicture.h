@@ -103,9 +103,9 @@ class FieldPicture {
     PixelRect pieceArea(int side) const;
     const PieceImage& pieceImage(int side) const { return m_pieces[side].image; }
 
-    /// Whether the screen picture shows a side's piece at that device pixel, which must lie in
-    /// pieceArea() and in the picture: its image is not transparent there, and nothing has been
-    /// drawn upon it since the last refresh().
+    /// Whether the screen picture shows a side's piece at that device pixel of it: the piece's
+    /// image is there and not transparent, and nothing has been drawn upon it since the last
+    /// refresh().
     bool showsPiece(int side, int px, int py) const;
 
     /// Rebuilds the screen picture: the persistent picture, then the pieces.
@@ -136,6 +136,7 @@ class FieldPicture {
         PieceImage image;
         PixelRect area;
 
+        PixelRect seen() const;
         std::uint32_t pixel(int px, int py) const;
     };
 
