@@ -66,8 +66,9 @@ class Pages {
     }
 
     void addParagraph(std::string_view paragraph) {
-        if (m_hasText && y(m_row) > kLastParagraph - kRoundingError) begin();
+        // Empty lines begin no page: none would follow where the text ends with them.
         if (paragraph.empty() && (m_hasText || m_pages.size() == 1)) ++m_row;
+        if (!paragraph.empty() && m_hasText && y(m_row) > kLastParagraph - kRoundingError) begin();
         while (!paragraph.empty()) addLine(takeLine(paragraph, m_measures));
     }
 

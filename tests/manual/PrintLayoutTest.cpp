@@ -62,6 +62,7 @@ TEST(PrintLayout, EndsPagesBetween8And8Point8Inches) {
         EXPECT_EQ(pages[1].at(1).text, "(page 2)") << text;
         EXPECT_NEAR(pages[1].at(2).y, 1.4, 1e-9) << text;
     }
+    EXPECT_EQ(pagesOf(repeated(33, "x\n") + "\n").size(), 1U);  // no blank page behind them
 }
 
 TEST(PrintLayout, BearsAFontThatIsTooLarge) {
