@@ -8,7 +8,6 @@ What it does with the n-th action is drawn from the seed and from n, so it is th
 same screen is in front.
 """
 
-import glob
 import os
 import random
 import re
@@ -111,13 +110,12 @@ class Game:
         for window in windows:
             if re.search(ERROR, window.name):
                 raise Finding(f"a box '{window.name}', and nothing was taken from the program")
-        if self.is_over() and self.process.returncode != 0:
-            raise Finding(f"exit status {self.process.returncode}")
+        over = self.is_over()
         with open(self.stderr, errors="replace") as said:
             if text := said.read():
-                raise Finding(f"it says: {text[:2000]}")
-        if reports := glob.glob(f"{self.work}/sanitizer.*"):
-            raise Finding(f"sanitizers report: {open(reports[0]).read()[:4000]}")
+                raise Finding(f"it says: {text[:2000]}")  # sanitizers do, too
+        if over and self.process.returncode != 0:
+            raise Finding(f"exit status {self.process.returncode}")
         self.judge_list()
 
     def judge_list(self):
@@ -232,16 +230,16 @@ class Monkey:
         deadline = time.monotonic() + PATIENCE
         while front := self.front():
             screen = screen_of(front)[0]
-            self.keys(front, [WAY_OUT.get(screen, "Escape")])
+            self.desk.keys([WAY_OUT.get(screen, "Escape")])
             if screen == "another box":
-                self.keys(front, ["Return"])  # without a Yes
+                self.desk.keys(["Return"])  # without a Yes
             if time.monotonic() > deadline:
                 raise Finding("the program cannot be left by keyboard")
 
     def keep(self, folder):
         os.makedirs(folder, exist_ok=True)
         subprocess.run(["import", "-window", "root", f"{folder}/screen.png"], timeout=60, check=False)
-        for file in [self.game.stderr, f"{self.game.work}/data/Skylob.Data", *glob.glob(f"{self.game.work}/sanitizer.*")]:
+        for file in [self.game.stderr, f"{self.game.work}/data/Skylob.Data"]:
             shutil.copy(file, folder)
         with open(f"{folder}/actions", "w") as file:
             file.write("\n".join(self.last) + "\n")

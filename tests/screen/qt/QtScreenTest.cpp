@@ -10,6 +10,7 @@
 #include <QScreen>
 #include <QTest>
 #include <QTimer>
+#include <memory>
 
 #include "base/NullPorts.h"
 #include "base/basSkylob.h"
@@ -155,6 +156,19 @@ class QtScreenTest : public QObject {
         screen.fitInto({500, 500});
         QCOMPARE(screen.size(), QSize(200, 100));
         QTRY_VERIFY(isInView(upper) && isInView(lower));
+    }
+
+    // As where it has been closed and its display has not taken the focus from it yet.
+    void goesWithTheFocusInAWidgetThatItScrolls() {
+        auto screen = std::make_unique<Screen>(
+            QtScreenDesign{"name", "caption", {100, 100}, Qt::Window, false}, ports);
+        auto* field = new QLineEdit{screen.get()};
+        screen->fitInto({100, 60});
+        screen->show();
+        field->setFocus();
+        QTRY_VERIFY(field->hasFocus());
+        screen->hide();
+        screen.reset();
     }
 
     void comesBackToWhereItWasLeft() {
