@@ -147,6 +147,8 @@ class SwayDesk(Hands):
                     Window(node["id"], node["name"] or "", node["focused"], frame["x"] + inner["x"],
                            frame["y"] + inner["y"], inner["width"], inner["height"])
                 )
+                if node["urgent"]:
+                    self.activate(found[-1])  # a box that was left behind: only its user can do that
             for child in node["nodes"] + node["floating_nodes"]:
                 collect(child)
 
