@@ -31,11 +31,11 @@ SUMMARY = {"Return": 3, "space": 2, "alt+o": 1, "Escape": 1}
 BOX = {"Return": 2, "space": 1, "Escape": 2, "alt+y": 3, "alt+n": 1, "Tab space": 1}
 NAME = {"@name Return": 6, "Escape": 1, "@name": 1, "ctrl+a BackSpace Return": 1}
 SCREENS = [
-    ("title", r"^\s*$", {"alt+c": 3, "Return": 2, "space": 2, "alt+s @arrow Return": 1, "Escape": 0.2}),
+    ("title", r"^\s*$", {"alt+c": 3, "Return": 2, "space": 2, "alt+s @arrow Return": 1, "alt+F4": 0.3}),
     ("welcome", "New User Overview", {"alt+d Return": 2, "space": 2, "alt+c": 1}),
     ("player list", "Player List$", {
         "Home Return Down Return": 3, "Home Return alt+c": 5, "alt+a": 2, "F2": 2, "Delete": 1, "alt+r": 1, "F1": 2,
-        "@arrow Return @arrow Return": 3, "Tab @arrow": 1, "alt+e": 1, "Escape": 1}),
+        "@arrow Return @arrow Return": 3, "Tab @arrow": 1, "alt+e": 1, "Escape": 2}),
     ("name of a player", "Add a New Player|Change the Highlighted", NAME),
     ("skill level", "Skill Level", {"alt+g": 2, "alt+f": 1, "alt+p": 2, "Escape": 1}),
     ("battle", "Battlefield", {
@@ -53,7 +53,7 @@ PRINTING = ("printing", "Print to a File", {"Return": 1, "Escape": 2})
 ERROR = r"Run-time error|Terminating"
 
 # What leads out of the program, whatever is in front.
-WAY_OUT = {"welcome": "Return", "another box": "alt+y", "round's summary": "Return", "set's summary": "Return"}
+WAY_OUT = {"title": "Return", "welcome": "Return", "another box": "alt+y", "round's summary": "Return", "set's summary": "Return"}
 
 
 class Finding(Exception):
@@ -234,7 +234,7 @@ class Monkey:
             if screen == "another box":
                 self.desk.keys(["Return"])  # without a Yes
             if time.monotonic() > deadline:
-                raise Finding("the program cannot be left by keyboard")
+                raise Finding(f"the program cannot be left by keyboard, with '{front.name}' in front")
 
     def keep(self, folder):
         os.makedirs(folder, exist_ok=True)
