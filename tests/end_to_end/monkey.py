@@ -8,6 +8,7 @@ What it does with the n-th action is drawn from the seed and from n, so it is th
 same screen is in front.
 """
 
+import math
 import os
 import random
 import re
@@ -53,7 +54,7 @@ PRINTING = ("printing", "Print to a File", {"Return": 1, "Escape": 2})
 ERROR = r"Run-time error|Terminating"
 
 # What leads out of the program, whatever is in front.
-WAY_OUT = {"title": "Return", "welcome": "Return", "another box": "alt+y", "round's summary": "Return", "set's summary": "Return"}
+WAY_OUT = {"title": "Return", "welcome": "Return", "round's summary": "Return", "set's summary": "Return"}
 
 
 class Finding(Exception):
@@ -82,8 +83,8 @@ class Game:
 
     def __init__(self, command):
         self.command = command
-        self.work = os.environ["HOME"]
-        self.stderr = f"{self.work}/stderr"
+        work = os.environ["HOME"]
+        self.stderr, self.list = f"{work}/stderr", f"{work}/data/Skylob.Data"
         self.process = None
 
     def number(self):
@@ -119,8 +120,11 @@ class Game:
         self.judge_list()
 
     def judge_list(self):
-        with open(f"{self.work}/data/Skylob.Data", "rb") as players:
-            data = players.read()
+        try:
+            with open(self.list, "rb") as players:
+                data = players.read()
+        except OSError as error:
+            raise Finding(f"no player file: {error}") from error
         names = [data[at : at + 20] for at in range(0, len(data), 29)]
         played_and_won = [data[at + 20 : at + 24] for at in range(0, len(data), 29)]
         numbers = [(n[0] + 256 * n[1], n[2] + 256 * n[3]) for n in played_and_won if len(n) == 4]
@@ -133,8 +137,9 @@ class Game:
 class Monkey:
     def __init__(self, seed, until, game):
         self.seed, self.game = seed, game
-        self.actions = 0 if until.endswith("s") else int(until)
-        self.end = time.monotonic() + (int(until[:-1]) if until.endswith("s") else 10**6)
+        seconds = until.endswith("s")
+        self.actions = math.inf if seconds else int(until)
+        self.end = time.monotonic() + int(until[:-1]) if seconds else math.inf
         self.desk = monkey_desk.desk(game.number)
         self.compositor = None
         self.number = self.starts = 0
@@ -142,7 +147,7 @@ class Monkey:
 
     def play(self):
         self.start()
-        while time.monotonic() < self.end and self.number != self.actions:
+        while time.monotonic() < self.end and self.number < self.actions:
             self.number += 1
             chance = random.Random(f"{self.seed}/{self.number}")
             front = self.front()
@@ -151,7 +156,7 @@ class Monkey:
             else:
                 self.act(front, chance)
         self.leave()
-        if self.actions >= 100 and not all(self.seen[screen] for screen in ("title", "player list", "battle")):
+        if self.number >= 100 and not all(self.seen[screen] for screen in ("title", "player list", "battle")):
             raise Finding("the main screens were not reached")
 
     def start(self):
@@ -226,20 +231,33 @@ class Monkey:
         self.compositor.wait()
 
     def leave(self):
-        """By keyboard, with status 0."""
-        deadline = time.monotonic() + PATIENCE
-        while front := self.front():
+        """By keyboard, with status 0. Where boxes have come and gone faster than the window manager follows, the
+        toolkit at times takes no window for active until one gets the keys anew: it is minimised now and then."""
+        for attempt in range(PATIENCE):
+            front = self.front()
+            if front is None:
+                return
             screen = screen_of(front)[0]
-            self.desk.keys([WAY_OUT.get(screen, "Escape")])
-            if screen == "another box":
-                self.desk.keys(["Return"])  # without a Yes
-            if time.monotonic() > deadline:
-                raise Finding(f"the program cannot be left by keyboard, with '{front.name}' in front")
+            if attempt % 10 == 9:
+                self.desk.change(front, "minimise", [0, 0])
+            elif screen == "another box":
+                self.desk.keys([["alt+y", "Return"][attempt % 2]])
+            else:
+                self.desk.keys([WAY_OUT.get(screen, "Escape")])
+            self.await_change(front)
+        raise Finding(f"the program cannot be left by keyboard, with '{front.name}' in front")
+
+    def await_change(self, front):
+        deadline = time.monotonic() + 1
+        while time.monotonic() < deadline and not self.game.is_over():
+            if not any(window.active and window.id == front.id for window in self.desk.windows()):
+                return
+            time.sleep(0.02)
 
     def keep(self, folder):
         os.makedirs(folder, exist_ok=True)
         subprocess.run(["import", "-window", "root", f"{folder}/screen.png"], timeout=60, check=False)
-        for file in [self.game.stderr, f"{self.game.work}/data/Skylob.Data"]:
+        for file in filter(os.path.exists, [self.game.stderr, self.game.list]):
             shutil.copy(file, folder)
         with open(f"{folder}/actions", "w") as file:
             file.write("\n".join(self.last) + "\n")

@@ -51,4 +51,5 @@ if [[ ${5-} == wayland ]]; then
 else
     start_display
 fi
-/usr/bin/python3 -B "$(dirname "${BASH_SOURCE[0]}")/monkey.py" "$program" "$2" "$3" "$4" "${options[@]}"
+/usr/bin/python3 -B "$(dirname "${BASH_SOURCE[0]}")/monkey.py" "$program" "$2" "$3" "$4" "${options[@]}" &
+wait $!

@@ -110,7 +110,7 @@ class XDesk(Hands):
         message = self.ClientMessage(
             window=receiver, client_type=self.atom("WM_PROTOCOLS"), data=(32, self.question(window))
         )
-        receiver.send_event(message, onerror=lambda *_: None)
+        receiver.send_event(message, onerror=lambda *_: True)
         self.display.flush()
 
     def change(self, window, what, numbers):
