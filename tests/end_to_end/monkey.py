@@ -21,7 +21,8 @@ import monkey_desk
 from monkey_game import Finding, Game
 from monkey_screens import ANY_KEYS, PRINTING, SCREENS, WAY_OUT, drawn, screen_of
 
-PATIENCE = 120  # seconds that anything may take on a busy machine; a storm and a flight take less
+# Seconds: what anything may take on a busy machine, and what a storm may, which lets nobody leave.
+PATIENCE, STORM = 120, 260
 
 
 class Monkey:
@@ -122,7 +123,7 @@ class Monkey:
 
     def leave(self):
         """By keyboard, with status 0, and at a pace: the Escape that brings up a box closes it, too."""
-        for attempt in range(PATIENCE):
+        for attempt in range(STORM + PATIENCE):
             front = self.front()
             if front is None:
                 return

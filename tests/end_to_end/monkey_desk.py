@@ -117,7 +117,7 @@ class XDesk(Hands):
         if what == "resize":
             xdotool("windowsize", window.id, 300 + numbers[0] % 1100, 200 + numbers[1] % 700)
         elif what == "move":
-            xdotool("windowmove", window.id, numbers[0] % 1300 - 100, numbers[1] % 900 - 100)
+            xdotool("windowmove", window.id, numbers[0] % 900 - 100, numbers[1] % 600 - 100)
         elif what == "minimise":
             xdotool("windowminimize", window.id)
         else:  # as the window manager's keys are
@@ -175,7 +175,7 @@ class SwayDesk(Hands):
     def change(self, window, what, numbers):
         command = {
             "resize": f"resize set {300 + numbers[0] % 1100} {200 + numbers[1] % 700}",
-            "move": f"move position {numbers[0] % 1300 - 100} {numbers[1] % 900 - 100}",
+            "move": f"move position {numbers[0] % 900 - 100} {numbers[1] % 600 - 100}",
             "minimise": "move scratchpad",
             "maximise": "fullscreen toggle",
             "close": "kill",

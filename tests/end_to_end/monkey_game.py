@@ -22,7 +22,7 @@ class Game:
         return self.process.pid
 
     def start(self, starts, chance):
-        fade, storms = chance.random() < 0.4, int(chance.random() < 0.2)
+        fade, storms = chance.random() < 0.4, int(chance.random() < 0.1)
         lines = ["[Defaults]", "GameSpeed=99", "NumRounds=1", f"FadeStatus={fade}", f"LightningSetting={storms}"]
         lines += [f"MeteorsSetting={int(chance.random() < 0.3)}", f"ScreenSize={chance.randint(1, 3)}"]
         lines += ["NewUser=NoShow"] * (starts % 2 == 0)
