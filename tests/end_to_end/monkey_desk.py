@@ -23,7 +23,9 @@ class Window:
 
 
 def xdotool(*arguments):
-    subprocess.run(["xdotool", *map(str, arguments)], stderr=subprocess.DEVNULL, timeout=60)
+    subprocess.run(
+        ["xdotool", *map(str, arguments)], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, timeout=60
+    )
 
 
 class Hands:
@@ -36,7 +38,8 @@ class Hands:
         xdotool("type", "--delay", 2, "--", text)
 
     def point(self, window, place):
-        xdotool("mousemove", window.x + int(place[0] * window.width), window.y + int(place[1] * window.height))
+        x, y = window.x + int(place[0] * window.width), window.y + int(place[1] * window.height)
+        xdotool("mousemove", max(x, 0), max(y, 0))  # it takes a negative one for an option
 
     def click(self, window, place, button, times):
         self.point(window, place)
