@@ -41,17 +41,17 @@ bool QtDragAim::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool QtDragAim::fieldEvent(QEvent* event) {
-    const auto& mouse = *static_cast<QMouseEvent*>(event);
+    const auto mouse = [event] { return static_cast<const QMouseEvent*>(event); };
     switch (event->type()) {
         case QEvent::MouseButtonPress:
             m_swallowsRelease = false;
-            if (mouse.button() == Qt::LeftButton) press(mouse.position());
+            if (mouse()->button() == Qt::LeftButton) press(mouse()->position());
             return false;
         case QEvent::MouseMove:
-            if (m_drag) moveTo(mouse.position());
+            if (m_drag) moveTo(mouse()->position());
             return m_drag.has_value();
         case QEvent::MouseButtonRelease:
-            return mouse.button() == Qt::LeftButton && release();
+            return mouse()->button() == Qt::LeftButton && release();
         case QEvent::Hide:
         case QEvent::EnabledChange:
         case QEvent::WindowBlocked:  // the release would be lost on the box above

@@ -18,6 +18,12 @@ QtScrollBoard::QtScrollBoard(const QSize& smallest, QWidget* screen) : QScrollAr
     connect(qApp, &QApplication::focusChanged, this, &QtScrollBoard::followFocus);
 }
 
+/// The widget that has the focus may go with it, and that would be told to what is no board any
+/// more.
+QtScrollBoard::~QtScrollBoard() {
+    disconnect(qApp, nullptr, this, nullptr);
+}
+
 void QtScrollBoard::followFocus() {
     QWidget* const focus = QApplication::focusWidget();
     if (!focus || !widget()->isAncestorOf(focus)) return;

@@ -12,6 +12,7 @@ class QtScrollBoard : public QScrollArea {
   public:
     /// `screen` is to be the parent as well; `smallest` is what the widgets need.
     QtScrollBoard(const QSize& smallest, QWidget* screen);
+    ~QtScrollBoard() override;
 
     /// What the widgets are to be children of.
     QWidget* board() const { return widget(); }

@@ -29,12 +29,17 @@ wait_for() {
 }
 
 start_display() {
+    start_bare_display
+    openbox >/dev/null 2>&1 &
+    wait_for xdotool get_desktop || fail "the window manager does not start"
+}
+
+# start_bare_display: without a window manager.
+start_bare_display() {
     Xvfb -noreset -displayfd 3 -screen 0 1400x900x24 3>"$work/display" >/dev/null 2>&1 &
     wait_for test -s "$work/display" || fail "Xvfb does not start"
     DISPLAY=:$(<"$work/display")
     export DISPLAY
-    openbox >/dev/null 2>&1 &
-    wait_for xdotool get_desktop || fail "the window manager does not start"
 }
 
 # start_compositing: makes windows translucent, behind which all is grey.

@@ -3,37 +3,10 @@
 # Under a Wayland compositor and without any X server a shell is seen flying while the program is busy
 # with it, boxes come up over their screen, and the program ends well. Left out (status 77) where the
 # packages [wayland] are not installed.
-set -euo pipefail
-for tool in sway swaymsg grim wtype jq; do
-    command -v "$tool" >/dev/null || { echo "no $tool" && exit 77; }
-done
-compgen -G "/usr/lib/*/qt6/plugins/platforms/libqwayland-generic.so" >/dev/null ||
-    { echo "no plugin for Wayland" && exit 77; }
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
+source "$(dirname "${BASH_SOURCE[0]}")/lib_wayland.sh"
+have_wayland grim wtype jq || exit 77
 unset DISPLAY
-export QT_QPA_PLATFORM=wayland
-
-# start_compositor: the display, which refuses to be root's.
-start_compositor() {
-    local as_nobody=() sockets=$work/sockets
-    mkdir -m 700 "$sockets"
-    if ((EUID == 0)); then
-        chmod 711 "$work"
-        chown nobody "$sockets"
-        as_nobody=(setpriv --reuid=nobody --regid=nogroup --clear-groups)
-    fi
-    printf '%s\n' 'xwayland disable' 'output * resolution 1400x900' 'output * bg #808080 solid_color' \
-        'for_window [app_id=".*"] floating enable' >"$work/sway"
-    chmod 644 "$work/sway"
-    XDG_RUNTIME_DIR=$sockets WLR_BACKENDS=headless WLR_RENDERER=pixman WLR_LIBINPUT_NO_DEVICES=1 \
-        "${as_nobody[@]}" sway --config "$work/sway" >"$work/sway.log" 2>&1 &
-    wait_for compgen -G "$sockets/sway-ipc.*.sock" || fail "sway does not start: $(<"$work/sway.log")"
-    SWAYSOCK=$(compgen -G "$sockets/sway-ipc.*.sock")
-    wait_for test -S "$sockets/wayland-1" || fail "no display"
-    export SWAYSOCK WAYLAND_DISPLAY=$sockets/wayland-1
-    # A keyboard that stays: programs would miss the first keys of one that comes for a moment.
-    wtype -s 3600000 -k Shift_L &
-}
 
 # What lib.sh asks an X server for.
 windows() {
@@ -65,7 +38,9 @@ expect_over() {
 
 calm GameSpeed=1
 players Ann Bob
-start_compositor
+start_compositor headless
+# A keyboard that stays: programs would miss the first keys of one that comes for a moment.
+wtype -s 3600000 -k Shift_L &
 start_game --seed 1
 press "$lobby" Delete
 expect_over Confirm "$lobby"

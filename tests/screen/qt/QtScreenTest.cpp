@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QScreen>
+#include <QScrollArea>
 #include <QTest>
 #include <QTimer>
 
@@ -155,6 +156,17 @@ class QtScreenTest : public QObject {
         screen.fitInto({500, 500});
         QCOMPARE(screen.size(), QSize(200, 100));
         QTRY_VERIFY(isInView(upper) && isInView(lower));
+    }
+
+    void goesWithTheFocusInWhatItScrolls() {
+        Screen screen{{"name", "caption", {100, 100}, Qt::Window, false}, ports};
+        auto* field = new QLineEdit{&screen};
+        screen.fitInto({100, 60});
+        screen.show();
+        field->setFocus();
+        QTRY_VERIFY(field->hasFocus());
+        delete screen.findChild<QScrollArea*>();
+        QVERIFY(!QApplication::focusWidget());
     }
 
     void comesBackToWhereItWasLeft() {
