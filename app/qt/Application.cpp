@@ -13,6 +13,7 @@
 #include "battle/qt/frmPlayGame.h"
 #include "battle/record/RecordFile.h"
 #include "controls/qt/GlintButtonAccessible.h"
+#include "look/qt/QtLook.h"
 #include "manual/qt/frmManual.h"
 #include "platform/qt/QtMotionPortal.h"
 #include "players/qt/QtPlayerGrid.h"
@@ -110,6 +111,8 @@ int Application::run() {
     try {
         if (!Main(m_shared, m_singleCopy.copies(), m_files, m_boxes)) return EXIT_FAILURE;
         after(Event::ProgramStarted);
+        // While the title page is on its way to the display.
+        setWindowIcon(programIcon());
         learnMotion();
     } catch (const std::exception& error) {
         endWithError(m_boxes, error.what());
@@ -119,7 +122,6 @@ int Application::run() {
     return status;
 }
 
-/// The title page is on its way to the display meanwhile.
 void Application::learnMotion() {
     if (m_shared.motion == Motion::Reduced) return;
     askForMotion(this, [this](Motion motion) { m_shared.motion = motion; });

@@ -10,6 +10,7 @@
 #include "battle/qt/QtMenGauge.h"
 #include "battle/qt/frmPlayGame.h"
 #include "controls/qt/GlintButtonAccessible.h"
+#include "look/qt/QtLook.h"
 #include "screen/qt/QtSpokenControls.h"
 #include "screen/qt/QtWindowPlaces.h"
 
@@ -28,6 +29,7 @@ ReplayProgram::ReplayProgram(int& argc, char** argv, const CommandLine& commandL
     installSpokenControls();
     QtMenGauge::installAccessible();
     setApplicationName(QStringLiteral("Skylob"));
+    setWindowIcon(programIcon());
     setDesktopFileName(QStringLiteral("skylob"));
     setQuitOnLastWindowClosed(false);
     m_sounds.setVolume(recallVolume(m_windows));

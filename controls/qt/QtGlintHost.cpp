@@ -79,7 +79,9 @@ GlintFont QtGlintHost::ambientFont() const {
     const QWidget* form = m_button.parentWidget();
     const QFont font = form ? form->font() : QApplication::font();
     return {.name = font.family().toStdString(),
-            .size = static_cast<float>(QFontInfo{font}.pixelSize()),
+            // To ask what a size in points comes to would load the typeface, which nobody may show.
+            .size = static_cast<float>(font.pixelSize() > 0 ? font.pixelSize()
+                                                            : QFontInfo{font}.pixelSize()),
             .bold = font.bold(),
             .italic = font.italic(),
             .underline = font.underline()};

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractNativeEventFilter>
+#include <QObject>
 #include <QPoint>
 #include <QPointer>
 
@@ -14,8 +15,9 @@ namespace skylob {
 /// answers of the last time stand until the display reports anything at all: a pointer that moves,
 /// and a window that comes between, are reported to the window that the pointer was over. Once the
 /// pointer has left, also for a grab, in which nothing more is reported, each question goes to the
-/// display.
-class QtPointerPlace final : public QAbstractNativeEventFilter {
+/// display. Which widget of the window it is stands until any event but a timer's comes to the
+/// program: no widget comes, goes, moves or is drawn anew without one.
+class QtPointerPlace final : public QObject, public QAbstractNativeEventFilter {
   public:
     QtPointerPlace() = default;
     ~QtPointerPlace() override { watch(false); }
@@ -30,11 +32,13 @@ class QtPointerPlace final : public QAbstractNativeEventFilter {
 
   private:
     bool nativeEventFilter(const QByteArray& eventType, void* message, qintptr* result) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    QWidget* childThere() const;
 
     bool m_isWatching = false, m_isInside = false;
-    bool m_stands = false;  ///< what was answered last
-    QPoint m_place;         ///< on the desktop
-    QPointer<QWidget> m_window;
+    bool m_windowStands = false, m_widgetStands = false;  ///< what was answered last
+    QPoint m_place;                                       ///< on the desktop
+    QPointer<QWidget> m_window, m_widget;
 };
 
 }  // namespace skylob

@@ -1,7 +1,6 @@
 #include "look/qt/QtLook.h"
 
 #include <QFile>
-#include <QIcon>
 #include <QLabel>
 #include <QPalette>
 #include <QStyle>
@@ -43,19 +42,19 @@ QString styleSheet() {
     return QString::fromStdString(withTheme(file.readAll().toStdString()));
 }
 
-QIcon programIcon() {
-    QIcon icon;
-    for (const int size : {16, 32, 64, 256})
-        icon.addFile(QStringLiteral(":/pictures/icon-%1.png").arg(size));
-    return icon;
-}
-
 }  // namespace
 
 QStringList fontFamilies() {
     QStringList families;
     for (const char* family : kFontFamilies) families.append(QLatin1String{family});
     return families;
+}
+
+QIcon programIcon() {
+    QIcon icon;
+    for (const int size : {16, 32, 64, 256})
+        icon.addFile(QStringLiteral(":/pictures/icon-%1.png").arg(size));
+    return icon;
 }
 
 void applyLook(QWidget& screen) {
@@ -67,7 +66,6 @@ void applyLook(QWidget& screen) {
     screen.setProperty("screen", true);
     screen.setAttribute(Qt::WA_StyledBackground);
     screen.setStyleSheet(styleSheet());
-    screen.setWindowIcon(programIcon());
 }
 
 void showFitting(QLabel& label, const QString& text, std::initializer_list<int> sizes) {

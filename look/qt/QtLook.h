@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QIcon>
 #include <QString>
 #include <QStringList>
 #include <initializer_list>
@@ -14,9 +15,11 @@ namespace skylob {
 /// The theme's typefaces.
 QStringList fontFamilies();
 
-/// Gives a screen the program's colours, fonts, style sheet and icon, and with it everything in
-/// it. To be called before the screen's size is set. Message and input boxes stay as the desktop
-/// draws them.
+/// For all windows, read once: the toolkit keeps what it has shown of every icon that is made.
+QIcon programIcon();
+
+/// Gives a screen the program's colours, fonts and style sheet, and with it everything in it. To be
+/// called before the screen's size is set. Message and input boxes stay as the desktop draws them.
 void applyLook(QWidget& screen);
 
 /// Shows a text in a label of fixed width, in the first of the sizes (pixels) in which it fits. In

@@ -116,3 +116,8 @@ bool SdlSoundDevice::isPlaying() const {
 }
 
 }  // namespace skylob
+
+/// What SoundModule looks for.
+extern "C" skylob::SoundDevice* makeSoundDevice() {
+    return new skylob::SdlSoundDevice;
+}

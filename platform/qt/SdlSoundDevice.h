@@ -1,38 +1,29 @@
 #pragma once
 
-#include <QByteArray>
 #include <memory>
+
+#include "platform/qt/SoundDevice.h"
 
 struct Mix_Chunk;
 
 namespace skylob {
 
-/// The sound device behind the audio library, which mixes on a thread of its own. Opening and
-/// closing take as long as the sound system of the machine lets them: for ever, if it hangs.
-/// All calls have to come from one thread.
-class SdlSoundDevice {
+/// The sound device behind the audio library, which mixes on a thread of its own.
+class SdlSoundDevice final : public SoundDevice {
   public:
     SdlSoundDevice();
     /// Closes it.
-    ~SdlSoundDevice();
+    ~SdlSoundDevice() override;
 
     SdlSoundDevice(const SdlSoundDevice&) = delete;
     SdlSoundDevice& operator=(const SdlSoundDevice&) = delete;
 
-    /// Does nothing when it is open, or has turned out to be missing; that is worth a line on
-    /// standard error.
-    void open();
-    void close();
-    bool isOpen() const { return m_state == State::Open; }
-
-    /// Starts a wave file; a sound still playing is cut off. Does nothing while the device is not
-    /// open, nor with a file that cannot be played.
-    void play(const QByteArray& waveFile);
-
-    /// How loud what plays and what will play is, 0 to 100 percent.
-    void setVolume(int percent);
-
-    bool isPlaying() const;
+    void open() override;
+    void close() override;
+    bool isOpen() const override { return m_state == State::Open; }
+    void play(const QByteArray& waveFile) override;
+    void setVolume(int percent) override;
+    bool isPlaying() const override;
 
   private:
     struct FreeChunk {

@@ -12,7 +12,7 @@
 
 #include "base/qt/QtText.h"
 #include "platform/WaveImage.h"
-#include "platform/qt/SdlSoundDevice.h"
+#include "platform/qt/SoundModule.h"
 
 namespace skylob {
 
@@ -80,7 +80,7 @@ bool SdlSoundPlayer::close(std::chrono::milliseconds patience) {
 }
 
 void SdlSoundPlayer::serve(const std::shared_ptr<Desk>& desk) {
-    SdlSoundDevice device;
+    const std::unique_ptr<SoundDevice> device = loadSoundDevice();
     std::unique_lock lock{desk->mutex};
     // The device is used without the mutex: nobody waits for what may take for ever.
     const auto unlocked = [&lock](const auto& work) {
@@ -90,22 +90,22 @@ void SdlSoundPlayer::serve(const std::shared_ptr<Desk>& desk) {
     };
     const auto isWanted = [&desk] { return desk->next || desk->isClosing; };
     for (;;) {
-        const auto pause = desk->isPlaying ? kLook : device.isOpen() ? kSilence : kLong;
+        const auto pause = desk->isPlaying ? kLook : device->isOpen() ? kSilence : kLong;
         const bool wanted = desk->changed.wait_for(lock, pause, isWanted);
-        device.setVolume(desk->volume);
+        device->setVolume(desk->volume);
         if (desk->next) {
-            unlocked([&] { device.open(); });
+            unlocked([&] { device->open(); });
             // That may have taken a while: the newest by now.
             const QByteArray sound = *std::exchange(desk->next, std::nullopt);
-            unlocked([&] { device.play(sound); });
+            unlocked([&] { device->play(sound); });
         } else if (wanted) {
             break;
         } else if (!desk->isPlaying) {
-            unlocked([&] { device.close(); });
+            unlocked([&] { device->close(); });
         }
-        desk->isPlaying = desk->next || device.isPlaying();
+        desk->isPlaying = desk->next || device->isPlaying();
     }
-    unlocked([&] { device.close(); });
+    unlocked([&] { device->close(); });
     desk->isPlaying = desk->isServed = false;
     desk->changed.notify_all();
 }

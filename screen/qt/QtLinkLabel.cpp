@@ -42,6 +42,19 @@ void QtLinkLabel::installAccessible() {
     QAccessible::installFactory(makeAccessible);
 }
 
+/// When it is made ready, and when it gets the focus, a label that can have the focus makes a
+/// document of its text, to select from. Nothing is selected here, and that takes longer than all
+/// else about the title page's texts: these two events pass the label by.
+// NOLINTBEGIN(bugprone-parent-virtual-call)
+bool QtLinkLabel::event(QEvent* event) {
+    return event->type() == QEvent::Polish ? QFrame::event(event) : QLabel::event(event);
+}
+
+void QtLinkLabel::focusInEvent(QFocusEvent* event) {
+    QFrame::focusInEvent(event);
+}
+// NOLINTEND(bugprone-parent-virtual-call)
+
 void QtLinkLabel::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
         emit Click();

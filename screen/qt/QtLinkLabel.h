@@ -18,6 +18,8 @@ class QtLinkLabel : public QLabel {
     void Click();
 
   protected:
+    bool event(QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 };

@@ -8,6 +8,9 @@ cd "$work/usr"
 desktop-file-validate share/applications/skylob.desktop || fail "the desktop entry"
 appstreamcli validate --no-net --no-color share/metainfo/*.xml || fail "the metainfo"
 installed=$(find "$PWD" -name skylob -type f -perm -u+x) # in bin, or where a package wants it
+modules=$(readelf -d "$installed" | sed -n 's/.*RUNPATH.*\[$ORIGIN\(.*\)\].*/\1/p')
+needed=$(ldd "${installed%/*}$modules/skylob-sound.so") || fail "the sounds have gone: $modules"
+[[ $needed != *'not found'* ]] || fail "the sounds miss: $needed"
 PATH=${installed%/*}:$PATH $(sed -n 's/^Exec=//p' share/applications/skylob.desktop) --version
 
 for size in 16 24 32 48 64 128 256; do

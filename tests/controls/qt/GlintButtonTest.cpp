@@ -4,6 +4,7 @@
 #include <QDialog>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLabel>
 #include <QTest>
 
 #include "controls/qt/GlintButtonAccessible.h"
@@ -154,6 +155,13 @@ class GlintButtonTest : public QObject {
         QCursor::setPos(form.second.mapToGlobal(QPoint{5, 5}));
         QTRY_COMPARE(form.events, QStringList{"MouseOut"});
         QCOMPARE(form.faceColour(), up);
+        form.moveTo(form.first, {80, 20});
+        QTRY_VERIFY(form.hoverTicks >= 50);
+        form.taken();
+        QLabel above{&form.window};  // so does one that another widget comes over
+        above.setGeometry(form.first.geometry());
+        above.show();
+        QTRY_COMPARE(form.events, QStringList{"MouseOut"});
     }
 
     void takesSpaceAndAccessKeyButNotEnter() {

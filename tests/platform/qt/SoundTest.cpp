@@ -8,6 +8,7 @@
 #include <cmath>
 
 #include "platform/qt/SdlSoundPlayer.h"
+#include "platform/qt/SoundModule.h"
 #include "tests/support/CapturedErrors.h"
 
 using namespace skylob;
@@ -103,6 +104,17 @@ class SoundTest : public QObject {
         QTRY_VERIFY(capture.frames() > switched + 4 * kRate);
         QCOMPARE_LT(capture.lastLoudFrame(), switched + 3 * kRate);
         QVERIFY_EXCEPTION_THROWN(player.PlaySound("silence"), std::out_of_range);
+    }
+
+    void bearsAMissingLibrary() {
+        const test::CapturedErrors errors;
+        const auto device = loadSoundDevice("nonesuch.so");
+        device->open();
+        QVERIFY(!device->isOpen());
+        const QByteArray said = errors.text();
+        QVERIFY2(
+            said.startsWith("skylob: no sound: nonesuch.so") && said.count(QByteArray{"\n"}) == 1,
+            said);
     }
 
     void bearsAMissingDeviceWithOneLineAtMost() {
