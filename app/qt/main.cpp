@@ -62,10 +62,12 @@ bool hasDisplay() {
     return false;
 }
 
-/// Without colours of its own the display cannot be painted on, and the toolkit goes on all the same.
+/// The toolkit cannot paint on a display that looks its colours up in a table, and goes on all the
+/// same.
 bool hasColours() {
     constexpr int kFewestBits = 15;
-    if (QGuiApplication::primaryScreen()->depth() >= kFewestBits) return true;
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    if (!screen || screen->depth() >= kFewestBits) return true;
     std::fputs("skylob: the display has too few colours\n", stderr);
     return false;
 }

@@ -29,7 +29,7 @@ namespace skylob::test {
 
 /// Caches are full after so many; afterwards a set or a manual may add no more than kMostBytes.
 constexpr int kWarmUp = 5;
-constexpr double kMostBytes = 4096;
+constexpr double kMostBytes = 8192;
 
 /// Null when there is none.
 static QWidget* shown(const char* name) {
