@@ -106,6 +106,7 @@ static long residentKiB() {
 
 /// Whether what is done again and again adds no memory to what it has after the first times.
 static bool staysAsLarge(const char* what, int times, const std::function<void()>& act) {
+    if (times == 0) return true;
     for (int i = 0; i < kWarmUp; ++i) act();
     const double before = bytesInUse();
     const long residentBefore = residentKiB();
