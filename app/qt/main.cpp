@@ -2,6 +2,8 @@
 #include <unistd.h>
 
 #include <QDir>
+#include <QGuiApplication>
+#include <QScreen>
 #include <QStandardPaths>
 #include <QtGlobal>
 #include <cstdio>
@@ -60,6 +62,16 @@ bool hasDisplay() {
     return false;
 }
 
+/// The toolkit cannot paint on a display that looks its colours up in a table, and goes on all the
+/// same.
+bool hasColours() {
+    constexpr int kFewestBits = 15;
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    if (!screen || screen->depth() >= kFewestBits) return true;
+    std::fputs("skylob: the display has too few colours\n", stderr);
+    return false;
+}
+
 int refuse(const char* what, const std::string& file, const skylob::RecordError& why) {
     std::fprintf(stderr, "skylob: cannot %s '%s': %s\n", what, file.c_str(), why.what());
     return kUnusableArguments;
@@ -91,6 +103,7 @@ int play(char** argv, const skylob::CommandLine& commandLine) {
     skylob::Application application{toolkitArguments, argv, commandLine, windows};
     qInstallMessageHandler(usualHandler);
     scale.reset();
+    if (!hasColours()) return EXIT_FAILURE;
     if (recording) application.record(*recording);
     return application.run();
 }
@@ -106,6 +119,7 @@ int replay(char** argv, const skylob::CommandLine& commandLine) try {
     skylob::ReplayProgram program{toolkitArguments, argv, commandLine, record};
     qInstallMessageHandler(usualHandler);
     scale.reset();
+    if (!hasColours()) return EXIT_FAILURE;
     return program.run();
 } catch (const skylob::RecordError& why) {
     return refuse("replay", *commandLine.replay, why);
