@@ -1,6 +1,7 @@
 #include "controls/TransferPicture.h"
 
 #include <algorithm>
+#include <array>
 
 #include "base/Rounding.h"
 
@@ -21,13 +22,30 @@ void copy(const Run& run) {
     std::copy_n(run.from, run.pixels * kBytes, run.to);
 }
 
+/// What each value of a channel adds to a grey.
+using Shares = std::array<double, 256>;
+
+constexpr Shares sharesOf(double part) {
+    Shares shares{};
+    for (int value = 0; value < 256; ++value)
+        shares[static_cast<std::size_t>(value)] = value * part;
+    return shares;
+}
+
+constexpr Shares roundedSharesOf(double part) {
+    Shares shares = sharesOf(part);
+    for (double& share : shares) share = roundToNearest(share);
+    return shares;
+}
+
 void copyGrey(const Run& run) {
+    // Quirk "red rounded first": by itself, before the sum is formed.
+    static constexpr Shares kRed = roundedSharesOf(0.3);
+    static constexpr Shares kGreen = sharesOf(0.59), kBlue = sharesOf(0.11);
     const std::uint8_t* from = run.from;
     std::uint8_t* const end = run.to + run.pixels * kBytes;
     for (std::uint8_t* to = run.to; to != end; from += kBytes, to += kBytes) {
-        // Quirk "red rounded first": by itself, before the sum is formed.
-        const int red = roundToNearest(from[2] * 0.3);
-        const int grey = roundToNearest(red + from[1] * 0.59 + from[0] * 0.11);
+        const int grey = roundToNearest(kRed[from[2]] + kGreen[from[1]] + kBlue[from[0]]);
         to[0] = to[1] = to[2] = static_cast<std::uint8_t>(grey);
     }
 }
@@ -54,7 +72,7 @@ Merge mergeFor(const TransferEffects& effects) {
 
 /// Tells which pixels of the picture are not to be seen.
 struct Mask {
-    std::optional<Colour> transparent;
+    Colour transparent;
     const NearestColour& nearest;
 
     bool covers(const std::uint8_t* pixel) const {
@@ -65,7 +83,6 @@ struct Mask {
 };
 
 void mergeRow(const Run& row, const Mask& mask, Merge merge) {
-    if (!mask.transparent) return merge(row);
     std::size_t first = 0;  // of the pixels to be merged next
     for (std::size_t at = 0; at <= row.pixels; ++at) {
         if (at < row.pixels && !mask.covers(row.from + at * kBytes)) continue;
@@ -80,10 +97,14 @@ void TransferPicture(const PixelArray<const std::uint8_t>& picture,
                      const PixelArray<std::uint8_t>& target, const TransferEffects& effects,
                      std::optional<Colour> transparent, const NearestColour& nearest) {
     const Merge merge = mergeFor(effects);
-    const Mask mask{transparent, nearest};
     const auto width = static_cast<std::size_t>(picture.width);
-    for (int y = 0; y < picture.height; ++y)
-        mergeRow({picture.row(y).data(), target.row(y).data(), width}, mask, merge);
+    for (int y = 0; y < picture.height; ++y) {
+        const Run row{picture.row(y).data(), target.row(y).data(), width};
+        if (transparent)
+            mergeRow(row, {*transparent, nearest}, merge);
+        else
+            merge(row);
+    }
 }
 
 }  // namespace skylob
