@@ -134,6 +134,7 @@ void generateBattlefield(Battlefield& field, RandomSource& random, int roundNumb
     const int moonOffset = roundNumber == 1 ? 40 : field.MoonOffset - 4;
     field = Battlefield{};
     field.MoonOffset = moonOffset;
+    field.stars.reserve(kColumns);
 
     const bool high = RandomInt(random, -1, 0) == -1;
     const int height = high ? RandomInt(random, 600, 750) : RandomInt(random, 30, 180);
