@@ -15,10 +15,11 @@ class RandomSource {
 /// low. The bounds are applied as they are written, also when low is above high: the falling
 /// slopes of the battlefield are made that way (see SlopeStep).
 inline int RandomInt(RandomSource& random, int low, int high) {
-    const double spread = (high - low + 1) * random.next();
+    const int choices = high - low + 1;
+    const double spread = choices * random.next();
     // Rounded down, below 0 too, without a call: battlefields are made of such draws.
     const int part = static_cast<int>(spread);
-    return (spread < part ? part - 1 : part) + low;
+    return (choices < 0 && spread < part ? part - 1 : part) + low;
 }
 
 }  // namespace skylob
