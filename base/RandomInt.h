@@ -14,6 +14,12 @@ class RandomSource {
 /// A whole number uniformly drawn from low..high: the integer part of (high - low + 1) * r plus
 /// low. The bounds are applied as they are written, also when low is above high: the falling
 /// slopes of the battlefield are made that way (see SlopeStep).
-int RandomInt(RandomSource& random, int low, int high);
+inline int RandomInt(RandomSource& random, int low, int high) {
+    const int choices = high - low + 1;
+    const double spread = choices * random.next();
+    // Rounded down, below 0 too, without a call: battlefields are made of such draws.
+    const int part = static_cast<int>(spread);
+    return (choices < 0 && spread < part ? part - 1 : part) + low;
+}
 
 }  // namespace skylob

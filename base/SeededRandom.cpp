@@ -4,35 +4,29 @@
 
 namespace skylob {
 
-SeededRandom::SeededRandom(std::optional<std::uint64_t> seed) : m_seed{seed} {
-    if (m_seed) m_engine.emplace(*m_seed);
-}
-
 std::uint64_t SeededRandom::seed() {
     if (!m_seed) {
         const auto now = std::chrono::system_clock::now().time_since_epoch().count();
         m_seed = static_cast<std::uint64_t>(now);
-        m_engine.emplace(*m_seed);
     }
     return *m_seed;
 }
 
-double SeededRandom::next() {
-    if (!m_engine) (void)seed();
-    ++m_position;
-    constexpr double kTwoToMinus53 = 0x1p-53;
-    const auto bits = static_cast<std::int64_t>((*m_engine)() >> 11);  // signed converts faster
-    return static_cast<double>(bits) * kTwoToMinus53;
+void SeededRandom::makeNumbers() {
+    if (!m_twister) m_twister.emplace(seed());
+    m_twister->fill(m_numbers);
+    m_made += m_numbers.size();
+    m_next = 0;
 }
 
 void SeededRandom::moveTo(std::uint64_t position) {
-    const std::uint64_t start = seed();
-    if (position < m_position) {
-        m_engine.emplace(start);
-        m_position = 0;
+    if (position < this->position()) {
+        m_twister.emplace(seed());
+        m_made = 0;
+        m_next = m_numbers.size();
     }
-    m_engine->discard(position - m_position);
-    m_position = position;
+    while (m_made < position) makeNumbers();
+    m_next = static_cast<std::size_t>(m_numbers.size() - (m_made - position));
 }
 
 }  // namespace skylob

@@ -1,5 +1,6 @@
 #include "battle/Battlefield.h"
 
+#include <iterator>
 #include <stdexcept>
 
 namespace skylob {
@@ -99,24 +100,14 @@ int SlopeStep(RandomSource& random, int kind) {
     // Quirk "backward slopes": the falling kinds pass the larger bound first. RandomInt reaches
     // that one only when r is exactly 0, and the other never, which makes a mountain's far side
     // what it is.
-    switch (kind) {
-        case 0:
-            return RandomInt(random, 4, 7);
-        case 1:
-            return RandomInt(random, 1, 4);
-        case 2:
-            return RandomInt(random, -1, 3);
-        case 3:
-            return RandomInt(random, -1, 1);
-        case 4:
-            return RandomInt(random, -3, 1);
-        case 5:
-            return RandomInt(random, -1, -4);
-        case 6:
-            return RandomInt(random, -4, -7);
-        default:
-            return 0;
-    }
+    struct Bounds {
+        int low, high;
+    };
+    static constexpr Bounds kSlopes[] = {{4, 7},  {1, 4},   {-1, 3}, {-1, 1},
+                                         {-3, 1}, {-1, -4}, {-4, -7}};
+    const auto slope = static_cast<std::size_t>(kind);
+    if (slope >= std::size(kSlopes)) return 0;
+    return RandomInt(random, kSlopes[slope].low, kSlopes[slope].high);
 }
 
 Colour TerrainColours(int number) {
@@ -143,6 +134,7 @@ void generateBattlefield(Battlefield& field, RandomSource& random, int roundNumb
     const int moonOffset = roundNumber == 1 ? 40 : field.MoonOffset - 4;
     field = Battlefield{};
     field.MoonOffset = moonOffset;
+    field.stars.reserve(kColumns);
 
     const bool high = RandomInt(random, -1, 0) == -1;
     const int height = high ? RandomInt(random, 600, 750) : RandomInt(random, 30, 180);

@@ -47,11 +47,13 @@ void FieldPicture::clear() {
 }
 
 void FieldPicture::setPoint(int x, int y, Colour colour, int width) {
+    if (m_screen.empty()) return;
     drawDot(dotArea(x, y, width), width, toPixel(colour), Buffers::Both);
 }
 
 void FieldPicture::setPassingPoint(int x, int y, Colour colour, int width) {
-    drawDot(dotArea(x, y, width), width, toPixel(colour), Buffers::ScreenOnly);
+    if (!m_screen.empty())
+        drawDot(dotArea(x, y, width), width, toPixel(colour), Buffers::ScreenOnly);
     m_passing.push_back({x, y, colour, width});
 }
 
@@ -79,6 +81,7 @@ Colour FieldPicture::pixel(int x, int y) const {
 }
 
 void FieldPicture::ground(std::span<const int> heights, Colour colour, int width) {
+    if (m_screen.empty()) return;
     const int pixels = width * m_dotScale;
     std::vector<int> tops(static_cast<std::size_t>(m_width), m_height);
     for (std::size_t x = 1; x < heights.size(); ++x) {
@@ -100,6 +103,7 @@ void FieldPicture::ground(std::span<const int> heights, Colour colour, int width
 }
 
 void FieldPicture::filledCircle(int x, int y, int radius, Colour colour) {
+    if (m_screen.empty()) return;
     const double r = radius * (m_width - 1) / kUnits;
     const int reach = static_cast<int>(r);
     const int cx = column(x), cy = row(y);
@@ -111,7 +115,9 @@ void FieldPicture::filledCircle(int x, int y, int radius, Colour colour) {
 }
 
 FieldPicture::LiftedPoint FieldPicture::liftPoint(int x, int y, int width) const {
-    LiftedPoint lifted{clipped(dotArea(x, y, width)), {}, m_making, m_passing.size()};
+    LiftedPoint lifted{{}, {}, m_making, m_passing.size()};
+    if (m_screen.empty()) return lifted;
+    lifted.area = clipped(dotArea(x, y, width));
     for (int line = 0; line < lifted.area.height; ++line) {
         const auto* from = m_screen.data() + index(lifted.area.x, lifted.area.y + line);
         lifted.pixels.insert(lifted.pixels.end(), from, from + lifted.area.width);
@@ -122,6 +128,7 @@ FieldPicture::LiftedPoint FieldPicture::liftPoint(int x, int y, int width) const
 void FieldPicture::putBack(const LiftedPoint& lifted) {
     if (lifted.making != m_making) return;
     while (m_passing.size() > lifted.passing) m_passing.pop_back();
+    if (lifted.area.isEmpty()) return;
     auto from = lifted.pixels.begin();
     for (int line = 0; line < lifted.area.height; ++line) {
         std::copy_n(from, lifted.area.width,

@@ -69,6 +69,8 @@ struct GlintProperties {
     bool ShowFocusRect = false;
     bool CheckBoxBehaviour = false;  ///< each click inverts Value
     bool Value = false;
+
+    bool operator==(const GlintProperties&) const = default;
 };
 
 /// What a button is drawn with; all are literal colours.
@@ -113,6 +115,8 @@ struct GlintState : GlintProperties {
     GlintSize picture;            ///< of PictureNormal, 0 x 0 without one
     GlintRect text, textPressed;  ///< the caption, and the same moved by 1, 1
     GlintRect picturePlace;
+
+    bool operator==(const GlintState&) const = default;
 };
 
 }  // namespace skylob

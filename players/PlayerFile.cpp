@@ -99,7 +99,7 @@ void PlayerFile::checkNumber(int number, int last) const {
 
 void PlayerFile::readRecord(int number) {
     checkNumber(number, held());
-    CurrentRecord = unpackRecord(recordIn(m_bytes, number));
+    unpackRecord(recordIn(m_bytes, number), CurrentRecord);
 }
 
 void PlayerFile::keepRecord(int number) {
@@ -142,15 +142,16 @@ bool PlayerFile::NameAlreadyExists(std::string_view name) {
 }
 
 std::string PlayerFile::ranked(std::span<const int> recordNumbers) {
-    std::string list;
+    std::string list(recordNumbers.size() * kRecordLength, '\0');
+    auto record = list.begin();
     std::int16_t place = 0;
     for (const int number : recordNumbers) {
         readRecord(number);
         ++place;
         // Quirk "rank is the row": those who have none are counted, too.
         CurrentRecord.Ranking = CurrentRecord.SetsPlayed >= 1 ? place : std::int16_t{0};
-        const auto record = packRecord(CurrentRecord);
-        list.append(record.data(), record.size());
+        packRecord(CurrentRecord, std::span<char, kRecordLength>{record, kRecordLength});
+        record += kLength;
     }
     return list;
 }
@@ -169,7 +170,8 @@ void PlayerFile::rewrite(std::span<const int> recordNumbers) {
     std::string list = ranked(recordNumbers);
     addLeftover(list);
     m_files.replaceContent(PlayerFileName, list, m_tempFileName);
-    hold(list, countIn(static_cast<std::int64_t>(list.size()), "holds"));
+    const int count = countIn(static_cast<std::int64_t>(list.size()), "holds");
+    hold(std::move(list), count);
     m_kept.clear();  // they are in it
 }
 

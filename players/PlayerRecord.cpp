@@ -12,15 +12,15 @@ namespace {
 constexpr std::size_t kSetsPlayedAt = 20, kSetsWonAt = 22, kAverageScoreAt = 24, kRankingAt = 26,
                       kSpareAt = 28;
 
-using Bytes = std::array<char, kRecordLength>;
+using RecordBytes = std::span<char, kRecordLength>;
 
-void putNumber(Bytes& bytes, std::size_t at, std::int16_t number) {
+void putNumber(RecordBytes bytes, std::size_t at, std::int16_t number) {
     const auto bits = static_cast<std::uint16_t>(number);
     bytes[at] = static_cast<char>(bits & 0xFF);
     bytes[at + 1] = static_cast<char>(bits >> 8);
 }
 
-std::int16_t numberAt(const Bytes& bytes, std::size_t at) {
+std::int16_t numberAt(std::string_view bytes, std::size_t at) {
     const unsigned low = static_cast<unsigned char>(bytes[at]);
     const unsigned high = static_cast<unsigned char>(bytes[at + 1]);
     return static_cast<std::int16_t>(high << 8 | low);
@@ -29,7 +29,8 @@ std::int16_t numberAt(const Bytes& bytes, std::size_t at) {
 }  // namespace
 
 std::string nameOf(const PlayerRecord& record) {
-    const std::string name = fromWindows1252({record.Name.data(), record.Name.size()});
+    // Trimmed before as well: a list may have to be searched for a name, and most are short.
+    const std::string name = fromWindows1252(trimBlanks({record.Name.data(), record.Name.size()}));
     return std::string{trimBlanks(name)};
 }
 
@@ -47,27 +48,38 @@ std::string nameOnFile(std::string_view name) {
     return nameOf(record);
 }
 
-Bytes packRecord(const PlayerRecord& record) {
-    Bytes bytes{};
+void packRecord(const PlayerRecord& record, RecordBytes bytes) {
     std::copy(record.Name.begin(), record.Name.end(), bytes.begin());
     putNumber(bytes, kSetsPlayedAt, record.SetsPlayed);
     putNumber(bytes, kSetsWonAt, record.SetsWon);
     putNumber(bytes, kAverageScoreAt, record.AverageScore);
     putNumber(bytes, kRankingAt, record.Ranking);
     bytes[kSpareAt] = static_cast<char>(record.Spare);
+}
+
+std::array<char, kRecordLength> packRecord(const PlayerRecord& record) {
+    std::array<char, kRecordLength> bytes;
+    packRecord(record, bytes);
     return bytes;
 }
 
+void unpackRecord(std::string_view bytes, PlayerRecord& record) {
+    std::array<char, kRecordLength> filledUp{};
+    if (bytes.size() < kRecordLength) {
+        std::copy(bytes.begin(), bytes.end(), filledUp.begin());
+        bytes = {filledUp.data(), filledUp.size()};
+    }
+    std::copy_n(bytes.begin(), kNameLength, record.Name.begin());
+    record.SetsPlayed = numberAt(bytes, kSetsPlayedAt);
+    record.SetsWon = numberAt(bytes, kSetsWonAt);
+    record.AverageScore = numberAt(bytes, kAverageScoreAt);
+    record.Ranking = numberAt(bytes, kRankingAt);
+    record.Spare = static_cast<std::uint8_t>(bytes[kSpareAt]);
+}
+
 PlayerRecord unpackRecord(std::string_view bytes) {
-    Bytes whole{};
-    std::copy_n(bytes.begin(), std::min(bytes.size(), whole.size()), whole.begin());
     PlayerRecord record;
-    std::copy_n(whole.begin(), kNameLength, record.Name.begin());
-    record.SetsPlayed = numberAt(whole, kSetsPlayedAt);
-    record.SetsWon = numberAt(whole, kSetsWonAt);
-    record.AverageScore = numberAt(whole, kAverageScoreAt);
-    record.Ranking = numberAt(whole, kRankingAt);
-    record.Spare = static_cast<std::uint8_t>(whole[kSpareAt]);
+    unpackRecord(bytes, record);
     return record;
 }
 

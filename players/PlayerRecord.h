@@ -3,6 +3,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -44,8 +45,10 @@ std::string nameOnFile(std::string_view name);
 
 /// A record as the file has it, in whole numbers of two bytes with the lower one first.
 std::array<char, kRecordLength> packRecord(const PlayerRecord& record);
+void packRecord(const PlayerRecord& record, std::span<char, kRecordLength> bytes);
 
 /// Reads a record from up to 29 bytes; missing ones count as zero.
 PlayerRecord unpackRecord(std::string_view bytes);
+void unpackRecord(std::string_view bytes, PlayerRecord& record);
 
 }  // namespace skylob

@@ -54,6 +54,11 @@ char32_t takeCharacter(std::string_view& utf8) {
     return whole ? character : kNoCharacter;
 }
 
+/// Whether a byte is the same in both encodings and is shown as it is.
+bool isPlain(char byte) {
+    return byte >= 0x20 && byte < 0x7F;
+}
+
 void appendUtf8(std::string& text, char32_t character) {
     const auto append = [&text](char32_t byte) { text += static_cast<char>(byte); };
     if (character < 0x80) return append(character);
@@ -85,6 +90,7 @@ std::string toWindows1252(std::string_view utf8) {
 }
 
 std::string fromWindows1252(std::string_view bytes) {
+    if (std::all_of(bytes.begin(), bytes.end(), isPlain)) return std::string{bytes};
     std::string utf8;
     for (std::size_t place = 0; place < bytes.size(); ++place) {
         const std::size_t byte = byteAt(bytes, place);

@@ -65,7 +65,7 @@ void GlintButton::paintEvent(QPaintEvent*) {
                              .corner = toDevice.map(QPointF{0, 0})};
     // In device pixels, because the corner may lie between two of them.
     painter.setTransform(toDevice.inverted());
-    painter.drawImage(canvas.corner.toPoint(), paintGlintButton(canvas));
+    painter.drawImage(canvas.corner.toPoint(), m_drawing.of(canvas));
 }
 
 void GlintButton::resizeEvent(QResizeEvent*) {

@@ -6,6 +6,7 @@
 #include "controls/GlintDesign.h"
 #include "controls/GlintInteraction.h"
 #include "controls/qt/GlintButtonPictures.h"
+#include "controls/qt/GlintKeptDrawing.h"
 #include "controls/qt/QtGlintHost.h"
 
 namespace skylob {
@@ -83,6 +84,7 @@ class GlintButton : public QWidget {
     QtGlintHost m_host;
     GlintDesign m_design;
     GlintInteraction m_interaction;
+    GlintKeptDrawing m_drawing;
 };
 
 }  // namespace skylob

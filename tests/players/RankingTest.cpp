@@ -79,6 +79,14 @@ TEST_F(RecordSetResultsTest, KeepsTheOrderOfEqualTextsAndOfAllWhoseNamesDiffer) 
                   record(" Al Fox", 1, 0, 58, 5));
 }
 
+TEST_F(RecordSetResultsTest, ComparesTextsToTheirLastCharacter) {
+    // "-16425.44", "-16425.41", "-16425.43"
+    EXPECT_EQ(recordIn(record("Ida", 2, 226, 157, 0) + record("Jon", 3, 244, 218, 0) +
+                       record("Kay", 1, 100, 177, 0)),
+              record("Jon", 3, 244, 218, 1) + record("Kay", 1, 100, 177, 2) +
+                  record("Ida", 2, 226, 157, 3));
+}
+
 TEST_F(RecordSetResultsTest, LeavesASinglePlayerUnranked) {
     EXPECT_EQ(recordIn(ann), record("Ann", 1, 1, 104, 0));
     EXPECT_EQ(recordIn(""), "");

@@ -6,6 +6,7 @@
 #include <QJsonObject>
 #include <QLabel>
 #include <QTest>
+#include <functional>
 
 #include "controls/qt/GlintButtonAccessible.h"
 #include "controls/qt/QtPropertyBagFile.h"
@@ -198,6 +199,25 @@ class GlintButtonTest : public QObject {
         QVERIFY(!shape.contains(QPoint{99, 0}));
         form.design.setButtonType(2);
         QVERIFY(form.first.mask().isEmpty());
+    }
+
+    void showsEveryChangeAtOnce() {
+        Form form;
+        form.second.setFocus();
+        QImage before = form.first.grab().toImage();
+        const std::function<void()> changes[] = {
+            [&form] { form.design.setCaption("Last"); },
+            [&form] { form.design.setFont({.name = "Noto Sans", .size = 17}); },
+            [&form] { form.design.setFont({.name = "Noto Sans", .size = 17, .underline = true}); },
+            [&form] { form.design.setPictureNormal("shell 24"); },
+            [&form] { form.first.setEnabled(false); },
+            [&form] { form.first.resize(101, 41); }};
+        for (const auto& change : changes) {
+            change();
+            const QImage after = form.first.grab().toImage();
+            QVERIFY2(after != before, qPrintable(QString::number(&change - changes)));
+            before = after;
+        }
     }
 
     void showsGlassOverWhatLiesBehind() {
