@@ -7,7 +7,7 @@
 namespace skylob {
 
 namespace {
-constexpr std::string_view kKey = "Scale";
+constexpr std::string_view kScaleKey = "Scale";
 }
 
 std::optional<int> scaleOf(std::string_view text) {
@@ -17,11 +17,11 @@ std::optional<int> scaleOf(std::string_view text) {
 }
 
 int recallScale(const WindowStore& windows) {
-    return scaleOf(windows.recall(kKey, "")).value_or(kNormalScale);
+    return scaleOf(windows.recall(kScaleKey, "")).value_or(kNormalScale);
 }
 
 void keepScale(WindowStore& windows, int percent) {
-    windows.keep(kKey, std::to_string(percent));
+    windows.keep(kScaleKey, std::to_string(percent));
 }
 
 }  // namespace skylob

@@ -7,16 +7,16 @@
 namespace skylob {
 
 namespace {
-constexpr std::string_view kKey = "Volume";
+constexpr std::string_view kVolumeKey = "Volume";
 }
 
 int recallVolume(const WindowStore& windows) {
-    const int percent = wholeNumber(windows.recall(kKey, "")).value_or(kFullVolume);
+    const int percent = wholeNumber(windows.recall(kVolumeKey, "")).value_or(kFullVolume);
     return percent >= 0 && percent <= kFullVolume ? percent : kFullVolume;
 }
 
 void keepVolume(WindowStore& windows, int percent) {
-    windows.keep(kKey, std::to_string(percent));
+    windows.keep(kVolumeKey, std::to_string(percent));
 }
 
 }  // namespace skylob

@@ -9,7 +9,7 @@ namespace {
 
 using std::to_string;
 
-std::string counted(int number, const char* one, const char* more) {
+std::string numberAnd(int number, const char* one, const char* more) {
     return to_string(number) + (number == 1 ? one : more);
 }
 
@@ -35,7 +35,7 @@ std::string place(int column, int height) {
 
 std::string piece(int side, const BattleState& state, const basSkylob& shared) {
     return whose(side, shared, At::Middle) + " piece with " +
-           counted(state.turnNotice.menLeft[side], " man", " men") +
+           numberAnd(state.turnNotice.menLeft[side], " man", " men") +
            place(state.field.PieceX[side], state.field.PieceY[side]);
 }
 
@@ -57,10 +57,10 @@ std::string turnSentence(const BattleState& state, const basSkylob& shared) {
 std::string landing(const ShotReport& shot) {
     if (shot.landing == Landing::OutOfBounds)
         return shot.landedLeft ? "left the field on the left" : "left the field on the right";
-    std::string text = "fell " + counted(std::abs(shot.beyond), " column ", " columns ") +
+    std::string text = "fell " + numberAnd(std::abs(shot.beyond), " column ", " columns ") +
                        (shot.beyond < 0 ? "short" : "past");
     if (shot.landing == Landing::NearMiss)
-        text += " and killed " + counted(shot.killed, " man", " men");
+        text += " and killed " + numberAnd(shot.killed, " man", " men");
     return text;
 }
 

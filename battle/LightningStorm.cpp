@@ -7,13 +7,14 @@ namespace skylob {
 
 namespace {
 
-constexpr int kFirstColumn = 5, kLastColumn = 995;
+constexpr int kFirstBoltColumn = 5, kLastBoltColumn = 995;
 constexpr int kLowest = 5;             // a bolt ends that near to the ground
 constexpr std::size_t kStretch = 100;  // points between two choices of the tendency
 constexpr int kPauseSeconds = 50;      // at least; and for each bolt as many again at most
 
 bool isInTheSky(FieldPoint at, const Battlefield& field) {
-    return at.x >= kFirstColumn && at.x <= kLastColumn && at.y > field.heightAt(at.x) + kLowest;
+    return at.x >= kFirstBoltColumn && at.x <= kLastBoltColumn &&
+           at.y > field.heightAt(at.x) + kLowest;
 }
 
 /// How far a bolt moves sideways on its way from the height y, -1 to 1. The sense, -1 or 0, of its

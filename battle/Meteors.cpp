@@ -10,9 +10,9 @@ namespace skylob {
 namespace {
 
 constexpr int kMostSteps = 1200;
-constexpr int kFirstColumn = 15, kLastColumn = 985;  // a meteor beyond them has left the sky
-constexpr int kImpactHeight = 15;                    // above the ground
-constexpr int kNarrow = 2, kWide = 3;                // a meteor flickers between these widths
+constexpr int kFirstSkyColumn = 15, kLastSkyColumn = 985;  // a meteor beyond them has left the sky
+constexpr int kImpactHeight = 15;                          // above the ground
+constexpr int kNarrow = 2, kWide = 3;                      // a meteor flickers between these widths
 
 int startHeight(const Battlefield& field, int column, RandomSource& random) {
     if (column == 1 || column == 999) return RandomInt(random, field.heightAt(column) + 20, 980);
@@ -41,7 +41,7 @@ MeteorPath meteorPath(const Battlefield& field, RandomSource& random) {
         at.x += step;
         at.y += RandomInt(random, -1, 0) + slope;
         // Quirk "off the field": asked before the ground, so it does not explode.
-        if (at.x < kFirstColumn || at.x > kLastColumn) return path;
+        if (at.x < kFirstSkyColumn || at.x > kLastSkyColumn) return path;
         path.hitsGround = at.y <= field.heightAt(at.x) + kImpactHeight;
         if (path.hitsGround) return path;
         path.points.push_back(at);

@@ -1,6 +1,8 @@
-# Sounds, pictures and forms are part of the program. They hang on the executables that use them: in a
-# static library the linker would drop them.
-function(skylob_add_resources target)
+# Sounds, pictures and forms are part of the program, compiled once. The executables that use them link
+# skylob_resources, which is no static library: of that the linker would drop them.
+function(skylob_make_resources)
+    set(target skylob_resources)
+    add_library(${target} OBJECT)
     file(GLOB sounds CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/resources/sounds/*.wav)
     file(GLOB look CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/resources/look/*.png
         ${PROJECT_SOURCE_DIR}/resources/look/*.qss)

@@ -24,6 +24,12 @@ function(skylob_add_layer library room)
         target_link_libraries(${library} PUBLIC ${layer_LINKS} PRIVATE ${layer_USES} skylob_strict)
         # A flight is the same on every machine: no fused multiply-add where the rules round twice.
         target_compile_options(${library} PRIVATE -ffp-contract=off)
+        if(NOT library MATCHES "_qt$")
+            # The tests of a build of no kind, such as that of the preset rules, last less long with it.
+            target_compile_options(${library} PRIVATE $<$<CONFIG:None>:-O1>)
+            skylob_include_beforehand(${library} skylob_base
+                algorithm array charconv cmath functional optional span string string_view vector)
+        endif()
     else()
         add_library(${library} INTERFACE)
         target_include_directories(${library} INTERFACE ${seen})
@@ -48,6 +54,7 @@ function(skylob_check_headers)
     endforeach()
     list(REMOVE_DUPLICATES libraries)
     add_library(headers_alone OBJECT EXCLUDE_FROM_ALL ${alone})
+    set_target_properties(headers_alone PROPERTIES UNITY_BUILD OFF)
     target_link_libraries(headers_alone PRIVATE ${libraries} skylob_strict)
 endfunction()
 
@@ -65,5 +72,9 @@ function(skylob_add_qt_layer library room)
             QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY
             QT_NO_URL_CAST_FROM_STRING QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_NO_FOREACH
             QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+        skylob_include_beforehand(${library} skylob_base_qt
+            algorithm functional memory optional string string_view utility vector
+            QAccessible QApplication QCheckBox QFile QKeyEvent QLabel QPainter QPainterPath QPointer
+            QScreen QScrollBar QShortcut QTimer QWidget QWindow)
     endif()
 endfunction()

@@ -3,7 +3,7 @@
 namespace skylob {
 
 namespace {
-constexpr double kTop = 3, kHeight = 8, kHalfWidth = 5, kGlow = 18;  // logical pixels
+constexpr double kTop = 3, kHeight = 8, kHalfWidth = 5, kArrowGlow = 18;  // logical pixels
 }
 
 void ArrowLight::follow(const FieldSight& sight, ChangedAreas& changed) {
@@ -21,7 +21,7 @@ void ArrowLight::pointTo(const FieldSight& sight, double x) {
     const double top = sight.scaled(kTop), bottom = top + sight.scaled(kHeight);
     const double left = x - sight.scaled(kHalfWidth), right = x + sight.scaled(kHalfWidth);
     m_corners = {LightPoint{x, top}, LightPoint{right, bottom}, LightPoint{left, bottom}};
-    m_glow = {{x, bottom}, sight.scaled(kGlow), kFireLight, 0.5};
+    m_glow = {{x, bottom}, sight.scaled(kArrowGlow), kFireLight, 0.5};
     m_area = m_glow.area();  // which holds the arrow
 }
 

@@ -9,14 +9,14 @@ namespace skylob {
 
 namespace {
 
-constexpr double kRadius = 6;      // logical pixels
+constexpr double kBoltRadius = 6;  // logical pixels
 constexpr double kStrength = 0.2;  // each point's; they lie close together
 constexpr std::size_t kEvery = 2;  // point has a light
 constexpr Colour kSkyLight = kMoonLight;
 constexpr double kSkyStrength = 0.14, kEverywhere = 0.05;
-constexpr double kClearOfGround = 16;  // logical pixels
-constexpr double kSkyWidth = 0.2;      // of the picture's
-constexpr double kAtTheFoot = 0.3;     // of the light at the top
+constexpr double kBoltClearOfGround = 16;  // logical pixels
+constexpr double kSkyWidth = 0.2;          // of the picture's
+constexpr double kAtTheFoot = 0.3;         // of the light at the top
 
 }  // namespace
 
@@ -26,8 +26,8 @@ void BoltLight::follow(const FieldSight& sight, ChangedAreas& changed) {
     if (sight.remade || bolts.size() < before) m_bolts.clear();
     m_skyline = &sight.skyline;
     m_height = sight.picture.height();
-    m_radius = sight.scaled(kRadius);
-    m_far = sight.scaled(kClearOfGround);
+    m_radius = sight.scaled(kBoltRadius);
+    m_far = sight.scaled(kBoltClearOfGround);
     m_bolts.resize(bolts.size());
     for (std::size_t i = 0; i < bolts.size(); ++i) {
         for (std::size_t k = m_bolts[i].size(); k < bolts[i].size(); ++k) {

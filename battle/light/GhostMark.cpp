@@ -10,7 +10,7 @@ namespace skylob {
 
 namespace {
 
-constexpr double kStem = 9, kRadius = 5, kLineWidth = 1.6;  // logical pixels
+constexpr double kStem = 9, kMarkRadius = 5, kLineWidth = 1.6;  // logical pixels
 constexpr int kRingCorners = 16, kDiamondCorners = 4;
 
 int aimingSide(const BattleState& state) {
@@ -35,7 +35,7 @@ void GhostMark::stand(const FieldSight& sight, FieldPoint at) {
     m_foot = sight.middleOf(at);
     m_colour = sideColour(m_side);
     m_lineWidth = sight.scaled(kLineWidth);
-    const double radius = sight.scaled(kRadius), above = sight.scaled(kStem) + radius;
+    const double radius = sight.scaled(kMarkRadius), above = sight.scaled(kStem) + radius;
     const int corners = m_side == kLeftSide ? kRingCorners : kDiamondCorners;
     m_outline.clear();
     for (int i = 0; i <= corners; ++i) {

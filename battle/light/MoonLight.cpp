@@ -9,10 +9,10 @@ namespace skylob {
 
 namespace {
 
-constexpr double kReach = 3.2;  // of the moon's radii
+constexpr double kHaloReach = 3.2;  // of the moon's radii
 constexpr double kStrongest = 0.3, kFaintest = 0.12;
-constexpr double kClearOfGround = 12;  // logical pixels
-constexpr double kDarkSide = 0.25;     // of the light is left there
+constexpr double kMoonClearOfGround = 12;  // logical pixels
+constexpr double kDarkSide = 0.25;         // of the light is left there
 
 }  // namespace
 
@@ -21,7 +21,7 @@ void MoonLight::follow(const FieldSight& sight, ChangedAreas&) {
     const Battlefield& field = sight.state.field;
     const int shadow = moonShadow(field);
     m_skyline = &sight.skyline;
-    m_far = sight.scaled(kClearOfGround);
+    m_far = sight.scaled(kMoonClearOfGround);
     m_strength = 0;
     if (!field.hasMoon() || shadow == 0) return;
     m_at = sight.middleOf({field.MoonX, field.moonY});
@@ -33,7 +33,7 @@ void MoonLight::follow(const FieldSight& sight, ChangedAreas&) {
 
 void MoonLight::paint(LightCanvas& canvas) const {
     if (m_strength == 0) return;
-    const double reach = kReach * m_moonRadius;
+    const double reach = kHaloReach * m_moonRadius;
     canvas.shade({m_at.x - reach, m_at.y - reach}, {m_at.x + reach, m_at.y + reach}, kMoonLight,
                  m_strength, [this, reach](double x, double y) {
                      const double dx = (x - m_at.x) / reach, dy = (y - m_at.y) / reach;

@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::size_t kFlashSteps = 6, kSmokeSteps = 22;
 constexpr Colour kWhiteHot = Colour::fromRgb(0xFFF6D8), kFlame = Colour::fromRgb(0xFFC45A);
-constexpr Colour kGlow = Colour::fromRgb(0xFF9A3C), kSmoke = Colour::fromRgb(0x8C8A94);
+constexpr Colour kMuzzleGlow = Colour::fromRgb(0xFF9A3C), kSmoke = Colour::fromRgb(0x8C8A94);
 
 /// Lengths are units of the gun's grid.
 struct Muzzle {
@@ -26,7 +26,7 @@ struct Muzzle {
 };
 
 void addFlash(LightBurst& burst, const Muzzle& muzzle, double left) {
-    burst.glow(muzzle.before(4, 0), 44 * muzzle.unit, kGlow, 0.5 * left);
+    burst.glow(muzzle.before(4, 0), 44 * muzzle.unit, kMuzzleGlow, 0.5 * left);
     burst.glow(muzzle.before(5, 0), 18 * muzzle.unit, kFlame, 0.9 * left);
     for (const double aside : {-0.5, 0.5})
         burst.line(muzzle.at, muzzle.before(8 * left, 15 * aside * left), 2.6 * muzzle.unit * left,

@@ -10,7 +10,7 @@ namespace skylob {
 
 namespace {
 
-constexpr int kReach = 4;  // logical pixels
+constexpr int kRimReach = 4;  // logical pixels
 constexpr double kContrast = 3.2;
 constexpr double kFiner = 0.02;  // between two strengths that are tried
 
@@ -54,11 +54,11 @@ void RidgeLight::follow(const FieldSight& sight, ChangedAreas&) {
     m_strength = strengthOver(sight.state.field.groundColour);
     m_highest.resize(static_cast<std::size_t>(m_skyline->width()));
     for (int px = 0; px < m_skyline->width(); ++px)
-        m_highest[static_cast<std::size_t>(px)] = highestNear(px) - kReach * m_scale;
+        m_highest[static_cast<std::size_t>(px)] = highestNear(px) - kRimReach * m_scale;
 }
 
 int RidgeLight::highestNear(int px) const {
-    const int reach = kReach * m_scale;
+    const int reach = kRimReach * m_scale;
     int highest = m_skyline->top(px);
     for (int x = std::max(px - reach, 0); x < std::min(px + reach + 1, m_skyline->width()); ++x)
         highest = std::min(highest, m_skyline->top(x));
@@ -67,7 +67,7 @@ int RidgeLight::highestNear(int px) const {
 
 /// 1 on the pixel next to the ground, 0 where the light ends.
 double RidgeLight::nearness(int px, int py) const {
-    const int reach = kReach * m_scale;
+    const int reach = kRimReach * m_scale;
     int nearest = reach * reach;  // squared
     for (int x = std::max(px - reach, 0); x < std::min(px + reach + 1, m_skyline->width()); ++x) {
         const int dx = x - px, dy = std::max(m_skyline->top(x) - py, 0);

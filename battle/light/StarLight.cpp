@@ -7,7 +7,7 @@ namespace {
 constexpr int kHeld = 8;  // steps that a strength is held: what changes costs time
 constexpr double kStrengths[] = {0.2, 0.45, 0.75, 0.9, 0.75, 0.45, 0.2};
 constexpr int kTwinkle = kHeld * static_cast<int>(std::size(kStrengths));
-constexpr double kRadius = 3;  // logical pixels
+constexpr double kStarRadius = 3;  // logical pixels
 constexpr Colour kStarLight = Colour::fromRgb(0xE8F2FF);
 
 Glow twinkle(const FieldSight& sight, int number) {
@@ -18,7 +18,7 @@ Glow twinkle(const FieldSight& sight, int number) {
     const double chosen = scattered(turn) * static_cast<double>(stars.size());
     const auto& star = stars[static_cast<std::size_t>(chosen)];
     if (sight.picture.pixel(star.x, star.y) != star.colour) return {};  // behind the moon
-    return {sight.middleOf({star.x, star.y}), sight.scaled(kRadius), kStarLight,
+    return {sight.middleOf({star.x, star.y}), sight.scaled(kStarRadius), kStarLight,
             kStrengths[time % kTwinkle / kHeld]};
 }
 

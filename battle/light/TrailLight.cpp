@@ -6,7 +6,7 @@ namespace skylob {
 
 namespace {
 
-constexpr double kRadius = 3;  // logical pixels
+constexpr double kTrailRadius = 3;  // logical pixels
 constexpr struct {
     std::size_t age;
     double strength;
@@ -40,7 +40,7 @@ void TrailLight::follow(const FieldSight& sight, ChangedAreas& changed) {
     for (; m_followed < flight.path.size(); ++m_followed) {
         if (!flight.leavesTrail) continue;
         const LightPoint at = sight.middleOf(flight.path[m_followed]);
-        m_beads.push_back({{at, sight.scaled(kRadius), sideColour(flight.side), 0}, {}});
+        m_beads.push_back({{at, sight.scaled(kTrailRadius), sideColour(flight.side), 0}, {}});
     }
     if (m_beads.size() > before) age(before > kOldest ? before - kOldest - 1 : 0, changed);
     if (hasLanded && !m_beads.empty()) {  // where it comes down it leaves a black mark

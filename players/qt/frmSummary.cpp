@@ -58,9 +58,9 @@ void addCaption(const QRect& place, const QString& text, QtSideFrame& frame) {
 
 /// A row of a caption and a figure. Returns the figure's label.
 QLabel* addRow(QtSideFrame& frame, int top, const QString& text, const char* name, int number) {
-    constexpr int kRowHeight = 28;
-    addCaption({12, top, 190, kRowHeight}, text, frame);
-    auto* figure = makeLabel({204, top, 60, kRowHeight}, "figure", &frame);
+    constexpr int kFigureHeight = 28;
+    addCaption({12, top, 190, kFigureHeight}, text, frame);
+    auto* figure = makeLabel({204, top, 60, kFigureHeight}, "figure", &frame);
     figure->setObjectName(QStringLiteral("%1(%2)").arg(QLatin1String{name}).arg(frame.side()));
     figure->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     figure->setText(QString::number(number));

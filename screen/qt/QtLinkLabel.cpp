@@ -23,7 +23,7 @@ class AccessibleLink : public QtSpokenWidget {
     }
 };
 
-QAccessibleInterface* makeAccessible(const QString&, QObject* object) {
+QAccessibleInterface* makeLinkAccessible(const QString&, QObject* object) {
     auto* label = qobject_cast<QtLinkLabel*>(object);
     return label ? new AccessibleLink{label} : nullptr;
 }
@@ -39,7 +39,7 @@ QtLinkLabel::QtLinkLabel(const QString& text, QWidget* parent) : QLabel{text, pa
 }
 
 void QtLinkLabel::installAccessible() {
-    QAccessible::installFactory(makeAccessible);
+    QAccessible::installFactory(makeLinkAccessible);
 }
 
 /// When it is made ready, and when it gets the focus, a label that can have the focus makes a

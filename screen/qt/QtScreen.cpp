@@ -32,7 +32,7 @@ class ScreenAccessible : public QtSpokenWidget {
     }
 };
 
-QAccessibleInterface* makeAccessible(const QString&, QObject* object) {
+QAccessibleInterface* makeScreenAccessible(const QString&, QObject* object) {
     auto* screen = qobject_cast<QtScreen*>(object);
     return screen ? new ScreenAccessible{screen} : nullptr;
 }
@@ -121,7 +121,7 @@ void QtScreen::fitToDisplay() {
 }
 
 void QtScreen::installAccessible() {
-    QAccessible::installFactory(makeAccessible);
+    QAccessible::installFactory(makeScreenAccessible);
 }
 
 void QtScreen::showModal(const QWidget* above) {

@@ -38,7 +38,7 @@ gone "$battle"
 leave_program
 
 start_compositing
-SKYLOB_EXPECT_FADES=1 "$2" takesNoInputWhileItFadesAndLeavesOnce \
+SKYLOB_EXPECT_FADES=1 "$2" QtScreenTest takesNoInputWhileItFadesAndLeavesOnce \
     isRunUntilEscapeWhereItIsModal >"$work/screen" || fail "no fade of a screen: $(<"$work/screen")"
 start_program
 watch "$title"

@@ -8,7 +8,7 @@ is_hovered() { not is_turn; }
 calm
 players Ann Bob
 start_display
-"$3" hoversUntilThePointerLeaves >"$work/tested" || fail "$(<"$work/tested")"
+"$3" GlintButtonTest hoversUntilThePointerLeaves >"$work/tested" || fail "$(<"$work/tested")"
 start_game
 start_battle
 point_at_gold

@@ -112,7 +112,7 @@ class ApplicationTest : public QObject {
 
 }  // namespace skylob::test
 
-int main(int argc, char** argv) {
+int ApplicationTest_main(int argc, char** argv) {
     const skylob::test::TempFolder folder;
     const auto put = [&folder](const char* name, const std::string& bytes) {
         skylob::test::putBytes(folder / name, bytes);

@@ -48,5 +48,8 @@ class CommandLineTest : public QObject {
 
 }  // namespace skylob::test
 
-QTEST_APPLESS_MAIN(skylob::test::CommandLineTest)
+int CommandLineTest_main(int argc, char** argv) {
+    skylob::test::CommandLineTest test;
+    return QTest::qExec(&test, argc, argv);
+}
 #include "CommandLineTest.moc"

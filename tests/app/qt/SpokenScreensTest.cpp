@@ -15,6 +15,7 @@
 #include "screen/qt/QtSpokenControls.h"
 #include "tests/support/BattleScreen.h"
 #include "tests/support/PlayersRig.h"
+#include "tests/support/ScreenTest.h"
 #include "tests/support/Spoken.h"
 #include "title/qt/frmNewUser.h"
 #include "title/qt/frmTitlePage.h"
@@ -121,5 +122,7 @@ class SpokenScreensTest : public QObject {
 
 }  // namespace skylob::test
 
-QTEST_MAIN(skylob::test::SpokenScreensTest)
+int SpokenScreensTest_main(int argc, char** argv) {
+    return skylob::test::runTest<skylob::test::SpokenScreensTest>(argc, argv);
+}
 #include "SpokenScreensTest.moc"

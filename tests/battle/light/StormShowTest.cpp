@@ -65,7 +65,7 @@ TEST_P(Show, LightsBlackPixelsAloneAndIsGoneInTheEnd) {
     EXPECT_EQ(changedPixels(), 0);
 }
 
-constexpr std::uint32_t kRulesPiece = 0xFF305071u;
+constexpr std::uint32_t kPiece = 0xFF305071u;
 
 /// Guns whose drawings reach 9 pixels beyond the piece, as dark as a barrel's outline.
 struct DarkGuns : GunDrawings {
@@ -84,7 +84,7 @@ TEST(StormShow, LightsTheSkyBehindTheGunsAndDarkensNothing) {
     BareSky sky;
     sky.picture.resize(984, 512, 1);
     const auto [width, height] = sky.picture.pieceSize();
-    const std::vector<std::uint32_t> grey(static_cast<std::size_t>(width * height), kRulesPiece);
+    const std::vector<std::uint32_t> grey(static_cast<std::size_t>(width * height), kPiece);
     for (const int side : kSides) sky.picture.setPieceImage(side, {width, height, grey});
     drawBattlefield(sky.state.field, sky.picture, 2);
     sky.animation.scene().bolts = {{{300, 900}, {300, 700}}};  // which light the sky, too
@@ -104,7 +104,7 @@ TEST(StormShow, LightsTheSkyBehindTheGunsAndDarkensNothing) {
                 const std::uint32_t before = layer.pixels()[y * 984 + x];
                 darker += luma(pixel) < luma(before) - 2;
                 onGuns += before == DarkGuns::kDark;
-                onPieces += sky.picture.screenPixels()[y * 984 + x] == kRulesPiece;
+                onPieces += sky.picture.screenPixels()[y * 984 + x] == kPiece;
             }
     }
     EXPECT_GT(lit, 1'000'000);

@@ -2,6 +2,7 @@
 #include <QWheelEvent>
 
 #include "tests/support/BattleScreen.h"
+#include "tests/support/ScreenTest.h"
 
 using namespace skylob;
 using test::Screen;
@@ -176,5 +177,7 @@ class HandsTest : public QObject {
     }
 };
 
-QTEST_MAIN(HandsTest)
+int HandsTest_main(int argc, char** argv) {
+    return skylob::test::runTest<HandsTest>(argc, argv);
+}
 #include "HandsTest.moc"

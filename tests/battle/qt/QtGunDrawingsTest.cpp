@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "look/qt/QtShapes.h"
+#include "tests/support/ScreenTest.h"
 
 namespace skylob::test {
 
@@ -81,5 +82,7 @@ void QtGunDrawingsTest::sidesAreToldApartByShape() {
 
 }  // namespace skylob::test
 
-QTEST_MAIN(skylob::test::QtGunDrawingsTest)
+int QtGunDrawingsTest_main(int argc, char** argv) {
+    return skylob::test::runTest<skylob::test::QtGunDrawingsTest>(argc, argv);
+}
 #include "QtGunDrawingsTest.moc"

@@ -9,6 +9,7 @@
 #include "controls/qt/GlintButtonAccessible.h"
 #include "screen/qt/QtSpokenControls.h"
 #include "tests/support/BattleScreen.h"
+#include "tests/support/ScreenTest.h"
 #include "tests/support/Spoken.h"
 
 namespace skylob::test {
@@ -104,5 +105,7 @@ class SpokenRoundTest : public QObject {
 
 }  // namespace skylob::test
 
-QTEST_MAIN(skylob::test::SpokenRoundTest)
+int SpokenRoundTest_main(int argc, char** argv) {
+    return skylob::test::runTest<skylob::test::SpokenRoundTest>(argc, argv);
+}
 #include "SpokenRoundTest.moc"

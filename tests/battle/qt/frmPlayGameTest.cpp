@@ -14,6 +14,7 @@
 #include "controls/qt/GlintButton.h"
 #include "screen/qt/QtMessageBoxes.h"
 #include "tests/support/BattleScreen.h"
+#include "tests/support/ScreenTest.h"
 
 using namespace skylob;
 using test::Screen;
@@ -411,5 +412,7 @@ class frmPlayGameTest : public QObject {
     }
 };
 
-QTEST_MAIN(frmPlayGameTest)
+int frmPlayGameTest_main(int argc, char** argv) {
+    return skylob::test::runTest<frmPlayGameTest>(argc, argv);
+}
 #include "frmPlayGameTest.moc"

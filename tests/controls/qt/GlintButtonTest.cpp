@@ -12,6 +12,7 @@
 #include "controls/qt/QtPropertyBagFile.h"
 #include "look/qt/QtShapes.h"
 #include "tests/support/CapturedErrors.h"
+#include "tests/support/ScreenTest.h"
 
 using namespace skylob;
 
@@ -314,5 +315,7 @@ class GlintButtonTest : public QObject {
     }
 };
 
-QTEST_MAIN(GlintButtonTest)
+int GlintButtonTest_main(int argc, char** argv) {
+    return skylob::test::runTest<GlintButtonTest>(argc, argv);
+}
 #include "GlintButtonTest.moc"

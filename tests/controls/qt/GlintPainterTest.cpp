@@ -5,14 +5,15 @@
 
 #include "controls/qt/GlintButton.h"
 #include "look/qt/QtShapes.h"
+#include "tests/support/ScreenTest.h"
 
 using namespace skylob;
 
 constexpr double kRatios[] = {1, 1.25, 1.5, 1.75, 2};
 
 /// A red window with one button of 100 x 40, dark with a white caption unless told.
-struct Form {
-    explicit Form(QPoint place = {20, 20}, ColourReference back = 0x202020) {
+struct PaintedForm {
+    explicit PaintedForm(QPoint place = {20, 20}, ColourReference back = 0x202020) {
         window.setFixedSize(160, 90);
         window.setPalette(QPalette{Qt::red});
         button.setGeometry(QRect{place, QSize{100, 40}});
@@ -66,7 +67,7 @@ class GlintPainterTest : public QObject {
     void drawsWholeOutlinesAtAnyScale() {
         for (const double ratio : kRatios)
             for (const QPoint& place : {QPoint{20, 20}, {21, 22}, {23, 19}}) {
-                Form form{place, 0xC0A0A0};  // its outline is black
+                PaintedForm form{place, 0xC0A0A0};  // its outline is black
                 form.button.design().setButtonType(3);
                 QCOMPARE(leaks(form.shown(ratio)), 0);
             }
@@ -76,7 +77,7 @@ class GlintPainterTest : public QObject {
         const int steps[] = {1, 1, 2, 2, 2};  // a logical pixel, rounded
         for (int i = 0; i < 2 * 5; ++i) {
             const int step = steps[i % 5];
-            Form form;
+            PaintedForm form;
             form.button.design().setCaption(i < 5 ? "Hill" : "");
             form.button.design().setPictureNormal(i < 5 ? "" : "ok 16");
             const QRect up = form.white(kRatios[i % 5]);
@@ -95,7 +96,7 @@ class GlintPainterTest : public QObject {
         QTemporaryDir folder;
         const QString path = folder.filePath("four@2x.png");
         QVERIFY(file.save(path));
-        Form form;
+        PaintedForm form;
         form.button.design().setPictureNormal(path.toStdString());
         const QRect place{20 + 46, 20 + 18, 8, 4};
         for (const double ratio : {1.0, 2.0}) {
@@ -119,5 +120,7 @@ class GlintPainterTest : public QObject {
     }
 };
 
-QTEST_MAIN(GlintPainterTest)
+int GlintPainterTest_main(int argc, char** argv) {
+    return skylob::test::runTest<GlintPainterTest>(argc, argv);
+}
 #include "GlintPainterTest.moc"

@@ -7,6 +7,7 @@
 #include <QTimer>
 
 #include "manual/qt/QtManualPrinter.h"
+#include "tests/support/ScreenTest.h"
 
 using namespace skylob;
 
@@ -74,5 +75,7 @@ class PrintTest : public QObject {
     const QTemporaryDir m_folder;
 };
 
-QTEST_MAIN(PrintTest)
+int PrintTest_main(int argc, char** argv) {
+    return skylob::test::runTest<PrintTest>(argc, argv);
+}
 #include "PrintTest.moc"

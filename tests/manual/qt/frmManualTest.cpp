@@ -10,6 +10,7 @@
 #include "look/qt/QtShapes.h"
 #include "screen/qt/QtLinkLabel.h"
 #include "tests/support/Fakes.h"
+#include "tests/support/ScreenTest.h"
 
 using namespace skylob;
 
@@ -58,5 +59,7 @@ class frmManualTest : public QObject {
     }
 };
 
-QTEST_MAIN(frmManualTest)
+int frmManualTest_main(int argc, char** argv) {
+    return skylob::test::runTest<frmManualTest>(argc, argv);
+}
 #include "frmManualTest.moc"

@@ -6,6 +6,7 @@
 #include <QWindow>
 
 #include "platform/qt/QtPacer.h"
+#include "tests/support/ScreenTest.h"
 
 using namespace skylob;
 
@@ -84,5 +85,7 @@ class PacerTest : public QObject {
     }
 };
 
-QTEST_MAIN(PacerTest)
+int PacerTest_main(int argc, char** argv) {
+    return skylob::test::runTest<PacerTest>(argc, argv);
+}
 #include "PacerTest.moc"

@@ -10,6 +10,7 @@
 #include "platform/qt/QtSettingsStore.h"
 #include "platform/qt/QtWindowStore.h"
 #include "tests/support/CapturedErrors.h"
+#include "tests/support/ScreenTest.h"
 
 using namespace skylob;
 using namespace std::string_literals;
@@ -87,5 +88,7 @@ class SettingsStoreTest : public QObject {
     const QString m_file = m_folder.filePath("Skylob/Skylob.ini");
 };
 
-QTEST_GUILESS_MAIN(SettingsStoreTest)
+int SettingsStoreTest_main(int argc, char** argv) {
+    return skylob::test::runTest<SettingsStoreTest, QCoreApplication>(argc, argv);
+}
 #include "SettingsStoreTest.moc"

@@ -10,6 +10,7 @@
 #include "platform/qt/SdlSoundPlayer.h"
 #include "platform/qt/SoundModule.h"
 #include "tests/support/CapturedErrors.h"
+#include "tests/support/ScreenTest.h"
 
 using namespace skylob;
 
@@ -155,5 +156,7 @@ class SoundTest : public QObject {
     }
 };
 
-QTEST_GUILESS_MAIN(SoundTest)
+int SoundTest_main(int argc, char** argv) {
+    return skylob::test::runTest<SoundTest, QCoreApplication>(argc, argv);
+}
 #include "SoundTest.moc"

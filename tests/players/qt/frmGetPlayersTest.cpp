@@ -19,6 +19,7 @@
 #include "players/qt/frmSummary.h"
 #include "screen/qt/QtModalGuard.h"
 #include "tests/support/PlayersRig.h"
+#include "tests/support/ScreenTest.h"
 
 namespace skylob::test {
 
@@ -263,5 +264,7 @@ class frmGetPlayersTest : public QObject {
 
 }  // namespace skylob::test
 
-QTEST_MAIN(skylob::test::frmGetPlayersTest)
+int frmGetPlayersTest_main(int argc, char** argv) {
+    return skylob::test::runTest<skylob::test::frmGetPlayersTest>(argc, argv);
+}
 #include "frmGetPlayersTest.moc"

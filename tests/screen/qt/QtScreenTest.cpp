@@ -19,6 +19,7 @@
 #include "screen/qt/QtEnterGuard.h"
 #include "screen/qt/QtMessageBoxes.h"
 #include "screen/qt/QtWindowPlaces.h"
+#include "tests/support/ScreenTest.h"
 
 namespace skylob::test {
 
@@ -244,5 +245,7 @@ class QtScreenTest : public QObject {
 
 }  // namespace skylob::test
 
-QTEST_MAIN(skylob::test::QtScreenTest)
+int QtScreenTest_main(int argc, char** argv) {
+    return skylob::test::runTest<skylob::test::QtScreenTest>(argc, argv);
+}
 #include "QtScreenTest.moc"

@@ -3,6 +3,7 @@
 #include <QTest>
 
 #include "look/qt/QtShapes.h"
+#include "tests/support/ScreenTest.h"
 #include "title/qt/QtTitleAnimation.h"
 
 using namespace skylob;
@@ -70,5 +71,7 @@ class TitleAnimationTest : public QObject {
     Motion m_motion = Motion::Full;
 };
 
-QTEST_MAIN(TitleAnimationTest)
+int TitleAnimationTest_main(int argc, char** argv) {
+    return skylob::test::runTest<TitleAnimationTest>(argc, argv);
+}
 #include "TitleAnimationTest.moc"
