@@ -50,13 +50,13 @@ bool GunLight::isIn(int py) const {
 }
 
 bool GunLight::covers(int px, int py) const {
-    for (const int side : kSides) {
+    return std::any_of(kSides.begin(), kSides.end(), [&](int side) {
         const PixelRect image = m_guns[side].image();
-        if (py < image.y || py >= image.bottom() || px < image.x || px >= image.right()) continue;
+        if (py < image.y || py >= image.bottom() || px < image.x || px >= image.right())
+            return false;
         const int at = (py - image.y) * image.width + px - image.x;
-        if (m_guns[side].drawing->image.pixels[static_cast<std::size_t>(at)] != 0) return true;
-    }
-    return false;
+        return m_guns[side].drawing->image.pixels[static_cast<std::size_t>(at)] != 0;
+    });
 }
 
 void GunLight::paint(LightCanvas& canvas) const {

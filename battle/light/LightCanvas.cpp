@@ -1,5 +1,7 @@
 #include "battle/light/LightCanvas.h"
 
+#include "base/Rounding.h"
+
 namespace skylob {
 
 namespace {
@@ -50,7 +52,8 @@ void LightCanvas::start(const PixelRect& area) {
 }
 
 void LightCanvas::lay(std::uint32_t* under, Colour colour, double strength) {
-    *under = laidOver(*under, faded(colour, static_cast<std::uint32_t>(strength * 255 + 0.5)));
+    *under =
+        laidOver(*under, faded(colour, static_cast<std::uint32_t>(roundToNearest(strength * 255))));
 }
 
 void LightCanvas::glow(LightPoint at, double radius, Colour colour, double strength) {

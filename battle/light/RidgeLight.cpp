@@ -1,6 +1,7 @@
 #include "battle/light/RidgeLight.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 #include "battle/light/Glow.h"
@@ -31,11 +32,11 @@ double luminance(Colour under, double strength) {
 
 /// Whether the light is told from the ground, high up and low down.
 bool isSeen(double strength, Colour ground) {
-    for (const Colour sky : {SkyLight::kZenith, SkyLight::kHorizon}) {
+    constexpr std::array kSkies{SkyLight::kZenith, SkyLight::kHorizon};
+    return std::all_of(kSkies.begin(), kSkies.end(), [&](Colour sky) {
         const double a = luminance(sky, strength) + 0.05, b = luminance(ground, 0) + 0.05;
-        if (std::max(a, b) < kContrast * std::min(a, b)) return false;
-    }
-    return true;
+        return std::max(a, b) >= kContrast * std::min(a, b);
+    });
 }
 
 /// The faintest light that is seen; none where the sky itself is.

@@ -26,7 +26,8 @@ class QtGunDrawings : public GunDrawings {
         int side, turn, recoil, width, height;
         bool onTurn, wrecked;
 
-        auto operator<=>(const Key&) const = default;
+        // The 0 that it finds here is the language's own.
+        auto operator<=>(const Key&) const = default;  // NOLINT(modernize-use-nullptr)
     };
 
     GunDrawing drawn(const GunPose& pose, FieldPicture::PixelSize size) const;

@@ -4,6 +4,8 @@
 #include <QLockFile>
 #include <QStandardPaths>
 #include <cstdio>
+#include <utility>
+
 #include "base/basSkylob.h"
 #include "base/qt/QtText.h"
 
@@ -25,7 +27,7 @@ void complain(const QString& name, const char* what) {
 
 }  // namespace
 
-QtIniFile::QtIniFile(const QString& name, const QString& section) : m_section{section} {
+QtIniFile::QtIniFile(const QString& name, QString section) : m_section{std::move(section)} {
     const QString folder = toQt(kProgramTitle);
     const QString file = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
                          QStringLiteral("/%1/%2.ini").arg(folder, name);

@@ -17,7 +17,7 @@ namespace skylob {
 /// first of them waits, half a second.
 class QtIniFile {
   public:
-    QtIniFile(const QString& name, const QString& section);
+    QtIniFile(const QString& name, QString section);
 
     std::string get(std::string_view key, std::string_view fallback) const;
     void save(std::string_view key, std::string_view value);

@@ -16,6 +16,7 @@ class Option : public QRadioButton {
 
   protected:
     /// The toolkit's own would open all options to Tab when one that is not checked is clicked.
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call)
     void focusInEvent(QFocusEvent* event) override { QWidget::focusInEvent(event); }
 };
 
