@@ -12,21 +12,15 @@ std::uint64_t SeededRandom::seed() {
     return *m_seed;
 }
 
-void SeededRandom::makeNumbers() {
-    if (!m_twister) m_twister.emplace(seed());
-    m_twister->fill(m_numbers);
-    m_made += m_numbers.size();
-    m_next = 0;
+void SeededRandom::start() {
+    m_engine.emplace(seed());
+    m_position = 0;
 }
 
 void SeededRandom::moveTo(std::uint64_t position) {
-    if (position < this->position()) {
-        m_twister.emplace(seed());
-        m_made = 0;
-        m_next = m_numbers.size();
-    }
-    while (m_made < position) makeNumbers();
-    m_next = static_cast<std::size_t>(m_numbers.size() - (m_made - position));
+    if (!m_engine || position < m_position) start();
+    m_engine->discard(position - m_position);
+    m_position = position;
 }
 
 }  // namespace skylob

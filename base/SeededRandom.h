@@ -2,8 +2,8 @@
 
 #include <cstdint>
 #include <optional>
+#include <random>
 
-#include "base/MersenneTwister.h"
 #include "base/RandomInt.h"
 
 namespace skylob {
@@ -16,10 +16,11 @@ class SeededRandom final : public RandomSource {
     explicit SeededRandom(std::optional<std::uint64_t> seed = std::nullopt) : m_seed{seed} {}
 
     double next() override {
-        if (m_next == m_numbers.size()) makeNumbers();
+        if (!m_engine) start();
+        ++m_position;
         constexpr double kTwoToMinus53 = 0x1p-53;
         // A signed number is converted faster.
-        const auto bits = static_cast<std::int64_t>(m_numbers[m_next++] >> 11);
+        const auto bits = static_cast<std::int64_t>((*m_engine)() >> 11);
         return static_cast<double>(bits) * kTwoToMinus53;
     }
 
@@ -27,20 +28,18 @@ class SeededRandom final : public RandomSource {
     std::uint64_t seed();
 
     /// How many numbers have been drawn.
-    std::uint64_t position() const { return m_made - (MersenneTwister::kBlock - m_next); }
+    std::uint64_t position() const { return m_position; }
 
     /// Goes to where `position` numbers have been drawn, back or ahead. Ahead, it takes a few
     /// nanoseconds for each number that is left out.
     void moveTo(std::uint64_t position);
 
   private:
-    void makeNumbers();
+    void start();
 
     std::optional<std::uint64_t> m_seed;
-    std::optional<MersenneTwister> m_twister;
-    MersenneTwister::Block m_numbers;              ///< the last ones made
-    std::size_t m_next = MersenneTwister::kBlock;  ///< the place of the next one among them
-    std::uint64_t m_made = 0;                      ///< how many, together
+    std::optional<std::mt19937_64> m_engine;
+    std::uint64_t m_position = 0;
 };
 
 }  // namespace skylob
