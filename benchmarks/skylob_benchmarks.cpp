@@ -162,13 +162,19 @@ void pictureTransfer(benchmark::State& state) {
     }
 }
 
+enum class Button { AsItWas, Changed };
+
+template <Button which>
 void buttonRedraw(benchmark::State& state) {
     const QtShapes shapes{programDrawings()};
     GlintButton button{QStringLiteral("cmdShoot"), shapes, nullptr};
     button.design().readProperties(formBags(QStringLiteral("frmPlayGame")).bag("cmdShoot"));
     button.setFixedSize(layoutForScreenSize(kNormalScreen).cmdShoot.size());
     QImage screen{button.size(), QImage::Format_RGB32};
-    for (auto _ : state) button.render(&screen);
+    for (auto _ : state) {
+        if (which == Button::Changed) button.setEnabled(!button.isEnabled());
+        button.render(&screen);
+    }
 }
 
 const Figure kFigures[] = {
@@ -182,7 +188,8 @@ const Figure kFigures[] = {
      0.6},
     {"ten rounds without a screen", headlessSet, Time::Spent, 30},
     {"merging a 64 x 64 picture, grey", pictureTransfer, Time::Spent, 0.5},
-    {"redraw of the shoot button", buttonRedraw, Time::Spent, 0.6},
+    {"redraw of the shoot button", buttonRedraw<Button::AsItWas>, Time::Spent, 0.6},
+    {"the same, when it has changed", buttonRedraw<Button::Changed>, Time::Spent, 0.6},
     {"recording a set, 10 players", recordSet<10>},
     {"recording a set, 1,000 players", recordSet<1000>},
     {"recording a set, 32,767 players", recordSet<32767>, Time::Spent, 150},

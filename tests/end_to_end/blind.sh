@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Usage: blind.sh PROGRAM [UNUSED [SEED [ROUNDS]]]
+# Usage: blind.sh PROGRAM [TESTS [SEED [ROUNDS]]]
 # Whoever sees nothing and has a screen reader wins most rounds against the computer at level Poor in the
 # real program. Left out (status 77) where the tools of a screen reader are not installed.
 set -euo pipefail

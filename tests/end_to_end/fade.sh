@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Usage: fade.sh PROGRAM SCREEN_TEST
+# Usage: fade.sh PROGRAM TESTS
 # With fading switched on screens go in steps where a compositing manager makes windows translucent,
 # and at once, with their opacity untouched, where there is none.
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
@@ -38,7 +38,7 @@ gone "$battle"
 leave_program
 
 start_compositing
-SKYLOB_EXPECT_FADES=1 "$2" QtScreenTest takesNoInputWhileItFadesAndLeavesOnce \
+SKYLOB_EXPECT_FADES=1 "$2/screen_screen_tests" QtScreenTest takesNoInputWhileItFadesAndLeavesOnce \
     isRunUntilEscapeWhereItIsModal >"$work/screen" || fail "no fade of a screen: $(<"$work/screen")"
 start_program
 watch "$title"

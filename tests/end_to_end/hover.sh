@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Usage: hover.sh PROGRAM SCREEN_TEST BUTTON_TEST
+# Usage: hover.sh PROGRAM TESTS
 # A button knows that the pointer has come and gone, also where it rests and a window comes between.
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 
@@ -8,7 +8,7 @@ is_hovered() { not is_turn; }
 calm
 players Ann Bob
 start_display
-"$3" GlintButtonTest hoversUntilThePointerLeaves >"$work/tested" || fail "$(<"$work/tested")"
+"$2/controls_screen_tests" GlintButtonTest hoversUntilThePointerLeaves >"$work/tested" || fail "$(<"$work/tested")"
 start_game
 start_battle
 point_at_gold
