@@ -85,6 +85,23 @@ void endWhereThereIsNoDisplay(QtMsgType type, const QMessageLogContext&, const Q
     std::_Exit(EXIT_FAILURE);
 }
 
+/// What holds while the toolkit starts: how large all is, how pictures go to the display, and that
+/// it says no more than one line.
+class ToolkitStart {
+  public:
+    ToolkitStart(const skylob::CommandLine& commandLine, const skylob::WindowStore& windows)
+        : m_scale{skylob::startScale(commandLine, windows)},
+          m_usualHandler{qInstallMessageHandler(endWhereThereIsNoDisplay)} {
+        skylob::sendPicturesInline();
+    }
+    ~ToolkitStart() { qInstallMessageHandler(m_usualHandler); }
+    Q_DISABLE_COPY_MOVE(ToolkitStart)
+
+  private:
+    skylob::QtScaleFactor m_scale;
+    QtMessageHandler m_usualHandler;
+};
+
 /// Both return the exit status.
 int play(char** argv, const skylob::CommandLine& commandLine) {
     std::optional<skylob::RecordFile> recording;
@@ -95,14 +112,11 @@ int play(char** argv, const skylob::CommandLine& commandLine) {
     }
     if (!enterDataFolder(commandLine)) return kUnusableArguments;
     if (!hasDisplay()) return EXIT_FAILURE;
-    skylob::sendPicturesInline();
     int toolkitArguments = 1;  // the arguments are ours alone
     skylob::QtWindowStore windows;
-    std::optional<skylob::QtScaleFactor> scale{skylob::startScale(commandLine, windows)};
-    const auto usualHandler = qInstallMessageHandler(endWhereThereIsNoDisplay);
+    std::optional<ToolkitStart> start{std::in_place, commandLine, windows};
     skylob::Application application{toolkitArguments, argv, commandLine, windows};
-    qInstallMessageHandler(usualHandler);
-    scale.reset();
+    start.reset();
     if (!hasColours()) return EXIT_FAILURE;
     if (recording) application.record(*recording);
     return application.run();
@@ -111,14 +125,11 @@ int play(char** argv, const skylob::CommandLine& commandLine) {
 int replay(char** argv, const skylob::CommandLine& commandLine) try {
     const skylob::BattleRecord record = skylob::readRecordFile(*commandLine.replay);
     if (!hasDisplay()) return EXIT_FAILURE;
-    skylob::sendPicturesInline();
     int toolkitArguments = 1;
     skylob::QtWindowStore windows;
-    std::optional<skylob::QtScaleFactor> scale{skylob::startScale(commandLine, windows)};
-    const auto usualHandler = qInstallMessageHandler(endWhereThereIsNoDisplay);
+    std::optional<ToolkitStart> start{std::in_place, commandLine, windows};
     skylob::ReplayProgram program{toolkitArguments, argv, commandLine, record};
-    qInstallMessageHandler(usualHandler);
-    scale.reset();
+    start.reset();
     if (!hasColours()) return EXIT_FAILURE;
     return program.run();
 } catch (const skylob::RecordError& why) {
