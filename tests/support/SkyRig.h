@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <ostream>
 
 #include "tests/support/BattleRig.h"
 
@@ -34,8 +35,16 @@ struct BareSky : AnimatedField {
     Sky sky{state, animation, random, effect};
 };
 
-using Effect = void (Battle::*)();
-constexpr Effect kMeteor = &Battle::timerMeteors_Timer, kStorm = &Battle::timerLightning_Timer;
+struct Effect {
+    const char* name;
+    void (Battle::*tick)();
+
+    friend std::ostream& operator<<(std::ostream& out, const Effect& effect) {
+        return out << effect.name;
+    }
+};
+constexpr Effect kMeteor{"meteor", &Battle::timerMeteors_Timer};
+constexpr Effect kStorm{"storm", &Battle::timerLightning_Timer};
 
 /// A battle that waits for side 1 with meteors and lightning on and without sound, on the field of
 /// the BattleRig; a pixel is a unit. Twelve seconds have gone by.
@@ -51,9 +60,9 @@ struct SkyRig : StartedRig {
         log.clear();
     }
     /// Ticks that timer. Chance is in favour of the effect, the rest as the rig has it.
-    void begin(Effect tick, std::deque<double> chance = {0}) {
+    void begin(const Effect& effect, std::deque<double> chance = {0}) {
         random.script(std::move(chance));
-        (battle.*tick)();
+        (battle.*effect.tick)();
     }
     FieldPicture& picture() { return battle.picture(); }
     std::vector<std::uint32_t> pixels() { return pixelsOf(picture()); }
