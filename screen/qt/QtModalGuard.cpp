@@ -28,7 +28,13 @@ bool isBehindModalWindow(QObject* object) {
     return window->windowHandle() != modal && window->windowType() != Qt::Popup;
 }
 
-/// Not every desktop keeps a modal window above the others.
+/// Over a full screen, some displays leave the keyboard where it is.
+bool isKeyboardBehind() {
+    const QWindow* focused = QGuiApplication::focusWindow();
+    return focused && focused != QGuiApplication::modalWindow() && focused->type() != Qt::Popup;
+}
+
+/// Not every desktop keeps a modal window above the others, or gives it the keyboard.
 void raiseModalWindow() {
     QWidget* modal = QApplication::activeModalWidget();
     if (!modal) return;
@@ -47,6 +53,8 @@ bool QtModalGuard::eventFilter(QObject* watched, QEvent* event) {
     if (type == QEvent::WindowBlocked) letGoIn(watched);
     if (type == QEvent::WindowActivate && watched->isWidgetType() &&
         static_cast<QWidget*>(watched)->isWindow() && isBehindModalWindow(watched))
+        raiseModalWindow();
+    if (type == QEvent::Expose && watched == QGuiApplication::modalWindow() && isKeyboardBehind())
         raiseModalWindow();
     if (m_lettingGo || !isInput(type)) return false;
     if (isBehindModalWindow(watched)) return true;

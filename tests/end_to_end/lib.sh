@@ -67,6 +67,7 @@ is_over() { ! kill -0 "$game" 2>/dev/null; }
 
 lobby="Skylob - Player List"
 battle="Skylob - Battlefield"
+manual="Skylob - Help Window"
 skill="Select a Skill Level"
 
 # The player file, in which `players RECORD...` puts records of NAME:PLAYED:WON:AVERAGE:RANKING and

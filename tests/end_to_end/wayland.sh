@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Usage: wayland.sh PROGRAM
 # Under a Wayland compositor and without any X server a shell is seen flying while the program is busy
-# with it, boxes come up over their screen, and the program ends well. Left out (status 77) where the
+# with it, boxes come up over their screen, and the program ends well. Over a full screen a new window is not
+# given the keyboard there, but may ask for it. Left out (status 77) where the
 # packages [wayland] are not installed.
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 source "$(dirname "${BASH_SOURCE[0]}")/lib_wayland.sh"
@@ -59,6 +60,10 @@ for glance in 1 2 3; do
     (($(pixels_of "$gold") == 0)) || fail "the controls look usable in flight"
 done
 await_turn
+swaymsg --quiet focus_on_window_activation focus
+press "$battle" F11 F1
+press "$manual" Escape
+gone "$manual"
 press "$battle" Escape
 gone "$battle"
 press "$lobby" Escape

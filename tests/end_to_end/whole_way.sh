@@ -27,7 +27,6 @@ act() {
 }
 
 yes=-138,-24 ok=-50,-24 # in message boxes
-manual="Skylob - Help Window"
 
 # Whoever shoots straight up is hit, loses, and opens the next round: five shots make a set.
 play_set() {
