@@ -15,7 +15,10 @@ bool QtEnterGuard::eventFilter(QObject*, QEvent* event) {
     if (type != QEvent::KeyRelease && type != QEvent::KeyPress && type != QEvent::ShortcutOverride)
         return false;
     const auto& key = static_cast<const QKeyEvent&>(*event);
-    if (!isEnterKey(key)) return false;
+    if (!isEnterKey(key)) {
+        m_released = 0;  // a key that repeats has no other in between
+        return false;
+    }
     if (type == QEvent::KeyRelease) m_released = key.timestamp();
     if (type == QEvent::KeyRelease || !isRepeat(key)) return false;
     event->accept();  // an override that nobody accepts would go on as a shortcut

@@ -148,7 +148,7 @@ class Monkey:
         for file in filter(os.path.exists, [self.game.stderr, self.game.list]):
             shutil.copy(file, folder)
         with open(f"{folder}/actions", "w") as file:
-            file.write("\n".join(self.last) + "\n")
+            file.write("\n".join([*self.last, *map(str, self.desk.windows())]) + "\n")
 
 
 def main(program, seed, until, folder, *options):
