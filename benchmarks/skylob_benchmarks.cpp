@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <random>
 #include <vector>
 
 #include "FigureTable.h"
@@ -47,9 +46,9 @@ void fillPixels(benchmark::State& state) {
 }
 
 void turnGenerator(benchmark::State& state) {
-    std::mt19937_64 engine{1};
+    SeededRandom random{1};
     for (auto _ : state)
-        for (int turn = 0; turn < 1'000'000; ++turn) benchmark::DoNotOptimize(engine());
+        for (int turn = 0; turn < 1'000'000; ++turn) benchmark::DoNotOptimize(random.next());
 }
 
 void newBattlefield(benchmark::State& state) {
