@@ -15,14 +15,7 @@ class SeededRandom final : public RandomSource {
   public:
     explicit SeededRandom(std::optional<std::uint64_t> seed = std::nullopt) : m_seed{seed} {}
 
-    double next() override {
-        if (!m_engine) start();
-        ++m_position;
-        constexpr double kTwoToMinus53 = 0x1p-53;
-        // A signed number is converted faster.
-        const auto bits = static_cast<std::int64_t>((*m_engine)() >> 11);
-        return static_cast<double>(bits) * kTwoToMinus53;
-    }
+    double next() override;
 
     /// The seed that makes the same numbers again.
     std::uint64_t seed();

@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <random>
 #include <vector>
 
 #include "FigureTable.h"
@@ -47,9 +46,9 @@ void fillPixels(benchmark::State& state) {
 }
 
 void turnGenerator(benchmark::State& state) {
-    std::mt19937_64 engine{1};
+    SeededRandom random{1};
     for (auto _ : state)
-        for (int turn = 0; turn < 1'000'000; ++turn) benchmark::DoNotOptimize(engine());
+        for (int turn = 0; turn < 1'000'000; ++turn) benchmark::DoNotOptimize(random.next());
 }
 
 void newBattlefield(benchmark::State& state) {
@@ -162,7 +161,7 @@ void pictureTransfer(benchmark::State& state) {
     }
 }
 
-enum class Button { AsItWas, Changed };
+enum class Button { AsItWas, Changed, NeverSo };
 
 template <Button which>
 void buttonRedraw(benchmark::State& state) {
@@ -171,8 +170,10 @@ void buttonRedraw(benchmark::State& state) {
     button.design().readProperties(formBags(QStringLiteral("frmPlayGame")).bag("cmdShoot"));
     button.setFixedSize(layoutForScreenSize(kNormalScreen).cmdShoot.size());
     QImage screen{button.size(), QImage::Format_RGB32};
+    std::uint32_t colour = 0;
     for (auto _ : state) {
         if (which == Button::Changed) button.setEnabled(!button.isEnabled());
+        if (which == Button::NeverSo) button.design().setForeColor(++colour);
         button.render(&screen);
     }
 }
@@ -190,6 +191,7 @@ const Figure kFigures[] = {
     {"merging a 64 x 64 picture, grey", pictureTransfer, Time::Spent, 0.5},
     {"redraw of the shoot button", buttonRedraw<Button::AsItWas>, Time::Spent, 0.6},
     {"the same, when it has changed", buttonRedraw<Button::Changed>, Time::Spent, 0.6},
+    {"the same, when it never was like that", buttonRedraw<Button::NeverSo>},
     {"recording a set, 10 players", recordSet<10>},
     {"recording a set, 1,000 players", recordSet<1000>},
     {"recording a set, 32,767 players", recordSet<32767>, Time::Spent, 150},

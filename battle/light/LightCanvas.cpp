@@ -1,7 +1,5 @@
 #include "battle/light/LightCanvas.h"
 
-#include "base/Rounding.h"
-
 namespace skylob {
 
 namespace {
@@ -49,11 +47,13 @@ void LightCanvas::start(const PixelRect& area) {
     m_area = area;
     m_pixels.assign(static_cast<std::size_t>(area.width) * static_cast<std::size_t>(area.height),
                     0);
+    m_alphas.resize(static_cast<std::size_t>(area.width));
 }
 
-void LightCanvas::lay(std::uint32_t* under, Colour colour, double strength) {
-    *under =
-        laidOver(*under, faded(colour, static_cast<std::uint32_t>(roundToNearest(strength * 255))));
+void LightCanvas::lay(int x, int y, Colour colour, std::span<const std::uint32_t> alphas) {
+    std::uint32_t* const under = row(y) + (x - m_area.x);
+    for (std::size_t i = 0; i < alphas.size(); ++i)
+        under[i] = laidOver(under[i], faded(colour, alphas[i]));
 }
 
 void LightCanvas::glow(LightPoint at, double radius, Colour colour, double strength) {

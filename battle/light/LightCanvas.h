@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "base/Colour.h"
+#include "base/Rounding.h"
 #include "battle/FieldPicture.h"
 
 namespace skylob {
@@ -45,10 +46,9 @@ class LightCanvas {
 
     /// A single pixel, which must lie in the area.
     void pixel(int x, int y, Colour colour, double strength) {
-        lay(row(y) + (x - m_area.x), colour, strength);
+        const std::uint32_t alpha = alphaOf(strength);
+        lay(x, y, colour, {&alpha, 1});
     }
-    /// The same for an opaque one.
-    void pixel(int x, int y, Colour colour) { row(y)[x - m_area.x] = colour.pixel(); }
 
     /// Lays the colour where `coverage(x, y)`, asked with the middle of each pixel of the area
     /// between two corners, is more than 0; it is at most 1.
@@ -59,13 +59,26 @@ class LightCanvas {
         const int top = static_cast<int>(std::floor(std::max<double>(low.y, m_area.y)));
         const int right = static_cast<int>(std::ceil(std::min<double>(high.x, m_area.right())));
         const int bottom = static_cast<int>(std::ceil(std::min<double>(high.y, m_area.bottom())));
+        if (left >= right) return;
+        // A row's alphas first and then its pixels, both without a branch: the compiler makes
+        // several pixels at a time of that.
+        const std::span<std::uint32_t> alphas{m_alphas.data(),
+                                              static_cast<std::size_t>(right - left)};
         for (int y = top; y < bottom; ++y) {
-            std::uint32_t* const line = row(y);
             for (int x = left; x < right; ++x) {
-                const double share = coverage(x + 0.5, y + 0.5);
-                if (share > 0) lay(line + (x - m_area.x), colour, share * strength);
+                const double share = std::max(0.0, coverage(x + 0.5, y + 0.5));
+                alphas[static_cast<std::size_t>(x - left)] = alphaOf(share * strength);
             }
+            lay(left, y, colour, alphas);
         }
+    }
+
+    /// Makes the pixels of the area's part of a row opaque for which `isMeant(x)`.
+    template <typename IsMeant>
+    void cover(int y, Colour colour, IsMeant isMeant) {
+        std::uint32_t* const line = row(y);
+        const int left = m_area.x, width = m_area.width;
+        for (int i = 0; i < width; ++i) line[i] = isMeant(left + i) ? colour.pixel() : line[i];
     }
 
     /// The pixels of the area's part of a row, 0xAARRGGBB with premultiplied alpha.
@@ -79,9 +92,14 @@ class LightCanvas {
         return m_pixels.data() +
                static_cast<std::size_t>(y - m_area.y) * static_cast<std::size_t>(m_area.width);
     }
-    static void lay(std::uint32_t* under, Colour colour, double strength);
+    static std::uint32_t alphaOf(double strength) {
+        return static_cast<std::uint32_t>(roundToNearest(strength * 255));
+    }
+    /// The first of the pixels is at x, y.
+    void lay(int x, int y, Colour colour, std::span<const std::uint32_t> alphas);
 
     PixelRect m_area;
+    std::vector<std::uint32_t> m_alphas;  ///< of a part of a row
     std::vector<std::uint32_t> m_pixels;
 };
 

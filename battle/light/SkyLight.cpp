@@ -15,11 +15,9 @@ void SkyLight::follow(const FieldSight& sight, ChangedAreas&) {
 
 void SkyLight::paint(LightCanvas& canvas) const {
     const PixelRect& area = canvas.area();
-    for (int y = area.y; y < area.bottom(); ++y) {
-        const Colour colour = m_rows[static_cast<std::size_t>(y)];
-        for (int x = area.x; x < area.right(); ++x)
-            if (y < m_skyline->top(x)) canvas.pixel(x, y, colour);
-    }
+    for (int y = area.y; y < area.bottom(); ++y)
+        canvas.cover(y, m_rows[static_cast<std::size_t>(y)],
+                     [this, y](int x) { return y < m_skyline->top(x); });
 }
 
 }  // namespace skylob

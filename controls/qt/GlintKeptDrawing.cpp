@@ -1,10 +1,15 @@
 #include "controls/qt/GlintKeptDrawing.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "controls/qt/GlintPainter.h"
 
 namespace skylob {
+
+namespace {
+constexpr std::size_t kMost = 4;
+}
 
 GlintKeptDrawing::Origin::Origin(const GlintCanvas& canvas)
     : button{canvas.button},
@@ -20,11 +25,14 @@ GlintKeptDrawing::Origin::Origin(const GlintCanvas& canvas)
 
 const QImage& GlintKeptDrawing::of(const GlintCanvas& canvas) {
     Origin origin{canvas};
-    if (m_origin != origin) {
-        m_drawing = paintGlintButton(canvas);
-        m_origin = std::move(origin);
+    auto found = std::find_if(m_kept.begin(), m_kept.end(),
+                              [&origin](const Kept& kept) { return kept.origin == origin; });
+    if (found == m_kept.end()) {
+        if (m_kept.size() == kMost) m_kept.pop_back();
+        found = m_kept.insert(m_kept.end(), {std::move(origin), paintGlintButton(canvas)});
     }
-    return m_drawing;
+    std::rotate(m_kept.begin(), found, found + 1);
+    return m_kept.front().drawing;
 }
 
 }  // namespace skylob

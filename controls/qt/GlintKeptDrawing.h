@@ -3,7 +3,7 @@
 #include <QFont>
 #include <QImage>
 #include <QPointF>
-#include <optional>
+#include <vector>
 
 #include "controls/GlintState.h"
 
@@ -11,8 +11,8 @@ namespace skylob {
 
 struct GlintCanvas;
 
-/// A button's last drawing, for as long as it would be drawn in just the same way again: windows
-/// are redrawn more often than buttons change.
+/// A button's last few drawings: windows are redrawn more often than buttons change, and what a
+/// button changes between, up and pressed, under the pointer or not, disabled, it was before.
 class GlintKeptDrawing {
   public:
     /// As paintGlintButton() would draw it; valid until the next call.
@@ -33,8 +33,12 @@ class GlintKeptDrawing {
         QPointF corner;
     };
 
-    std::optional<Origin> m_origin;
-    QImage m_drawing;
+    struct Kept {
+        Origin origin;
+        QImage drawing;
+    };
+
+    std::vector<Kept> m_kept;  ///< a few, the one asked for last in front
 };
 
 }  // namespace skylob

@@ -221,6 +221,17 @@ class GlintButtonTest : public QObject {
         }
     }
 
+    void looksAsItDidWhenItIsAsItWas() {
+        Form form;
+        QMap<std::string, QImage> looks;
+        for (const char* caption : {"A", "B", "A", "C", "D", "E", "B", "F", "A", "E"}) {
+            form.design.setCaption(caption);
+            const QImage look = form.first.grab().toImage();
+            QCOMPARE(looks.value(caption, look), look);
+            looks[caption] = look;
+        }
+    }
+
     void showsGlassOverWhatLiesBehind() {
         Form form;
         form.window.setPalette(QPalette{Qt::red});
