@@ -18,15 +18,12 @@ function(skylob_add_layer library room)
         file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR}/${header} ${seen}/${room}/${header} SYMBOLIC)
     endforeach()
 
-    if(layer_SOURCES)
+    if(layer_SOURCES AND NOT SKYLOB_ROOMS_TOGETHER)
         add_library(${library} STATIC ${layer_SOURCES})
         target_include_directories(${library} PUBLIC ${seen})
         target_link_libraries(${library} PUBLIC ${layer_LINKS} PRIVATE ${layer_USES} skylob_strict)
-        # A flight is the same on every machine: no fused multiply-add where the rules round twice.
-        target_compile_options(${library} PRIVATE -ffp-contract=off)
+        skylob_compile_exactly(${library})
         if(NOT library MATCHES "_qt$")
-            # The tests of a build of no kind, such as that of the preset rules, last less long with it.
-            target_compile_options(${library} PRIVATE $<$<CONFIG:None>:-O1>)
             skylob_include_beforehand(${library} skylob_base
                 algorithm array charconv cmath functional optional span string string_view vector)
         endif()
@@ -35,7 +32,27 @@ function(skylob_add_layer library room)
         target_include_directories(${library} INTERFACE ${seen})
         target_link_libraries(${library} INTERFACE ${layer_LINKS})
     endif()
+    if(SKYLOB_ROOMS_TOGETHER)
+        list(TRANSFORM layer_SOURCES PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/)
+        target_sources(skylob_rules PRIVATE ${layer_SOURCES})
+        target_include_directories(skylob_rules PRIVATE ${seen})
+        target_link_libraries(${library} INTERFACE skylob_rules)
+    endif()
 endfunction()
+
+# A flight is the same on every machine: no fused multiply-add where the rules round twice.
+function(skylob_compile_exactly library)
+    target_compile_options(${library} PRIVATE -ffp-contract=off)
+endfunction()
+
+if(SKYLOB_ROOMS_TOGETHER)
+    add_library(skylob_rules STATIC)
+    set_target_properties(skylob_rules PROPERTIES UNITY_BUILD_BATCH_SIZE 24)
+    target_link_libraries(skylob_rules PRIVATE skylob_strict)
+    skylob_compile_exactly(skylob_rules)
+    # The tests of a build of no kind, such as that of the preset rules, last less long with it.
+    target_compile_options(skylob_rules PRIVATE $<$<CONFIG:None>:-O1>)
+endif()
 
 # The rules' headers, each compiled by itself; a source of the toolkit's layers includes its own header
 # first, which shows the same.
