@@ -10,8 +10,8 @@ namespace skylob {
 
 namespace {
 
-constexpr int kFarthest = 1'000'000;  // no desktop reaches so far
-constexpr int kLargest = 32'767;      // of a window, as window systems have it
+constexpr int kFarthestWindow = 1'000'000;  // no desktop reaches so far
+constexpr int kLargest = 32'767;            // of a window, as window systems have it
 
 constexpr std::array<std::pair<WindowState, std::string_view>, 3> kStates{
     {{WindowState::Normal, "normal"},
@@ -50,7 +50,7 @@ std::optional<WindowPlace> placeOf(std::string_view text) {
     auto& [x, y, width, height] = place.area;
     for (int* const number : {&x, &y, &width, &height}) {
         const std::optional<int> read = wholeNumber(takeField(text));
-        if (!read || *read < -kFarthest || *read > kFarthest) return {};
+        if (!read || *read < -kFarthestWindow || *read > kFarthestWindow) return {};
         *number = *read;
     }
     if (std::min(width, height) < 1 || std::max(width, height) > kLargest) return {};

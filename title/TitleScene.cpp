@@ -12,7 +12,7 @@ namespace {
 constexpr double kTurn = 6.283185307179586;
 
 // Seconds of the loop.
-constexpr double kFlash = 0.45;
+constexpr double kMuzzleFlash = 0.45;
 constexpr double kLaunch = 0.6;
 constexpr double kHit = 2.8;
 constexpr double kBlastOver = 3.7;
@@ -59,7 +59,7 @@ void addTrail(std::vector<TitleSpot>& spots, double seconds) {
 }
 
 void addShell(std::vector<TitleSpot>& spots, double seconds) {
-    if (seconds >= kFlash && seconds < kLaunch)
+    if (seconds >= kMuzzleFlash && seconds < kLaunch)
         spots.push_back({kFromX + 2, kPathY - 1, 6, 0, kPale, 255});
     if (seconds < kLaunch || seconds >= kHit) return;
     const double flown = (seconds - kLaunch) / (kHit - kLaunch);

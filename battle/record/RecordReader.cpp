@@ -13,8 +13,8 @@ namespace {
 
 constexpr std::size_t kLargestFile = 4 << 20;
 constexpr std::size_t kLongestName = 80;  // bytes; players have 20 letters at most
-constexpr int kMostRounds = 20, kStrongestWind = 39;
-constexpr int kFarthest = 100'000;                 // a shell may come down beside the field
+constexpr int kMostRounds = 20, kStrongestRecorded = 39;
+constexpr int kFarthestRecorded = 100'000;         // a shell may come down beside the field
 constexpr int kMostKills = 1'000'000;              // of a set
 constexpr std::uint64_t kMostDraws = 100'000'000;  // going that far takes a second or two
 static_assert(kFirstRecordLine == 9);
@@ -66,8 +66,8 @@ class LineReader {
         return {left, number(low, high)};
     }
     FieldPoint point() {
-        const int x = number(-kFarthest, kFarthest);
-        return {x, number(-kFarthest, kFarthest)};
+        const int x = number(-kFarthestRecorded, kFarthestRecorded);
+        return {x, number(-kFarthestRecorded, kFarthestRecorded)};
     }
     template <typename Choice, std::size_t count>
     Choice oneOf(const std::array<std::string_view, count>& words) {
@@ -88,7 +88,7 @@ RoundLine readRound(LineReader& from) {
     line.round = from.number(1, kMostRounds);
     line.draws = from.draws();
     line.shooter = from.number("shooter", kLeftSide, kRightSide);
-    line.wind = from.number("wind", -kStrongestWind, kStrongestWind);
+    line.wind = from.number("wind", -kStrongestRecorded, kStrongestRecorded);
     from.expect("pieces");
     for (const int side : kSides) line.pieces[side] = from.point();
     from.expect("field");
@@ -116,7 +116,7 @@ BoxLine readBox(LineReader& from) {
     line.box = from.oneOf<Box>(kBoxWords);
     line.ticked = from.oneOf<int>(kTickWords) == 1;
     line.draws = from.draws();
-    line.wind = from.number("wind", -kStrongestWind, kStrongestWind);
+    line.wind = from.number("wind", -kStrongestRecorded, kStrongestRecorded);
     return line;
 }
 

@@ -109,12 +109,13 @@ TEST(BlastLight, FallsOnBlackAndPiecesAloneAndIsGoneWithTheBlast) {
             if (over || (!burns && lit == 0)) return;  // not yet, or no more
             over = !burns;
             std::ptrdiff_t changed = 0, wrong = 0, left = 0;
-            for (std::size_t i = 0; i < before.size(); ++i) {
-                const auto shown = rig.layer.pixels()[i], rules = rig.picture().screenPixels()[i];
-                if (shown == before[i] && shown == rules) continue;
-                changed += shown != before[i];
+            const std::uint32_t *lights = rig.layer.pixels(), *ruled = rig.picture().screenPixels();
+            for (const std::uint32_t was : before) {
+                const std::uint32_t shown = *lights++, rules = *ruled++;
+                if (shown == was && shown == rules) continue;
+                changed += shown != was;
                 wrong += shown != rules && rules != 0xFF000000u && rules != kRulesPiece;
-                left += (shown >> 16 & 0xFF) > (before[i] >> 16 & 0xFF);
+                left += (shown >> 16 & 0xFF) > (was >> 16 & 0xFF);
             }
             EXPECT_EQ(wrong, 0);
             EXPECT_EQ(over ? left : 0, 0);  // nothing is redder than before the shot
@@ -139,11 +140,16 @@ static std::array<int, 3> flashes(Motion motion) {
     std::array<int, kLooked> last{};
     std::array<int, 3> most{};
     rig.onLook = [&] {
+        const std::uint32_t *shown = rig.layer.pixels(), *rules = rig.picture().screenPixels();
         int changed = 0;
-        for (std::size_t i = 0; i < kLooked; ++i) {
-            const int green = rig.layer.pixels()[i * kEvery] >> 8 & 0xFF;
-            const bool isSky = rig.picture().screenPixels()[i * kEvery] == 0xFF000000u;
-            changed += isSky && std::abs(green - std::exchange(last[i], green)) > 10;
+        for (int& before : last) {
+            const int green = *shown >> 8 & 0xFF;
+            if (*rules == 0xFF000000u) {
+                changed += std::abs(green - before) > 10;
+                before = green;
+            }
+            shown += kEvery;
+            rules += kEvery;
         }
         const auto& scene = rig.battle.scene();
         int& peak = most[scene.blast ? 1 : scene.flight.inTheAir ? 0 : 2];

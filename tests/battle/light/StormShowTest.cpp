@@ -21,7 +21,7 @@ struct Show : testing::TestWithParam<int>, BareSky {
     void display() {
         std::vector<std::uint32_t> lit = rules;
         for (const auto& [area, pixel] : show.lights())
-            each(area, [&](std::size_t at) {
+            each(area, [&, pixel = pixel](std::size_t at) {
                 lightsColours = lightsColours || rules[at] != kBlack.pixel();
                 lit[at] = pixel;
             });
