@@ -9,11 +9,11 @@ if(SKYLOB_TOGETHER)
         # tests: the more sources at a time, the better. Which room sees which, the other builds tell.
         set(SKYLOB_ROOMS_TOGETHER ON)
         set(CMAKE_UNITY_BUILD_BATCH_SIZE 14)
+        # These units are small, and their compiler need not be thrifty with memory.
+        target_compile_options(skylob_strict INTERFACE
+            "$<$<CXX_COMPILER_ID:GNU>:SHELL:--param ggc-min-expand=500 --param ggc-min-heapsize=500000>")
     endif()
     if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
-        # It need not be thrifty with memory.
-        target_compile_options(skylob_strict INTERFACE
-            "SHELL:--param ggc-min-expand=500" "SHELL:--param ggc-min-heapsize=500000")
         # That warns of what would be a fault in a header, and takes these sources for headers.
         target_compile_options(skylob_strict INTERFACE -Wno-subobject-linkage)
     endif()
