@@ -150,8 +150,8 @@ class SwayDesk(Hands):
                     Window(node["id"], node["name"] or "", node["focused"], frame["x"] + inner["x"],
                            frame["y"] + inner["y"], inner["width"], inner["height"])
                 )
-                if node["urgent"]:
-                    self.activate(found[-1])  # a box that was left behind: only its user can do that
+                if node["urgent"] or not node["visible"]:
+                    self.activate(found[-1])  # a box left behind or put aside: only its user can fetch it
             for child in node["nodes"] + node["floating_nodes"]:
                 collect(child)
 
