@@ -108,8 +108,8 @@ class Thing:
 
 
 class Program(Thing):
-    """A program on the desktop. `heard` are the names and descriptions that have changed, as they were
-    told when the event came."""
+    """A program on the desktop. `heard` is what it has announced, and the names and descriptions that have
+    changed, as they were told when the event came."""
 
     def __init__(self, name):
         desktop = Atspi.get_desktop(0)
@@ -120,6 +120,7 @@ class Program(Thing):
         # Not before it is there: while it starts, the toolkit can miss that somebody wants events.
         for what in "name", "description":
             self._listener.register(f"object:property-change:accessible-{what}")
+        self._listener.register("object:announcement")  # newer toolkits send the text along
 
     @staticmethod
     def _on(desktop, name):
@@ -127,6 +128,8 @@ class Program(Thing):
         return next((it for it in programs if it and it.get_name() == name), None)
 
     def _hear(self, event):
+        if event.type.startswith("object:announcement"):
+            return self.heard.append(event.any_data)
         it, asked = Thing(event.source), time.monotonic()
         text = it.name if event.type.endswith("name") else it.description
         self.heard.append(text if time.monotonic() < asked + USUAL_PATIENCE else f"(too late) {text}")
