@@ -75,9 +75,11 @@ def shoot():
         assert bar.value == value, f"{name} is {bar.value} instead of {value}"
     game.heard.clear()
     game.find("Shoot").press()
-    reports = wait_for("report", lambda: [text for text in game.heard if "°: " in text])
+    wait_for("report", lambda: any("°: " in text for text in game.heard))
+    game.hear_what_has_come()
+    reports = [text for text in game.heard if "°: " in text]
     print(*reports, flush=True)
-    return reports[0].startswith(f"Ann, {gunner.speed} at {gunner.angle}°: ")
+    return any(report.startswith(f"Ann, {gunner.speed} at {gunner.angle}°: ") for report in reports)
 
 
 def box():

@@ -133,3 +133,9 @@ class Program(Thing):
         it, asked = Thing(event.source), time.monotonic()
         text = it.name if event.type.endswith("name") else it.description
         self.heard.append(text if time.monotonic() < asked + USUAL_PATIENCE else f"(too late) {text}")
+
+    @staticmethod
+    def hear_what_has_come():
+        """What is announced behind a change waits while that is asked for."""
+        while GLib.MainContext.default().iteration(False):
+            pass
