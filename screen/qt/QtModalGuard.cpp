@@ -4,6 +4,7 @@
 #include <QMouseEvent>
 #include <QScopedValueRollback>
 #include <QWindow>
+#include <QWindowStateChangeEvent>
 #include <utility>
 
 #include "base/qt/QtInput.h"
@@ -42,6 +43,21 @@ void raiseModalWindow() {
     modal->activateWindow();
 }
 
+/// Whoever puts a modal window aside cannot do anything with those behind it, nor get at it from
+/// there by keyboard: all of the program's windows go aside and come back together.
+void followAside(const QWidget& changed) {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->isVisible() && window->isMinimized() != changed.isMinimized())
+            window->setWindowState(window->windowState() ^ Qt::WindowMinimized);
+    }
+    if (!changed.isMinimized()) raiseModalWindow();
+}
+
+bool hasGoneAsideOrComeBack(const QWidget& window, const QEvent& change) {
+    const auto before = static_cast<const QWindowStateChangeEvent&>(change).oldState();
+    return (before ^ window.windowState()) & Qt::WindowMinimized;
+}
+
 }  // namespace
 
 QtModalGuard::QtModalGuard() {
@@ -56,6 +72,11 @@ bool QtModalGuard::eventFilter(QObject* watched, QEvent* event) {
         raiseModalWindow();
     if (type == QEvent::Expose && watched == QGuiApplication::modalWindow() && isKeyboardBehind())
         raiseModalWindow();
+    if (type == QEvent::WindowStateChange && watched->isWidgetType() &&
+        QGuiApplication::modalWindow()) {
+        const auto& window = static_cast<const QWidget&>(*watched);
+        if (window.isWindow() && hasGoneAsideOrComeBack(window, *event)) followAside(window);
+    }
     if (m_lettingGo || !isInput(type)) return false;
     if (isBehindModalWindow(watched)) return true;
     if (watched->isWidgetType()) noteButtons(static_cast<QWidget*>(watched), *event);

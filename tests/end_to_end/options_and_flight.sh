@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Usage: options_and_flight.sh PROGRAM
 # A shell is seen flying while the program is busy with it; options are saved by quitting and
-# read at the next start; the window's frame and Esc leave the set.
+# read at the next start; the window's frame and Esc leave the set. A box that is put aside takes its screen
+# along, and either brings the other one back.
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 
 battle() { press "$battle" "$@"; }
@@ -11,6 +12,15 @@ players Ann Bob
 start_display
 start_game --seed 1
 start_battle
+
+battle F1
+shown "$manual"
+behind=$(window "$battle")
+xdotool windowminimize "$(window "$manual")"
+gone "$battle"
+xdotool windowactivate "$behind"
+press "$manual" Escape
+gone "$manual"
 
 look "$battle"
 before=$(red)
