@@ -8,8 +8,8 @@ namespace skylob {
 
 /// Keeps every window of the program that stands behind a modal one from acting on input, however
 /// that comes: the toolkit lets shortcuts through, and what was under way when the modal window
-/// came up. A program needs one; it works from the moment it is made. The modal window itself
-/// is served, and so are its menus.
+/// came up. They are minimised with it, and all are restored together. A program needs one; it
+/// works from the moment it is made. The modal window itself is served, and so are its menus.
 class QtModalGuard : public QObject {
     Q_OBJECT
 
