@@ -78,9 +78,9 @@ int refuse(const char* what, const std::string& file, const skylob::RecordError&
 }
 
 /// While the toolkit starts: what it has to say is worth a line only when it gives up, and then
-/// one line is enough.
-void endWhereThereIsNoDisplay(QtMsgType type, const QMessageLogContext&, const QString&) {
-    if (type != QtFatalMsg) return;
+/// one line is enough. Where there is no memory for its threads it goes on, and hears of nothing.
+void endWhereThereIsNoDisplay(QtMsgType type, const QMessageLogContext&, const QString& text) {
+    if (type != QtFatalMsg && !text.startsWith(QLatin1String{"QThread::start:"})) return;
     std::fputs("skylob: the display cannot be used\n", stderr);
     std::_Exit(EXIT_FAILURE);
 }
