@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::size_t kLargestFile = 4 << 20;
 constexpr std::size_t kLongestName = 80;  // bytes; players have 20 letters at most
-constexpr int kMostRounds = 20, kStrongestRecorded = 39;
+constexpr int kMostRounds = 20, kStrongestRecordedWind = 39;
 constexpr int kFarthestRecorded = 100'000;         // a shell may come down beside the field
 constexpr int kMostKills = 1'000'000;              // of a set
 constexpr std::uint64_t kMostDraws = 100'000'000;  // going that far takes a second or two
@@ -88,7 +88,7 @@ RoundLine readRound(LineReader& from) {
     line.round = from.number(1, kMostRounds);
     line.draws = from.draws();
     line.shooter = from.number("shooter", kLeftSide, kRightSide);
-    line.wind = from.number("wind", -kStrongestRecorded, kStrongestRecorded);
+    line.wind = from.number("wind", -kStrongestRecordedWind, kStrongestRecordedWind);
     from.expect("pieces");
     for (const int side : kSides) line.pieces[side] = from.point();
     from.expect("field");
@@ -116,7 +116,7 @@ BoxLine readBox(LineReader& from) {
     line.box = from.oneOf<Box>(kBoxWords);
     line.ticked = from.oneOf<int>(kTickWords) == 1;
     line.draws = from.draws();
-    line.wind = from.number("wind", -kStrongestRecorded, kStrongestRecorded);
+    line.wind = from.number("wind", -kStrongestRecordedWind, kStrongestRecordedWind);
     return line;
 }
 
