@@ -70,8 +70,9 @@ std::string shotSentence(const BattleState& state, const basSkylob& shared) {
     for (const int side : kSides) {
         const auto& shot = state.lastShot[side];
         if (!shot) continue;
-        text += text.empty() ? " " + whose(side, shared, At::SentenceStart)
-                             : "; " + whose(side, shared, At::Middle);
+        const bool isFirst = text.empty();
+        text += isFirst ? " " : "; ";
+        text += whose(side, shared, isFirst ? At::SentenceStart : At::Middle);
         text += " last shell with speed " + to_string(shot->speed) + " and angle " +
                 to_string(shot->angle) + " " + landing(*shot);
     }
