@@ -3,10 +3,12 @@
 #include <QByteArray>
 #include <QFile>
 #include <condition_variable>
+#include <cstdio>
 #include <mutex>
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <system_error>
 #include <thread>
 #include <utility>
 
@@ -55,11 +57,22 @@ void SdlSoundPlayer::PlaySound(std::string_view name) {
     const QByteArray sound = waveResource(name);
     const std::lock_guard lock{m_desk->mutex};
     if (m_desk->isClosing) return;
+    if (!m_desk->isServed) startServing();
+    if (!m_desk->isServed) return;
     m_desk->next = sound;
     m_desk->isPlaying = true;
     m_desk->changed.notify_all();
-    if (!m_desk->isServed) std::thread{[desk = m_desk] { serve(desk); }}.detach();
-    m_desk->isServed = true;
+}
+
+/// Without a thread there are no sounds, and no second try.
+void SdlSoundPlayer::startServing() {
+    try {
+        std::thread{[desk = m_desk] { serve(desk); }}.detach();
+        m_desk->isServed = true;
+    } catch (const std::system_error& error) {
+        std::fprintf(stderr, "skylob: no sound: %s\n", error.what());
+        m_desk->isClosing = true;
+    }
 }
 
 void SdlSoundPlayer::setVolume(int percent) {

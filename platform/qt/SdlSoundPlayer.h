@@ -9,8 +9,8 @@ namespace skylob {
 
 /// Plays the sounds compiled into the program, one at a time and on threads of its own: a sound
 /// goes on while the user-interface thread is busy, and a sound system that does not answer keeps
-/// nobody else waiting. Without a sound device the game plays on in silence, after one line on
-/// standard error.
+/// nobody else waiting. Without a sound device, or a thread for it, the game plays on in silence,
+/// after one line on standard error.
 ///
 /// The device is opened when a sound is to be played, and closed again when nothing has been
 /// heard for some seconds: an open one costs processor time even in silence.
@@ -38,6 +38,7 @@ class SdlSoundPlayer final : public SoundPlayer {
 
   private:
     struct Desk;
+    void startServing();
     static void serve(const std::shared_ptr<Desk>& desk);
 
     std::shared_ptr<Desk> m_desk;  ///< shared with the thread, which may outlive the player

@@ -1,3 +1,4 @@
+#include <pthread.h>
 #include <sys/stat.h>
 
 #include <QFile>
@@ -63,6 +64,29 @@ class Capture {
 
   private:
     QProcess m_reader;
+};
+
+/// While it lives, each new thread is to have a stack larger than the address space.
+class ThreadsTooLarge {
+  public:
+    ThreadsTooLarge() {
+        pthread_getattr_default_np(&m_before);
+        pthread_attr_t tooLarge;
+        pthread_getattr_default_np(&tooLarge);
+        pthread_attr_setstacksize(&tooLarge, std::size_t{1} << 60);
+        pthread_setattr_default_np(&tooLarge);
+        pthread_attr_destroy(&tooLarge);
+    }
+    ~ThreadsTooLarge() {
+        pthread_setattr_default_np(&m_before);
+        pthread_attr_destroy(&m_before);
+    }
+
+    ThreadsTooLarge(const ThreadsTooLarge&) = delete;
+    ThreadsTooLarge& operator=(const ThreadsTooLarge&) = delete;
+
+  private:
+    pthread_attr_t m_before;
 };
 
 class SoundTest : public QObject {
@@ -131,6 +155,18 @@ class SoundTest : public QObject {
             QVERIFY2(said.count('\n') <= 1, said);
             if (driver == QByteArray{"nonesuch"}) QVERIFY(said.startsWith("skylob: no sound: "));
         }
+    }
+
+    void bearsAThreadThatCannotBeMade() {
+        const ThreadsTooLarge threads;
+        const test::CapturedErrors errors;
+        SdlSoundPlayer player;
+        player.PlaySound("click");
+        player.PlaySound("shot");
+        QVERIFY(!player.isPlaying());
+        QVERIFY(player.close(std::chrono::milliseconds{1}));
+        const QByteArray said = errors.text();
+        QVERIFY2(said.startsWith("skylob: no sound: ") && said.count('\n') == 1, said);
     }
 
     void playsTheNewestWhenTheSoundSystemAnswersAtLast() {
