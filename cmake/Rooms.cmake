@@ -47,11 +47,9 @@ endfunction()
 
 if(SKYLOB_ROOMS_TOGETHER)
     add_library(skylob_rules STATIC)
-    set_target_properties(skylob_rules PROPERTIES UNITY_BUILD_BATCH_SIZE 24)
+    set_target_properties(skylob_rules PROPERTIES UNITY_BUILD_BATCH_SIZE 12)
     target_link_libraries(skylob_rules PRIVATE skylob_strict)
     skylob_compile_exactly(skylob_rules)
-    # The tests of a build of no kind, such as that of the preset rules, last less long with it.
-    target_compile_options(skylob_rules PRIVATE $<$<CONFIG:None>:-O1>)
 endif()
 
 # The rules' headers, each compiled by itself. A source includes its own header first, which shows the
