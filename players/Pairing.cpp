@@ -29,8 +29,10 @@ void Pairing::chkComputer_Click(bool ticked) {
 
 void Pairing::rename(std::string_view from, const std::string& to) {
     if (from.empty()) return;
-    if (m_name[1] == from) m_name[1] = to;
-    if (m_name[2] == from && !m_chkComputer) m_name[2] = to;
+    // Whoever is now called like the computer has gone: that one plays side 2, and by the box.
+    const std::string name = to == kComputerName ? "" : to;
+    if (m_name[1] == from) m_name[1] = name;
+    if (m_name[2] == from && !m_chkComputer) m_name[2] = name;
 }
 
 }  // namespace skylob

@@ -33,8 +33,8 @@ class Pairing {
     /// The box plays the computer, or nobody.
     void chkComputer_Click(bool ticked);
 
-    /// A player of the list has got another name, or is gone. The computer that the box has
-    /// brought in is no player of the list.
+    /// A player of the list has got another name, or is gone; with the computer's name, that is the
+    /// same. The computer that the box has brought in is no player of the list.
     void rename(std::string_view from, const std::string& to);
     void remove(std::string_view name) { rename(name, {}); }
 

@@ -165,6 +165,7 @@ TEST(LastRound, EndsTheSet) {
     EXPECT_EQ(rig.log, (Log{"wait 1000", "summary Round", "hourglass", "wait 1000", "summary Set",
                             "close"}));
     EXPECT_EQ(std::pair(rig.shared.SetOver, rig.shared.Winner), std::pair(true, 1));
+    EXPECT_EQ(rig.tally(), "1:1 100-100 1-0 100-0 100-0 1-0");  // the dead stay among the men left
     EXPECT_EQ(rig.settings.get("MeteorsSetting", "none"), "none");  // only leaving saves them
 }
 

@@ -110,6 +110,8 @@ TEST(Explosion, GrowsInYellowAndWhiteAndLeavesABlackDot) {
         EXPECT_EQ(stage.picture.pixel(500 + reach + 1, y), kCyan);
         EXPECT_EQ(std::ranges::count(pixelsOf(stage.picture), 0xFFFFFFFFu), 0);  // no spark
         EXPECT_EQ(landingSound(landing), sound);
+        stage.picture.refresh();
+        EXPECT_EQ(stage.picture.pixel(500, y), kCyan);
     }
     EXPECT_EQ(landingSound(OutOfBounds), "outofbounds");
 }

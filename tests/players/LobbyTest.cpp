@@ -128,6 +128,16 @@ TEST_F(LobbyTest, RenamesAndDeletesWhoIsHighlighted) {
     EXPECT_EQ(bytes(), ann + cyd);
 }
 
+TEST_F(LobbyTest, PutsNobodyInTheComputersPlaceByAName) {
+    put(ann + bob);
+    boxes.entries = {"Computer"};
+    lobby.grid_DblClick(row(1, "Ann"));
+    lobby.cmdModify_Click(row(1, "Ann"));
+    EXPECT_EQ(events()[2], "|| Player 1 |");
+    lobby.grid_DblClick(row(1, "Computer"));
+    EXPECT_EQ(events(), Log{"|Computer| Player 1 |computer"});
+}
+
 TEST_F(LobbyTest, OpensAndReadsTheListOnceForEachCommand) {
     const std::string once = "open Skylob.Data\nread Skylob.Data\n";
     const std::string written = once + "write Skylob.Data\nsync Skylob.Data\n";

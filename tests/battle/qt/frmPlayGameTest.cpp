@@ -2,11 +2,13 @@
 #include <QCheckBox>
 #include <QDialog>
 #include <QGroupBox>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QScrollBar>
 #include <QShortcut>
 #include <QTest>
 #include <QTimer>
+#include <QToolTip>
 #include <QWindow>
 
 #include "battle/qt/frmPlayGameLayout.h"
@@ -56,6 +58,9 @@ class frmPlayGameTest : public QObject {
         for (const QPoint& place : {one, sky, two})
             QTest::mouseClick(screen.field(), Qt::LeftButton, {}, place);
         QCOMPARE(screen.shots(), 2u);
+        QHelpEvent rest{QEvent::ToolTip, two, screen.field()->mapToGlobal(two)};
+        QApplication::sendEvent(screen.field(), &rest);
+        QCOMPARE(QToolTip::text(), " Click here to shoot ");
     }
 
     void dropsInputMadeWhileAShellFlies() {
@@ -186,6 +191,7 @@ class frmPlayGameTest : public QObject {
             keys.removeAll({});
             QCOMPARE(keys.size(), 15);  // S Q O T M L F, W P A G V, F1 F11 Esc
             QCOMPARE(keys.removeDuplicates(), 0);
+            QCOMPARE(screen.form->windowTitle(), " Skylob - Battlefield");
             QCOMPARE(screen.shoot()->plainCaption().isEmpty(), size == 1);
             QCOMPARE(screen.shoot()->toolTip(),
                      size == 1 ? QStringLiteral(" Shoot your Artillery Piece ") : QString{});

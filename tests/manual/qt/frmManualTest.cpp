@@ -7,6 +7,7 @@
 #include <QTextEdit>
 
 #include "base/basSkylob.h"
+#include "controls/qt/GlintButton.h"
 #include "look/qt/QtShapes.h"
 #include "screen/qt/QtLinkLabel.h"
 #include "tests/support/Fakes.h"
@@ -32,6 +33,10 @@ class frmManualTest : public QObject {
         frmManual manual{{shared, settings, shapes, windows}, texts, links, boxes};
         manual.show();
         QVERIFY(QTest::qWaitForWindowActive(&manual));
+        std::string captions;
+        for (const char* name : {"cmdHelpTopic", "cmdPrintHelp", "cmdReturn"})
+            captions += manual.findChild<GlintButton*>(name)->state().Caption + "|";
+        QCOMPARE(captions, std::string{"&Help Topics\r\n(F1)|&Print|&Return\r\n(Esc)|"});
         QCOMPARE(shownBy(manual), "Program Overview|<b>Text 1000</b>\n\n&amp;|1 Program &Overview");
         const auto choose = [&manual](Qt::Key key) {
             QTest::keyClick(&manual, Qt::Key_F1);
