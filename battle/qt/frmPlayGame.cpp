@@ -42,7 +42,6 @@ frmPlayGame::frmPlayGame(const QtScreenPorts& screen, const BattlePorts& ports, 
     m_fieldEdge->setObjectName(QStringLiteral("fieldEdge"));
     new QtDragAim{m_field, m_battle};
     m_layer.setOn(m_controls.strip()->wantsEffects());
-    m_layer.setMotion(m_shared.motion);
     connectControls();
     addBattleKeys(*this, m_battle, m_controls, [this] { quit(); });
     orderTabs(m_controls);
@@ -150,6 +149,7 @@ BattlePanel frmPlayGame::shown(const BattlePanel& panel) const {
 }
 
 void frmPlayGame::showPanel(const BattlePanel& panel) {
+    m_layer.setMotion(m_shared.motion);  // the desktop may tell it late
     m_controls.showSides(shown(panel));
     setSpokenDescription(*m_field,
                          QString::fromStdString(fieldDescription(m_battle.state(), m_shared)));
