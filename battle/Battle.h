@@ -28,8 +28,8 @@ namespace skylob {
 /// nothing; one that comes while a meteor or a storm is under way ends it and follows it.
 class Battle {
   public:
-    /// All three and everything in `ports` must outlive the battle. Player names, skill level
-    /// and number of rounds are taken from `shared` and must not change during the set.
+    /// `shared`, `view` and everything in `ports` must outlive the battle. Player names, skill
+    /// level and number of rounds are taken from `shared` and must not change during the set.
     Battle(basSkylob& shared, const BattlePorts& ports, BattleView& view);
 
     Battle(const Battle&) = delete;

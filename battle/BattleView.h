@@ -31,9 +31,10 @@ class BattleView {
     virtual void holdInput() = 0;
     virtual void releaseInput() = 0;
 
-    /// While a storm holds the field: the screen looks so, though its controls stay as they are,
-    /// and moves on by a picture with each call. In the pause the input is held; only the window's
-    /// closing gets through. After endStorm() the report is what it was before.
+    /// Called again and again while a storm holds the field, in a pause in which input is held and
+    /// only the window's closing gets through. The first call dims the controls, which stay
+    /// enabled; each one shows the storm's next picture. endStorm() takes all that back, and shows
+    /// the report that was there before.
     virtual void showStorm() = 0;
     virtual void endStorm() = 0;
 

@@ -12,14 +12,6 @@ namespace {
 
 constexpr double kUnits = 999.0;  // from the left edge's 1 to the right edge's 1000
 
-constexpr std::uint32_t toPixel(Colour colour) {
-    return colour.pixel();
-}
-
-constexpr Colour toColour(std::uint32_t pixel) {
-    return Colour::fromRgb(pixel);
-}
-
 int toInt(double value) {
     return static_cast<int>(std::lround(value));
 }
@@ -32,7 +24,7 @@ void FieldPicture::resize(int width, int height, int dotScale) {
     m_height = height;
     m_dotScale = dotScale;
     const auto pixels = static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
-    m_persistent.assign(pixels, toPixel(kBlack));
+    m_persistent.assign(pixels, kBlack.pixel());
     m_screen = m_persistent;
     m_dirty = {0, 0, width, height};
     hidePieces();
@@ -40,20 +32,20 @@ void FieldPicture::resize(int width, int height, int dotScale) {
 
 void FieldPicture::clear() {
     ++m_making;
-    std::fill(m_persistent.begin(), m_persistent.end(), toPixel(kBlack));
-    std::fill(m_screen.begin(), m_screen.end(), toPixel(kBlack));
+    std::fill(m_persistent.begin(), m_persistent.end(), kBlack.pixel());
+    std::fill(m_screen.begin(), m_screen.end(), kBlack.pixel());
     m_passing.clear();
     markDirty({0, 0, m_width, m_height});
 }
 
 void FieldPicture::setPoint(int x, int y, Colour colour, int width) {
     if (m_screen.empty()) return;
-    drawDot(dotArea(x, y, width), width, toPixel(colour), Buffers::Both);
+    drawDot(dotArea(x, y, width), width, colour.pixel(), Buffers::Both);
 }
 
 void FieldPicture::setPassingPoint(int x, int y, Colour colour, int width) {
     if (!m_screen.empty())
-        drawDot(dotArea(x, y, width), width, toPixel(colour), Buffers::ScreenOnly);
+        drawDot(dotArea(x, y, width), width, colour.pixel(), Buffers::ScreenOnly);
     m_passing.push_back({x, y, colour, width});
 }
 
@@ -77,7 +69,7 @@ void FieldPicture::drawDot(const PixelRect& dot, int width, std::uint32_t value,
 
 Colour FieldPicture::pixel(int x, int y) const {
     const PixelRect dot = clipped({column(x), row(y), 1, 1});
-    return dot.isEmpty() ? kBlack : toColour(m_screen[index(dot.x, dot.y)]);
+    return dot.isEmpty() ? kBlack : Colour::fromRgb(m_screen[index(dot.x, dot.y)]);
 }
 
 void FieldPicture::ground(std::span<const int> heights, Colour colour, int width) {
@@ -96,7 +88,7 @@ void FieldPicture::ground(std::span<const int> heights, Colour colour, int width
         for (auto* const buffer : {&m_persistent, &m_screen}) {
             std::uint32_t* const pixel = buffer->data() + index(0, py);
             for (std::size_t px = 0; px < tops.size(); ++px)
-                pixel[px] = tops[px] <= py ? toPixel(colour) : pixel[px];
+                pixel[px] = tops[px] <= py ? colour.pixel() : pixel[px];
         }
     }
     markDirty({0, 0, m_width, m_height});
@@ -109,7 +101,7 @@ void FieldPicture::filledCircle(int x, int y, int radius, Colour colour) {
     const int cx = column(x), cy = row(y);
     for (int dy = -reach; dy <= reach; ++dy) {
         const int half = toInt(std::sqrt(r * r - static_cast<double>(dy) * dy));
-        fillRow(cx - half, cy + dy, 2 * half + 1, toPixel(colour), Buffers::Both);
+        fillRow(cx - half, cy + dy, 2 * half + 1, colour.pixel(), Buffers::Both);
     }
     markDirty({cx - reach - 1, cy - reach, 2 * reach + 3, 2 * reach + 1});
 }

@@ -78,7 +78,7 @@ class FieldPicture {
     struct LiftedPoint {
         PixelRect area;
         std::vector<std::uint32_t> pixels;
-        int making;
+        int making;           ///< what makings() was
         std::size_t passing;  ///< how many passing points there were
     };
     LiftedPoint liftPoint(int x, int y, int width = 1) const;

@@ -42,8 +42,7 @@ class HeadlessBattle {
   public:
     /// Starts a set of shared.NumRounds rounds between shared.PlayerName[1] and [2]. The same
     /// seed and the same shots make the same set. `settings` may bring options for the start,
-    /// such as "WindSetting"; the
-    /// observer, if any, must outlive the set.
+    /// such as "WindSetting". The observer, if any, must outlive the object.
     HeadlessBattle(basSkylob shared, std::uint64_t seed, MemorySettings settings = {},
                    BattleObserver* observer = nullptr);
 

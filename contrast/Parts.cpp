@@ -266,10 +266,9 @@ QList<Part> partsOf(const QWidget& widget) {
 double contrastOf(const Part& part, const QImage& picture) {
     const std::vector<double> ground =
         part.ground.isNull() ? lightAlongEdges(part.place, picture) : lightIn(part.ground, picture);
-    if (ground.empty()) return 1;
-    const std::vector<double> inside = lightIn(part.place, picture);
+    std::vector<double> strongest = lightIn(part.place, picture);
+    if (ground.empty() || strongest.empty()) return 1;  // scrolled out of sight
     const double usual = ground[ground.size() / 2];
-    std::vector<double> strongest = inside;
     std::ranges::sort(strongest, std::greater{},
                       [usual](double light) { return ratio(light, usual); });
     const double ink = strongest[std::min(kSeen, strongest.size()) - 1];

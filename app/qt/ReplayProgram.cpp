@@ -11,6 +11,7 @@
 #include "battle/qt/frmPlayGame.h"
 #include "controls/qt/GlintButtonAccessible.h"
 #include "look/qt/QtLook.h"
+#include "platform/qt/QtMotionPortal.h"
 #include "screen/qt/QtSpokenControls.h"
 #include "screen/qt/QtWindowPlaces.h"
 
@@ -42,6 +43,8 @@ ReplayProgram::~ReplayProgram() = default;
 
 int ReplayProgram::run() {
     showBattle();
+    if (m_shared.motion == Motion::Full)
+        askForMotion(this, [this](Motion motion) { m_shared.motion = motion; });
     const int status = exec();
     closeSounds(m_sounds, status);
     return status == EXIT_SUCCESS && m_replay.difference() ? EXIT_FAILURE : status;

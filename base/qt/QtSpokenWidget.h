@@ -12,7 +12,8 @@ namespace skylob {
 /// What kind of thing it is, where its class does not say so.
 void setSpokenRole(QWidget& widget, QAccessible::Role role);
 
-/// Its accessible name and description. The toolkit tells of a change even where there is none.
+/// Its accessible name and description, set only where they are others than before: of every
+/// setting the toolkit tells readers as of a change.
 void setSpokenName(QWidget& widget, const QString& name);
 void setSpokenDescription(QWidget& widget, const QString& description);
 

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "battle/Battle.h"
+#include "battle/qt/QtBattleControls.h"
 #include "battle/qt/QtOptionStrip.h"
 #include "battle/qt/QtSidePanel.h"
 #include "controls/qt/GlintButton.h"
@@ -19,10 +20,8 @@ void addBattleKeys(QWidget& screen, Battle& battle, const QtBattleControls& cont
         shortcut->setAutoRepeat(false);  // a key that is held is pressed once
         QObject::connect(shortcut, &QShortcut::activated, &screen, std::move(action));
     };
-    const auto shooterSide = [&battle, side = controls.side] {
-        return side[battle.state().Shooter];
-    };
-    const auto* const strip = controls.strip;
+    const auto shooterSide = [&battle, &controls] { return controls.side(battle.state().Shooter); };
+    const auto* const strip = controls.strip();
     onKey(Qt::Key_Escape, std::move(quit));
     onKey(Qt::Key_F1, [&battle] { battle.readRules(); });
     onKey(Qt::Key_F11,
@@ -32,16 +31,15 @@ void addBattleKeys(QWidget& screen, Battle& battle, const QtBattleControls& cont
     onKey(Qt::ALT | Qt::Key_G, [strip] { strip->gameSpeed()->setFocus(); });
     onKey(Qt::ALT | Qt::Key_V, [strip] { strip->volume()->setFocus(); });
     onKey(Qt::ALT | Qt::Key_W, [strip] { strip->wind()->click(); });
-    if (controls.cmdShoot->plainCaption().isEmpty())
+    if (controls.shoot()->plainCaption().isEmpty())
         onKey(Qt::ALT | Qt::Key_S, [&battle] { battle.cmdShoot_Click(); });
 }
 
 void orderTabs(const QtBattleControls& controls) {
     QList<QWidget*> order;
     for (const int side : kSides)
-        order << controls.side[side]->scrollSpeed() << controls.side[side]->scrollAngle();
-    order << controls.cmdShoot << controls.cmdQuit;
-    order += controls.strip->controls();
+        order << controls.side(side)->scrollSpeed() << controls.side(side)->scrollAngle();
+    order += controls.commands();
     for (qsizetype i = 1; i < order.size(); ++i) QWidget::setTabOrder(order[i - 1], order[i]);
 }
 

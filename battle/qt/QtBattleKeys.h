@@ -2,23 +2,12 @@
 
 #include <functional>
 
-#include "base/PerSide.h"
-
 class QWidget;
 
 namespace skylob {
 
 class Battle;
-class GlintButton;
-class QtOptionStrip;
-class QtSidePanel;
-
-/// What the keyboard reaches on the battle screen.
-struct QtBattleControls {
-    PerSide<QtSidePanel*> side;
-    GlintButton *cmdShoot, *cmdQuit;
-    QtOptionStrip* strip;
-};
+class QtBattleControls;
 
 /// Gives the screen the keys that no caption tells; `quit` is what Escape does. Battle and controls
 /// must live as long as it.

@@ -13,8 +13,8 @@ namespace skylob {
 /// a pointer, the controls dim under a veil, and nothing that they report heard. They stay enabled.
 class QtStormHold {
   public:
-    /// The veil covers `screen` from `top` downwards. `controls` report to the rules; what else
-    /// than input could move them is a screen reader.
+    /// The veil covers `screen` from `top` downwards. `controls` are those whose signals are not to
+    /// reach the rules: though input is held, a screen reader could still move them.
     QtStormHold(QWidget& screen, int top, const QList<QObject*>& controls);
     ~QtStormHold();
 

@@ -2,10 +2,7 @@
 
 #include <QCoreApplication>
 #include <QFrame>
-#include <QLabel>
 #include <QScreen>
-#include <QScrollBar>
-#include <QTextDocument>
 #include <QTimer>
 #include <QWindow>
 #include <algorithm>
@@ -16,7 +13,6 @@
 #include "battle/qt/QtBattleKeys.h"
 #include "battle/qt/QtDragAim.h"
 #include "battle/qt/QtEffectTimers.h"
-#include "battle/qt/QtHints.h"
 #include "battle/qt/QtOptionStrip.h"
 #include "battle/qt/QtReplayHand.h"
 #include "battle/qt/QtReportLabel.h"
@@ -25,18 +21,9 @@
 #include "battle/qt/frmPlayGameLayout.h"
 #include "battle/qt/picGameField.h"
 #include "controls/qt/GlintButton.h"
-#include "controls/qt/QtFormButtons.h"
 #include "screen/qt/QtInputGate.h"
 
 namespace skylob {
-
-namespace {
-
-void enable(GlintButton& button, bool enabled) {
-    if (button.state().Enabled != enabled) button.design().setEnabled(enabled);
-}
-
-}  // namespace
 
 frmPlayGame::frmPlayGame(const QtScreenPorts& screen, const BattlePorts& ports, const QSize& room)
     : QtScreen{{.name = QStringLiteral("frmPlayGame"),
@@ -50,86 +37,43 @@ frmPlayGame::frmPlayGame(const QtScreenPorts& screen, const BattlePorts& ports, 
       m_gate{new QtInputGate{this}},
       m_timers{new QtEffectTimers{this, m_battle}},
       m_fieldEdge{new QFrame{board()}},
-      m_field{new picGameField{m_battle.picture(), m_layer, m_shapes, board()}} {
+      m_field{new picGameField{m_battle.picture(), m_layer, m_shapes, board()}},
+      m_controls{m_layout, screen, m_battle.options(), board()} {
     m_fieldEdge->setObjectName(QStringLiteral("fieldEdge"));
     new QtDragAim{m_field, m_battle};
-    makeReportRow();
-    makeSidePanels();
-    makeButtons();
-    m_strip = new QtOptionStrip{m_layout, m_windows, m_battle.options(), board()};
-    m_layer.setOn(m_strip->wantsEffects());
-    m_layer.setMotion(m_shared.motion);
+    m_layer.setOn(m_controls.strip()->wantsEffects());
     connectControls();
-    const QtBattleControls controls{m_side, cmdShoot, cmdQuit, m_strip};
-    addBattleKeys(*this, m_battle, controls, [this] { quit(); });
-    orderTabs(controls);
+    addBattleKeys(*this, m_battle, m_controls, [this] { quit(); });
+    orderTabs(m_controls);
     place(m_layout);
     frmPlayGame::showPanel(m_battle.panel());
 }
 
 frmPlayGame::~frmPlayGame() = default;
 
-void frmPlayGame::makeReportRow() {
-    labelReport = new QtReportLabel{board()};
-    labelReport->setObjectName(QStringLiteral("labelReport"));
-    labelScore = new QLabel{board()};
-    labelScore->setObjectName(QStringLiteral("labelScore"));
-    labelScore->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    labelScore->setProperty("role", QStringLiteral("round-small"));
-}
-
-void frmPlayGame::makeSidePanels() {
-    for (const int side : kSides)
-        m_side[side] = new QtSidePanel{side, QString::fromStdString(sideCaption(side, m_shared)),
-                                       m_layout.inFrame, board()};
-}
-
-void frmPlayGame::makeButtons() {
-    labelRoundNumber = new QLabel{board()};
-    labelRoundNumber->setObjectName(QStringLiteral("labelRoundNumber"));
-    labelRoundNumber->setAlignment(Qt::AlignCenter);
-    labelRoundNumber->setProperty(
-        "role", QLatin1String{m_layout.oneFrameAtATime ? "round-small" : "round"});
-
-    QtFormButtons buttons{objectName(), m_shapes, *board()};
-    cmdShoot = buttons.make(QStringLiteral("cmdShoot"), m_layout.cmdShoot);
-    if (!m_layout.shootHasCaption) {
-        cmdShoot->design().setCaption({});
-        cmdShoot->design().setPictureNormal("shell " + std::to_string(m_layout.shootPicture));
-        // Quirk "blank at the ends": one on either side.
-        cmdShoot->setToolTip(tr(" Shoot your Artillery Piece "));
-    }
-    setSpokenKey(*cmdShoot, Qt::ALT | Qt::Key_S);
-    cmdQuit = buttons.make(QStringLiteral("cmdQuit"), m_layout.cmdQuit);
-}
-
 void frmPlayGame::place(const frmPlayGameLayout& layout) {
     m_fieldEdge->setGeometry(layout.field.adjusted(-1, -1, 1, 1));
     m_field->setGeometry(layout.field);
-    labelReport->setGeometry(layout.labelReport);
-    labelScore->setGeometry(layout.labelScore);
-    for (const int side : kSides) m_side[side]->setGeometry(layout.frame[side]);
-    labelRoundNumber->setGeometry(layout.labelRoundNumber);
-    cmdShoot->setGeometry(layout.cmdShoot);
-    cmdQuit->setGeometry(layout.cmdQuit);
-    m_strip->place(layout);
+    m_controls.place(layout);
 }
 
 void frmPlayGame::connectControls() {
     // A bar that is set by the rules reports the value that they have already: no change.
     for (const int side : kSides) {
-        connect(m_side[side], &QtSidePanel::speedMoved, this,
+        const QtSidePanel* const panel = m_controls.side(side);
+        connect(panel, &QtSidePanel::speedMoved, this,
                 [this](int which, int value) { m_battle.aims().setSpeed(which, value); });
-        connect(m_side[side], &QtSidePanel::angleMoved, this,
+        connect(panel, &QtSidePanel::angleMoved, this,
                 [this](int which, int value) { m_battle.aims().setAngle(which, value); });
     }
-    connect(m_strip, &QtOptionStrip::volumeChosen, this, &frmPlayGame::volumeChosen);
-    connect(m_strip, &QtOptionStrip::effectsChosen, this, [this](bool wanted) {
+    const QtOptionStrip* const strip = m_controls.strip();
+    connect(strip, &QtOptionStrip::volumeChosen, this, &frmPlayGame::volumeChosen);
+    connect(strip, &QtOptionStrip::effectsChosen, this, [this](bool wanted) {
         m_layer.setOn(wanted);
         m_field->showChanges();
     });
-    connect(cmdShoot, &GlintButton::Click, this, [this] { m_battle.cmdShoot_Click(); });
-    connect(cmdQuit, &GlintButton::Click, this, [this] { quit(); });
+    connect(m_controls.shoot(), &GlintButton::Click, this, [this] { m_battle.cmdShoot_Click(); });
+    connect(m_controls.quit(), &GlintButton::Click, this, [this] { quit(); });
     connect(m_field, &picGameField::pieceClicked, this, [this] { m_battle.FieldPiece_Click(); });
     connect(m_timers, &QtEffectTimers::ticked, this, &frmPlayGame::fitField);
 }
@@ -197,25 +141,19 @@ void frmPlayGame::showField() {
 }
 
 /// The computer's bars, too, are nobody's in a set that is watched: input is not held meanwhile.
-SidePanel frmPlayGame::shown(const SidePanel& side) const {
-    SidePanel shown = side;
-    if (m_replayHand) shown.enabled = false;
+BattlePanel frmPlayGame::shown(const BattlePanel& panel) const {
+    BattlePanel shown = panel;
+    if (m_replayHand)
+        for (const int side : kSides) shown.side[side].enabled = false;
     return shown;
 }
 
 void frmPlayGame::showPanel(const BattlePanel& panel) {
-    if (cmdShoot->isEnabled() && !panel.commandsEnabled) dropFocusOfCommands();
-    for (const int side : kSides) {
-        m_side[side]->showPanel(shown(panel.side[side]), panel.turn == side);
-        if (m_layout.oneFrameAtATime)
-            m_side[side]->setVisible(side == std::max(panel.turn, kLeftSide));
-    }
-    showReportRow(panel);
+    m_layer.setMotion(m_shared.motion);  // the desktop may tell it late
+    m_controls.showSides(shown(panel));
     setSpokenDescription(*m_field,
                          QString::fromStdString(fieldDescription(m_battle.state(), m_shared)));
-    labelRoundNumber->setText(QString::fromStdString(panel.labelRoundNumber));
-    m_strip->showPanel(panel);
-    showCommands(panel);
+    m_controls.showCommands(panel);
     m_timers->follow();
     fitField();
     m_field->showChanges();  // a barrel points another way, or it is the other side's turn
@@ -223,45 +161,6 @@ void frmPlayGame::showPanel(const BattlePanel& panel) {
     bringIntoView(m_field);
     // While the thread is blocked nothing else would bring the changes to the display.
     QCoreApplication::sendPostedEvents(this, QEvent::UpdateRequest);
-}
-
-/// Before they are disabled: it would wander from one to the next, and readers would hear of all.
-void frmPlayGame::dropFocusOfCommands() {
-    m_focusStaysOnShoot = cmdShoot->hasFocus();
-    QList<QWidget*> commands{cmdShoot, cmdQuit};
-    commands += m_strip->controls();
-    for (QWidget* command : commands) command->clearFocus();
-}
-
-void frmPlayGame::showReportRow(const BattlePanel& panel) {
-    labelReport->showReport(QString::fromStdString(panel.labelReport));
-    const QString score = QString::fromStdString(panel.score);
-    setSpokenName(*labelScore, score);
-    labelScore->setText(QString::fromStdString(panel.labelScore));
-    labelScore->setToolTip(Qt::convertFromPlainText(score));
-}
-
-void frmPlayGame::showCommands(const BattlePanel& panel) {
-    const bool wereEnabled = cmdShoot->isEnabled();
-    enable(*cmdShoot, panel.commandsEnabled);
-    enable(*cmdQuit, panel.commandsEnabled || panel.isWatched);
-    if (!wereEnabled && panel.commandsEnabled) moveFocusToTurn(panel.turn);
-    showHints(panel);
-}
-
-/// From a new player's first turn to the shot.
-void frmPlayGame::showHints(const BattlePanel& panel) {
-    if (m_hints && !panel.commandsEnabled)
-        m_hints->end();
-    else if (panel.commandsEnabled && QtHints::areWanted(m_windows))
-        m_hints = new QtHints{m_side[panel.turn], cmdShoot, labelReport, m_windows};
-}
-
-void frmPlayGame::moveFocusToTurn(int turn) {
-    if (m_focusStaysOnShoot)
-        cmdShoot->setFocus();
-    else
-        m_side[turn]->scrollSpeed()->setFocus();
 }
 
 void frmPlayGame::showCursor(BattleCursor cursor) {
@@ -281,10 +180,10 @@ void frmPlayGame::releaseInput() {
 }
 
 void frmPlayGame::showStorm() {
-    const int top = labelReport->geometry().bottom() + 1;
+    const int top = m_controls.report()->geometry().bottom() + 1;
     if (!m_stormHold) {
-        QList<QObject*> reporting{m_field, m_side[1], m_side[2], cmdShoot, cmdQuit};
-        for (QWidget* option : m_strip->controls()) reporting.append(option);
+        QList<QObject*> reporting{m_field, m_controls.side(1), m_controls.side(2)};
+        for (QWidget* command : m_controls.commands()) reporting.append(command);
         m_stormHold = std::make_unique<QtStormHold>(*board(), top, reporting);
     }
     m_stormHold->fitVeil(top);
@@ -300,7 +199,7 @@ void frmPlayGame::endStorm() {
 }
 
 void frmPlayGame::showReport(const std::string& report) {
-    labelReport->showCountdown(QString::fromStdString(report));
+    m_controls.report()->showCountdown(QString::fromStdString(report));
 }
 
 int frmPlayGame::displayWidth() const {
@@ -331,7 +230,7 @@ void frmPlayGame::showRules() {
 
 void frmPlayGame::closeBattle() {
     m_timers->end();
-    m_strip->rememberVolume();
+    m_controls.strip()->rememberVolume();
     leave([this] { emit battleClosed(); });
 }
 

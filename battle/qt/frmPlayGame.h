@@ -5,23 +5,18 @@
 #include "battle/Battle.h"
 #include "battle/BattleView.h"
 #include "battle/light/FieldLayer.h"
+#include "battle/qt/QtBattleControls.h"
 #include "battle/qt/QtGunDrawings.h"
 #include "screen/qt/QtScreen.h"
 
 class QFrame;
-class QLabel;
 
 namespace skylob {
 
 class BattleReplay;
-class GlintButton;
 class QtEffectTimers;
-class QtHints;
 class QtInputGate;
-class QtOptionStrip;
 class QtReplayHand;
-class QtReportLabel;
-class QtSidePanel;
 class QtStormHold;
 class picGameField;
 struct frmPlayGameLayout;
@@ -89,17 +84,9 @@ class frmPlayGame : public QtScreen, private BattleView {
     void closeBattle() override;
 
     void quit();
-    SidePanel shown(const SidePanel& side) const;
-    void makeSidePanels();
-    void makeReportRow();
-    void showReportRow(const BattlePanel& panel);
-    void makeButtons();
+    BattlePanel shown(const BattlePanel& panel) const;
     void place(const frmPlayGameLayout& layout);
     void connectControls();
-    void showCommands(const BattlePanel& panel);
-    void showHints(const BattlePanel& panel);
-    void dropFocusOfCommands();
-    void moveFocusToTurn(int turn);
     void fitField();
 
     const frmPlayGameLayout& m_layout;  ///< at the screen's smallest size
@@ -110,16 +97,10 @@ class frmPlayGame : public QtScreen, private BattleView {
     QtEffectTimers* m_timers;
     QFrame* m_fieldEdge;
     picGameField* m_field;
-    PerSide<QtSidePanel*> m_side;
-    QtOptionStrip* m_strip;
-    QtReportLabel* labelReport;
-    QLabel *labelScore, *labelRoundNumber;
-    GlintButton *cmdShoot, *cmdQuit;
+    QtBattleControls m_controls;
     std::unique_ptr<QtStormHold> m_stormHold;  ///< while a storm holds the field
     int m_displayWidth = 0;                    ///< that the field was drawn for
-    bool m_focusStaysOnShoot = false;
-    QtHints* m_hints = nullptr;
-    QtReplayHand* m_replayHand = nullptr;  ///< of a set that is watched
+    QtReplayHand* m_replayHand = nullptr;      ///< of a set that is watched
 };
 
 }  // namespace skylob

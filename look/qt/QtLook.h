@@ -18,8 +18,8 @@ QStringList fontFamilies();
 /// For all windows, read once: the toolkit keeps what it has shown of every icon that is made.
 QIcon programIcon();
 
-/// Gives a screen the program's colours, fonts and style sheet, and with it everything in it. To be
-/// called before the screen's size is set. Message and input boxes stay as the desktop draws them.
+/// Gives a screen or a box the program's colours, fonts and style sheet, and with it everything in
+/// it. To be called before its size is set.
 void applyLook(QWidget& screen);
 
 /// Shows a text in a label of fixed width, in the first of the sizes (pixels) in which it fits. In

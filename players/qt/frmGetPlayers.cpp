@@ -45,7 +45,7 @@ frmGetPlayers::frmGetPlayers(const QtScreenPorts& screen, const frmGetPlayersPor
       grid{new QtPlayerGrid{board()}} {
     m_places.put(grid, kGrid, QtPlaces::kGrows);
     makeButtons();
-    for (const int side : {1, 2}) {
+    for (const int side : kSides) {
         frame[side] = new QtChosenPlayer{side, board()};
         frame[side]->setObjectName(QStringLiteral("frame(%1)").arg(side));
         m_places.put(frame[side], kChosen[side], kChosenFollow[side]);

@@ -154,7 +154,7 @@ void frmSummary::makeOkay() {
 
 void frmSummary::Form_Activate() {
     m_summary.Form_Activate();
-    for (const int side : {1, 2}) frame[side]->setTurn(side == m_shared.Winner);
+    for (const int side : kSides) frame[side]->setTurn(side == m_shared.Winner);
     const QString heading = QString::fromStdString(m_summary.heading());
     showFitting(*label, heading, {kHeadingSize, kLargeSize});
     label->setAccessibleName(heading);

@@ -6,6 +6,7 @@ source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 
 # watch WINDOW: begins to write down its opacities.
 watch() {
+    rm -f "$work/opacities" # of the window before
     xprop -id "$(window "$1")" -spy _NET_WM_WINDOW_OPACITY >"$work/opacities" &
     wait_for test -s "$work/opacities" || fail "no look at the opacity"
 }

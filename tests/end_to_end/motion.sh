@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Usage: motion.sh PROGRAM
 # Where the desktop's settings portal asks for little motion, or --reduced-motion does, the title stands
-# still and fading is not to be had, though the display could and the player has it switched on.
+# still and fading is not to be had, though the display could and the player has it switched on. A replay asks
+# the portal, too.
 here=$(dirname "${BASH_SOURCE[0]}")
 source "$here/lib.sh"
 players Ann Bob
@@ -32,6 +33,7 @@ expect_calm() {
 
 # start_desktop NAMESPACE KEY VALUE: a session bus and a portal with that setting.
 start_desktop() {
+    rm -f "$work/bus" "$work/portal" # of the one before, which would be taken for this one's
     dbus-daemon --session --nofork --print-address=3 3>"$work/bus" &
     wait_for test -s "$work/bus" || fail "no session bus"
     export DBUS_SESSION_BUS_ADDRESS=$(<"$work/bus")
@@ -55,3 +57,7 @@ xprop -id "$(window "$title")" -spy _NET_WM_WINDOW_OPACITY >"$work/opacities" &
 wait_for test -s "$work/opacities" || fail "no look at the opacity"
 press "$title" space
 wait_for grep -q '= [0-9]' "$work/opacities" || fail "the title does not fade"
+
+start_desktop org.freedesktop.appearance reduced-motion 1
+"$program" --replay "$here/../battle/golden/sets/storm.txt" 2>"$work/stderr" &
+wait_for grep -q asked "$work/portal" || fail "a replay does not ask: $(<"$work/stderr")"

@@ -1,7 +1,8 @@
 #!/usr/bin/python3
 """Usage: settings_portal.py NAMESPACE KEY VALUE
 
-A desktop's settings portal on the session bus, with that setting (a number, true or false) and another.
+A desktop's settings portal on the session bus, with that setting (a number, true or false) and another. It
+prints when it is ready, and when it is asked.
 """
 import sys
 
@@ -13,6 +14,7 @@ from gi.repository import GLib
 class Portal(dbus.service.Object):
     @dbus.service.method("org.freedesktop.portal.Settings", in_signature="as", out_signature="a{sa{sv}}")
     def ReadAll(self, namespaces):
+        print("asked", flush=True)
         return {name: settings[name] for name in settings if name in namespaces}
 
 

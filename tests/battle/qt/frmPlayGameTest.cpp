@@ -155,6 +155,19 @@ class frmPlayGameTest : public QObject {
         QVERIFY(!next.findChild<QCheckBox*>("chkEffects")->isChecked());
     }
 
+    void isAsCalmAsADesktopAsksForInTheEnd() {
+        QList<QImage> shots;
+        for (const Motion motion : {Motion::Full, Motion::Full, Motion::Reduced}) {
+            Screen screen;
+            screen.shared.motion = motion;
+            screen.pacer.duringFlight = [&shots, &screen, flights = 0]() mutable {
+                if (++flights == 1) shots.append(screen.field()->grab().toImage());
+            };
+            QTest::mouseClick(screen.shoot(), Qt::LeftButton);
+        }
+        QVERIFY(shots.at(1) == shots.at(0) && shots.at(2) != shots.at(0));
+    }
+
     void showsNamesAsTheyAre() {
         Screen screen{2, "<b>A&B</b>", "Computer"};
         const auto frames = screen.form->findChildren<QGroupBox*>();
