@@ -50,9 +50,9 @@ frmPlayGame::frmPlayGame(const QtScreenPorts& screen, const BattlePorts& ports, 
       m_gate{new QtInputGate{this}},
       m_timers{new QtEffectTimers{this, m_battle}},
       m_fieldEdge{new QFrame{board()}},
-      m_field{new picGameField{m_battle.picture(), m_layer, m_shapes, board()}} {
+      m_field{new picGameField{m_battle.picture(), m_layer, m_shapes, board()}},
+      m_dragAim{new QtDragAim{m_field, m_battle}} {
     m_fieldEdge->setObjectName(QStringLiteral("fieldEdge"));
-    new QtDragAim{m_field, m_battle};
     makeReportRow();
     makeSidePanels();
     makeButtons();
@@ -205,6 +205,7 @@ SidePanel frmPlayGame::shown(const SidePanel& side) const {
 
 void frmPlayGame::showPanel(const BattlePanel& panel) {
     if (cmdShoot->isEnabled() && !panel.commandsEnabled) dropFocusOfCommands();
+    if (!panel.commandsEnabled) m_dragAim->drop();
     for (const int side : kSides) {
         m_side[side]->showPanel(shown(panel.side[side]), panel.turn == side);
         if (m_layout.oneFrameAtATime)
@@ -283,6 +284,7 @@ void frmPlayGame::releaseInput() {
 void frmPlayGame::showStorm() {
     const int top = labelReport->geometry().bottom() + 1;
     if (!m_stormHold) {
+        m_dragAim->drop();
         QList<QObject*> reporting{m_field, m_side[1], m_side[2], cmdShoot, cmdQuit};
         for (QWidget* option : m_strip->controls()) reporting.append(option);
         m_stormHold = std::make_unique<QtStormHold>(*board(), top, reporting);

@@ -15,6 +15,7 @@ namespace skylob {
 
 class BattleReplay;
 class GlintButton;
+class QtDragAim;
 class QtEffectTimers;
 class QtHints;
 class QtInputGate;
@@ -110,6 +111,7 @@ class frmPlayGame : public QtScreen, private BattleView {
     QtEffectTimers* m_timers;
     QFrame* m_fieldEdge;
     picGameField* m_field;
+    QtDragAim* m_dragAim;
     PerSide<QtSidePanel*> m_side;
     QtOptionStrip* m_strip;
     QtReportLabel* labelReport;
