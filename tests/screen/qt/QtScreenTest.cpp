@@ -5,6 +5,7 @@
 
 #include <QAccessible>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
 #include <QScreen>
@@ -150,6 +151,7 @@ class QtScreenTest : public QObject {
     void scrollsWhereItsOnlySizeDoesNotFit() {
         Screen screen{{"name", "caption", {200, 100}, Qt::Window, false}, ports};
         QLineEdit upper{&screen}, lower{&screen};
+        QLabel text{"as wide as it is", &screen};  // only when it is shown
         upper.setGeometry(10, 10, 50, 20);
         lower.setGeometry(140, 70, 50, 20);
         upper.setFocus();
@@ -172,6 +174,7 @@ class QtScreenTest : public QObject {
         screen.fitInto({500, 500});
         QCOMPARE(screen.size(), QSize(200, 100));
         QTRY_VERIFY(isInView(upper) && isInView(lower));
+        QCOMPARE(text.size(), text.sizeHint());
     }
 
     void goesWithTheFocusInWhatItScrolls() {
