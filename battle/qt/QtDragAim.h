@@ -12,8 +12,8 @@ class picGameField;
 
 /// Aiming by dragging: from the piece whose turn it is across the field. While that lasts, a line
 /// shows where the shell would leave for, with both figures; the bars move once, at the release.
-/// Esc drops the drag, and so do a shot, which takes the bars as they are, and a storm. Lies over
-/// the whole field, and lets all input through that is no drag's.
+/// Esc drops the drag, and so does a shot, which takes the bars as they are. Lies over the whole
+/// field, and lets all input through that is no drag's.
 class QtDragAim : public QWidget {
     Q_OBJECT
 

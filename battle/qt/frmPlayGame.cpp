@@ -284,7 +284,6 @@ void frmPlayGame::releaseInput() {
 void frmPlayGame::showStorm() {
     const int top = labelReport->geometry().bottom() + 1;
     if (!m_stormHold) {
-        m_dragAim->drop();
         QList<QObject*> reporting{m_field, m_side[1], m_side[2], cmdShoot, cmdQuit};
         for (QWidget* option : m_strip->controls()) reporting.append(option);
         m_stormHold = std::make_unique<QtStormHold>(*board(), top, reporting);
