@@ -21,9 +21,9 @@
 #include "platform/qt/QtSettingsStore.h"
 #include "platform/qt/SdlSoundPlayer.h"
 #include "players/PlayerFile.h"
-#include "screen/qt/QtEnterGuard.h"
 #include "screen/qt/QtMessageBoxes.h"
 #include "screen/qt/QtModalGuard.h"
+#include "screen/qt/QtRepeatGuard.h"
 #include "screen/qt/QtScreen.h"
 #include "screen/qt/QtWindowPlaces.h"
 
@@ -92,7 +92,7 @@ class Application : public QApplication {
     void endProgram();
 
     QtModalGuard m_modalGuard;
-    QtEnterGuard m_enterGuard;
+    QtRepeatGuard m_repeatGuard;
     const QtShapes m_shapes;
     QtMessageBoxes m_boxes{m_shapes};
     SingleCopy m_singleCopy;

@@ -16,9 +16,9 @@
 #include "platform/qt/QtSettingsStore.h"
 #include "platform/qt/QtWindowStore.h"
 #include "platform/qt/SdlSoundPlayer.h"
-#include "screen/qt/QtEnterGuard.h"
 #include "screen/qt/QtMessageBoxes.h"
 #include "screen/qt/QtModalGuard.h"
+#include "screen/qt/QtRepeatGuard.h"
 
 namespace skylob {
 
@@ -45,7 +45,7 @@ class ReplayProgram : public QApplication {
     void tellHowItEnded();
 
     QtModalGuard m_modalGuard;
-    QtEnterGuard m_enterGuard;
+    QtRepeatGuard m_repeatGuard;
     const QtShapes m_shapes;
     QtMessageBoxes m_boxes{m_shapes};
     SystemClock m_clock;

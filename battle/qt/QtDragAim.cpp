@@ -48,6 +48,8 @@ bool QtDragAim::fieldEvent(QEvent* event) {
             if (mouse()->button() == Qt::LeftButton) press(mouse()->position());
             return false;
         case QEvent::MouseMove:
+            // While input was held its release may have been lost.
+            if (!mouse()->buttons().testFlag(Qt::LeftButton)) drop();
             if (m_drag) moveTo(mouse()->position());
             return m_drag.has_value();
         case QEvent::MouseButtonRelease:

@@ -12,7 +12,8 @@ class picGameField;
 
 /// Aiming by dragging: from the piece whose turn it is across the field. While that lasts, a line
 /// shows where the shell would leave for, with both figures; the bars move once, at the release.
-/// Esc drops the drag. Lies over the whole field, and lets all input through that is no drag's.
+/// Esc drops the drag, and so does a shot, which takes the bars as they are. Lies over the whole
+/// field, and lets all input through that is no drag's.
 class QtDragAim : public QWidget {
     Q_OBJECT
 
@@ -22,6 +23,9 @@ class QtDragAim : public QWidget {
 
     /// How far the pointer may go, in logical pixels, and the release still be a click's.
     static constexpr int kClickReach = 8;
+
+    /// Ends a drag, if there is one, without having aimed.
+    void drop();
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -34,7 +38,6 @@ class QtDragAim : public QWidget {
     void moveTo(const QPointF& at);
     bool release();
     void aim(const QPointF& at);
-    void drop();
     FieldPoint piece() const;
 
     struct Drag {

@@ -38,9 +38,9 @@ frmPlayGame::frmPlayGame(const QtScreenPorts& screen, const BattlePorts& ports, 
       m_timers{new QtEffectTimers{this, m_battle}},
       m_fieldEdge{new QFrame{board()}},
       m_field{new picGameField{m_battle.picture(), m_layer, m_shapes, board()}},
+      m_dragAim{new QtDragAim{m_field, m_battle}},
       m_controls{m_layout, screen, m_battle.options(), board()} {
     m_fieldEdge->setObjectName(QStringLiteral("fieldEdge"));
-    new QtDragAim{m_field, m_battle};
     m_layer.setOn(m_controls.strip()->wantsEffects());
     connectControls();
     addBattleKeys(*this, m_battle, m_controls, [this] { quit(); });
@@ -150,6 +150,7 @@ BattlePanel frmPlayGame::shown(const BattlePanel& panel) const {
 
 void frmPlayGame::showPanel(const BattlePanel& panel) {
     m_layer.setMotion(m_shared.motion);  // the desktop may tell it late
+    if (!panel.commandsEnabled) m_dragAim->drop();
     m_controls.showSides(shown(panel));
     setSpokenDescription(*m_field,
                          QString::fromStdString(fieldDescription(m_battle.state(), m_shared)));

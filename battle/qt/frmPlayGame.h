@@ -14,6 +14,7 @@ class QFrame;
 namespace skylob {
 
 class BattleReplay;
+class QtDragAim;
 class QtEffectTimers;
 class QtInputGate;
 class QtReplayHand;
@@ -97,6 +98,7 @@ class frmPlayGame : public QtScreen, private BattleView {
     QtEffectTimers* m_timers;
     QFrame* m_fieldEdge;
     picGameField* m_field;
+    QtDragAim* m_dragAim;
     QtBattleControls m_controls;
     std::unique_ptr<QtStormHold> m_stormHold;  ///< while a storm holds the field
     int m_displayWidth = 0;                    ///< that the field was drawn for

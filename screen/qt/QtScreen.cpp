@@ -106,10 +106,10 @@ void QtScreen::scrollItsWidgets() {
     board()->installEventFilter(this);
     for (QWidget* widget : widgets) {
         if (widget->isWindow()) continue;
-        const QRect place = widget->geometry();
+        const QPoint place = widget->pos();
         const bool wasSeen = widget->isVisible();
         widget->setParent(board());
-        widget->setGeometry(place);
+        widget->move(place);  // and not its size, which may come only when it is shown
         if (wasSeen) widget->show();
     }
     if (isVisible()) m_scroll->show();

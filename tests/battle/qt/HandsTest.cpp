@@ -85,7 +85,9 @@ class HandsTest : public QObject {
         };
         const QPoint there = kPiece1 + QPoint{300, -200};
         QEvent box{QEvent::WindowBlocked};
+        QMouseEvent released{QEvent::MouseMove, QPointF{}, QPointF{}, Qt::NoButton, {}, {}};
         const std::function<void()> drops[] = {
+            [&] { QCoreApplication::sendEvent(field, &released); },  // its release was lost
             [&] { QTest::keyClick(screen.form.get(), Qt::Key_Escape); },
             [&] { QCoreApplication::sendEvent(screen.form.get(), &box); }};
         for (const auto& drop : drops) {
@@ -114,6 +116,10 @@ class HandsTest : public QObject {
         QTest::mousePress(field, Qt::LeftButton, {}, kPiece1);
         QTest::mouseRelease(field, Qt::LeftButton, {}, kPiece1 + QPoint{4, 4});
         QCOMPARE(screen.shots(), 1u);
+        drag(field, {two, two - QPoint{100, 100}});
+        QTest::keyClick(screen.form.get(), Qt::Key_S, Qt::AltModifier);
+        QTest::mouseRelease(field, Qt::LeftButton, {}, two);
+        QCOMPARE(aim(1), QPoint(100, 10));  // by the short drag, not by the other side
     }
 
     void setsTheVolumeAndRemembersIt() {

@@ -5,6 +5,7 @@
 
 #include <QAccessible>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
 #include <QScreen>
@@ -16,8 +17,8 @@
 #include "base/basSkylob.h"
 #include "controls/qt/GlintButton.h"
 #include "look/qt/QtShapes.h"
-#include "screen/qt/QtEnterGuard.h"
 #include "screen/qt/QtMessageBoxes.h"
+#include "screen/qt/QtRepeatGuard.h"
 #include "screen/qt/QtWindowPlaces.h"
 #include "tests/support/ScreenTest.h"
 
@@ -103,12 +104,13 @@ class QtScreenTest : public QObject {
         int clicks = 0, others = 0;
         connect(&button, &GlintButton::Click, [&clicks] { ++clicks; });
         connect(&other, &GlintButton::Click, [&others] { ++others; });
-        const QtEnterGuard guard;
+        const QtRepeatGuard guard;
         const auto send = [&other](QEvent::Type type, int key, Qt::KeyboardModifiers modifiers,
                                    quint64 time, bool repeats) {
             QKeyEvent event{type, key, modifiers, "\r", repeats};
             event.setTimestamp(time);
             QCoreApplication::sendEvent(&other, &event);
+            return event.isAccepted();
         };
         const auto press = [&](quint64 time, int key = Qt::Key_Return,
                                Qt::KeyboardModifiers modifiers = {}) {
@@ -133,11 +135,23 @@ class QtScreenTest : public QObject {
         button.setEnabled(false);
         QCOMPARE(press(90), 3);
         QCOMPARE(others, 0);
+
+        press(95, Qt::Key_Space);
+        QList<int> repeating;
+        for (const int key : {Qt::Key_Space, Qt::Key_Escape, Qt::Key_F11, Qt::Key_S, Qt::Key_Left})
+            for (const quint64 time : {100u, 110u}) {
+                const auto held = key == Qt::Key_S ? Qt::AltModifier : Qt::NoModifier;
+                send(QEvent::KeyRelease, key, held, time, false);
+                if (!send(QEvent::KeyPress, key, held, time, false)) repeating << key;
+            }
+        QCOMPARE(repeating, (QList<int>{Qt::Key_Left, Qt::Key_Left}));
+        QCOMPARE(others, 1);
     }
 
     void scrollsWhereItsOnlySizeDoesNotFit() {
         Screen screen{{"name", "caption", {200, 100}, Qt::Window, false}, ports};
         QLineEdit upper{&screen}, lower{&screen};
+        QLabel text{"as wide as it is", &screen};  // only when it is shown
         upper.setGeometry(10, 10, 50, 20);
         lower.setGeometry(140, 70, 50, 20);
         upper.setFocus();
@@ -160,6 +174,7 @@ class QtScreenTest : public QObject {
         screen.fitInto({500, 500});
         QCOMPARE(screen.size(), QSize(200, 100));
         QTRY_VERIFY(isInView(upper) && isInView(lower));
+        QCOMPARE(text.size(), text.sizeHint());
     }
 
     void goesWithTheFocusInWhatItScrolls() {
