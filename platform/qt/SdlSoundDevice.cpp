@@ -63,6 +63,8 @@ bool openAudio() {
 SdlSoundDevice::SdlSoundDevice() {
     // Ctrl+C ends the program, not only its sound.
     SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
+    // What the desktop's volume control calls it.
+    SDL_SetHint(SDL_HINT_APP_NAME, "Skylob");
 }
 
 SdlSoundDevice::~SdlSoundDevice() {
@@ -95,10 +97,9 @@ void SdlSoundDevice::close() {
     m_state = State::Closed;
 }
 
-void SdlSoundDevice::play(const QByteArray& waveFile) {
+void SdlSoundDevice::play(std::span<const std::byte> waveFile) {
     if (!isOpen()) return;
-    const auto bytes = playablePart(
-        std::as_bytes(std::span{waveFile.data(), static_cast<std::size_t>(waveFile.size())}));
+    const auto bytes = playablePart(waveFile);
     decltype(m_sound) sound{
         Mix_LoadWAV_RW(SDL_RWFromConstMem(bytes.data(), static_cast<int>(bytes.size())), 1)};
     if (!sound) return;
@@ -116,8 +117,3 @@ bool SdlSoundDevice::isPlaying() const {
 }
 
 }  // namespace skylob
-
-/// What SoundModule looks for.
-extern "C" skylob::SoundDevice* makeSoundDevice() {
-    return new skylob::SdlSoundDevice;
-}

@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "platform/qt/SoundDevice.h"
+#include "platform/SoundDevice.h"
 
 struct Mix_Chunk;
 
@@ -21,7 +21,7 @@ class SdlSoundDevice final : public SoundDevice {
     void open() override;
     void close() override;
     bool isOpen() const override { return m_state == State::Open; }
-    void play(const QByteArray& waveFile) override;
+    void play(std::span<const std::byte> waveFile) override;
     void setVolume(int percent) override;
     bool isPlaying() const override;
 

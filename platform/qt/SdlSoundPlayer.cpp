@@ -1,11 +1,14 @@
 #include "platform/qt/SdlSoundPlayer.h"
 
 #include <QByteArray>
+#include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <condition_variable>
 #include <cstdio>
 #include <mutex>
 #include <optional>
+#include <span>
 #include <stdexcept>
 #include <string>
 #include <system_error>
@@ -13,8 +16,7 @@
 #include <utility>
 
 #include "base/qt/QtText.h"
-#include "platform/WaveImage.h"
-#include "platform/qt/SoundModule.h"
+#include "platform/SoundProcess.h"
 
 namespace skylob {
 
@@ -46,7 +48,8 @@ struct SdlSoundPlayer::Desk {
     bool isServed = false;   ///< the thread runs
 };
 
-SdlSoundPlayer::SdlSoundPlayer() : m_desk{std::make_shared<Desk>()} {
+SdlSoundPlayer::SdlSoundPlayer(std::string program)
+    : m_program{std::move(program)}, m_desk{std::make_shared<Desk>()} {
 }
 
 SdlSoundPlayer::~SdlSoundPlayer() {
@@ -64,10 +67,18 @@ void SdlSoundPlayer::PlaySound(std::string_view name) {
     m_desk->changed.notify_all();
 }
 
+/// Beside the game in a build, and among its libraries where it is installed.
+std::string SdlSoundPlayer::soundProgram() {
+    const QDir here{QCoreApplication::applicationDirPath()};
+    const QString name = QStringLiteral("skylob-sound");
+    const QString path = here.exists(name) ? name : QStringLiteral(SKYLOB_LIBRARIES "/") + name;
+    return here.filePath(path).toStdString();
+}
+
 /// Without a thread there are no sounds, and no second try.
 void SdlSoundPlayer::startServing() {
     try {
-        std::thread{[desk = m_desk] { serve(desk); }}.detach();
+        std::thread{[desk = m_desk, program = m_program] { serve(desk, program); }}.detach();
         m_desk->isServed = true;
     } catch (const std::system_error& error) {
         std::fprintf(stderr, "skylob: no sound: %s\n", error.what());
@@ -92,8 +103,8 @@ bool SdlSoundPlayer::close(std::chrono::milliseconds patience) {
     return m_desk->changed.wait_for(lock, patience, [this] { return !m_desk->isServed; });
 }
 
-void SdlSoundPlayer::serve(const std::shared_ptr<Desk>& desk) {
-    const std::unique_ptr<SoundDevice> device = loadSoundDevice();
+void SdlSoundPlayer::serve(const std::shared_ptr<Desk>& desk, const std::string& program) {
+    SoundProcess device{program};
     std::unique_lock lock{desk->mutex};
     // The device is used without the mutex: nobody waits for what may take for ever.
     const auto unlocked = [&lock](const auto& work) {
@@ -103,22 +114,22 @@ void SdlSoundPlayer::serve(const std::shared_ptr<Desk>& desk) {
     };
     const auto isWanted = [&desk] { return desk->next || desk->isClosing; };
     for (;;) {
-        const auto pause = desk->isPlaying ? kLook : device->isOpen() ? kSilence : kLong;
+        const auto pause = desk->isPlaying ? kLook : device.isOpen() ? kSilence : kLong;
         const bool wanted = desk->changed.wait_for(lock, pause, isWanted);
-        device->setVolume(desk->volume);
+        device.setVolume(desk->volume);
         if (desk->next) {
-            unlocked([&] { device->open(); });
+            unlocked([&] { device.open(); });
             // That may have taken a while: the newest by now.
             const QByteArray sound = *std::exchange(desk->next, std::nullopt);
-            unlocked([&] { device->play(sound); });
+            unlocked([&] { device.play(std::as_bytes(std::span{sound})); });
         } else if (wanted) {
             break;
         } else if (!desk->isPlaying) {
-            unlocked([&] { device->close(); });
+            unlocked([&] { device.close(); });
         }
-        desk->isPlaying = desk->next || device->isPlaying();
+        desk->isPlaying = desk->next || device.isPlaying();
     }
-    unlocked([&] { device->close(); });
+    unlocked([&] { device.close(); });
     desk->isPlaying = desk->isServed = false;
     desk->changed.notify_all();
 }

@@ -2,21 +2,24 @@
 
 #include <chrono>
 #include <memory>
+#include <string>
+#include <string_view>
 
 #include "base/SoundPlayer.h"
 
 namespace skylob {
 
-/// Plays the sounds compiled into the program, one at a time and on threads of its own: a sound
+/// Plays the sounds compiled into the program, one at a time, in a program of their own: a sound
 /// goes on while the user-interface thread is busy, and a sound system that does not answer keeps
-/// nobody else waiting. Without a sound device, or a thread for it, the game plays on in silence,
-/// after one line on standard error.
+/// only a thread waiting. Without a sound device, or that program, or a thread for it, the game
+/// plays on in silence, after one line on standard error.
 ///
-/// The device is opened when a sound is to be played, and closed again when nothing has been
-/// heard for some seconds: an open one costs processor time even in silence.
+/// That program runs from when a sound is to be played until nothing has been heard for some
+/// seconds: an open device costs processor time even in silence, and its libraries memory.
 class SdlSoundPlayer final : public SoundPlayer {
   public:
-    SdlSoundPlayer();
+    /// `program` is the path of the program that plays them.
+    explicit SdlSoundPlayer(std::string program = soundProgram());
     /// Closes the device, unless that takes more than a second.
     ~SdlSoundPlayer() override;
 
@@ -38,9 +41,11 @@ class SdlSoundPlayer final : public SoundPlayer {
 
   private:
     struct Desk;
+    static std::string soundProgram();
     void startServing();
-    static void serve(const std::shared_ptr<Desk>& desk);
+    static void serve(const std::shared_ptr<Desk>& desk, const std::string& program);
 
+    std::string m_program;
     std::shared_ptr<Desk> m_desk;  ///< shared with the thread, which may outlive the player
 };
 

@@ -42,8 +42,6 @@ END
 echo leak:libSDL2 >"$work/kept"
 export LSAN_OPTIONS=suppressions=$work/kept:print_suppressions=0 UBSAN_OPTIONS=print_stacktrace=1
 export ASAN_OPTIONS=handle_abort=1:exitcode=99:detect_leaks=1
-# What the address sanitizer loads for a program, it does not look for on the program's own path.
-export LD_LIBRARY_PATH=$(dirname "$program")/modules
 
 players Ann:3:1:40:2 Bob:4:3:68:1 Computer "Ada & <b>Bert</b>"
 if [[ ${5-} == wayland ]]; then

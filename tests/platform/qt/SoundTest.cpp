@@ -1,5 +1,6 @@
 #include <pthread.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <QFile>
 #include <QFileInfo>
@@ -7,15 +8,18 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <cmath>
+#include <csignal>
+#include <span>
 
+#include "platform/SoundProcess.h"
 #include "platform/qt/SdlSoundPlayer.h"
-#include "platform/qt/SoundModule.h"
 #include "tests/support/CapturedErrors.h"
 #include "tests/support/ScreenTest.h"
 
 using namespace skylob;
 
 constexpr qint64 kRate = 44100;
+constexpr const char* kProgram = SKYLOB_SOUND;
 
 /// What would be heard goes into a file, some five times faster than it sounds. A sound system that
 /// hangs does so until somebody reads what it plays.
@@ -95,7 +99,7 @@ class SoundTest : public QObject {
   private slots:
     void playsTheCompressedOne() {
         const Capture capture;
-        SdlSoundPlayer player;
+        SdlSoundPlayer player{kProgram};
         player.PlaySound("daffy");
         QTRY_VERIFY(!player.isPlaying());
         QCOMPARE(capture.lastLoudFrame() / kRate, 1);  // between one second and two
@@ -106,7 +110,7 @@ class SoundTest : public QObject {
         const int volumes[] = {100, 50, 0};
         for (int i = 0; i < 3; ++i) {
             const Capture capture;
-            SdlSoundPlayer player;
+            SdlSoundPlayer player{kProgram};
             player.setVolume(volumes[i]);
             player.PlaySound("shot");
             QTRY_VERIFY(!player.isPlaying());
@@ -119,7 +123,7 @@ class SoundTest : public QObject {
 
     void cutsOffTheSoundThatPlays() {
         const Capture capture;
-        SdlSoundPlayer player;
+        SdlSoundPlayer player{kProgram};
         player.PlaySound("THUNDER3");  // 9.6 s
         QTRY_VERIFY(capture.frames() > kRate / 2);
         player.PlaySound("shot");  // 0.5 s
@@ -131,15 +135,39 @@ class SoundTest : public QObject {
         QVERIFY_EXCEPTION_THROWN(player.PlaySound("silence"), std::out_of_range);
     }
 
-    void bearsAMissingLibrary() {
+    void bearsAProgramThatIsMissingOrEnds() {
+        for (const QByteArray program : {"/nonesuch", "/bin/false"}) {
+            const test::CapturedErrors errors;
+            SoundProcess device{program.toStdString()};
+            device.open();
+            device.open();
+            QVERIFY(!device.isOpen());
+            const QByteArray said = errors.text();
+            QVERIFY2(said.startsWith("skylob: no sound: " + program) && said.count('\n') == 1,
+                     said);
+        }
+    }
+
+    void startsAgainAfterACrash() {
+        const Capture capture;
         const test::CapturedErrors errors;
-        const auto device = loadSoundDevice("nonesuch.so");
-        device->open();
-        QVERIFY(!device->isOpen());
-        const QByteArray said = errors.text();
-        QVERIFY2(
-            said.startsWith("skylob: no sound: nonesuch.so") && said.count(QByteArray{"\n"}) == 1,
-            said);
+        QFile resource{":/sounds/thunder3.wav"};
+        QVERIFY(resource.open(QIODevice::ReadOnly));
+        const QByteArray thunder = resource.readAll();
+        SoundProcess device{kProgram};
+        device.open();
+        device.play(std::as_bytes(std::span{thunder}));
+        QVERIFY(device.isPlaying());
+
+        QFile children{QStringLiteral("/proc/self/task/%1/children").arg(getpid())};
+        QVERIFY(children.open(QIODevice::ReadOnly));
+        kill(children.readAll().trimmed().toInt(), SIGSEGV);
+        QTRY_VERIFY(!device.isPlaying());
+        while (device.isOpen()) device.play(std::as_bytes(std::span{thunder}));
+        device.open();
+        device.play(std::as_bytes(std::span{thunder}));
+        QVERIFY(device.isPlaying());
+        QCOMPARE(errors.text(), QByteArray{});
     }
 
     void bearsAMissingDeviceWithOneLineAtMost() {
@@ -147,7 +175,7 @@ class SoundTest : public QObject {
         for (const char* driver : {"nonesuch", "alsa"}) {
             qputenv("SDL_AUDIODRIVER", driver);
             const test::CapturedErrors errors;
-            SdlSoundPlayer player;
+            SdlSoundPlayer player{kProgram};
             player.PlaySound("click");
             player.PlaySound("shot");
             QVERIFY(player.close(std::chrono::minutes{1}));
@@ -160,7 +188,7 @@ class SoundTest : public QObject {
     void bearsAThreadThatCannotBeMade() {
         const ThreadsTooLarge threads;
         const test::CapturedErrors errors;
-        SdlSoundPlayer player;
+        SdlSoundPlayer player{kProgram};
         player.PlaySound("click");
         player.PlaySound("shot");
         QVERIFY(!player.isPlaying());
@@ -171,7 +199,7 @@ class SoundTest : public QObject {
 
     void playsTheNewestWhenTheSoundSystemAnswersAtLast() {
         Capture capture{true};
-        SdlSoundPlayer player;
+        SdlSoundPlayer player{kProgram};
         for (const char* sound : {"THUNDER3", "daffy", "shot"}) player.PlaySound(sound);
         QVERIFY(player.isPlaying());
         capture.read();
@@ -183,7 +211,7 @@ class SoundTest : public QObject {
 
     void endsWithoutASoundSystemThatHangs() {
         Capture capture{true};
-        SdlSoundPlayer player;
+        SdlSoundPlayer player{kProgram};
         player.PlaySound("click");
         QVERIFY(!player.close(std::chrono::milliseconds{1}));
         capture.read();

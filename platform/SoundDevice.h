@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QByteArray>
+#include <cstddef>
+#include <span>
 
 namespace skylob {
 
@@ -18,7 +19,7 @@ class SoundDevice {
 
     /// Starts a wave file; a sound still playing is cut off. Does nothing while the device is not
     /// open, nor with a file that cannot be played.
-    virtual void play(const QByteArray& waveFile) = 0;
+    virtual void play(std::span<const std::byte> waveFile) = 0;
 
     /// How loud what plays and what will play is, 0 to 100 percent.
     virtual void setVolume(int percent) = 0;

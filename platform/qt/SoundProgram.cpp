@@ -1,0 +1,55 @@
+// The program that plays sounds for the game, which starts it: see SoundOrders.
+#include <sys/prctl.h>
+
+#include <csignal>
+#include <cstdlib>
+#include <vector>
+
+#include "platform/SoundOrders.h"
+#include "platform/qt/SdlSoundDevice.h"
+
+namespace skylob {
+
+namespace {
+
+void answer(bool yes) {
+    const SoundAnswer said = yes ? 1 : 0;
+    sendAll(kSoundOrders, std::as_bytes(std::span{&said, 1}));
+}
+
+void play(SoundDevice& device, std::int32_t size) {
+    std::vector<std::byte> waveFile(static_cast<std::size_t>(size));
+    if (receiveAll(kSoundOrders, waveFile)) device.play(waveFile);
+}
+
+void obey(SoundDevice& device, const SoundOrder& order) {
+    switch (order.kind) {
+        case SoundOrder::Kind::Play:
+            return play(device, order.value);
+        case SoundOrder::Kind::SetVolume:
+            return device.setVolume(order.value);
+        case SoundOrder::Kind::IsPlaying:
+            return answer(device.isPlaying());
+    }
+}
+
+int run() {
+    SdlSoundDevice device;
+    device.open();
+    answer(device.isOpen());
+    SoundOrder order{};
+    while (device.isOpen() &&
+           receiveAll(kSoundOrders, std::as_writable_bytes(std::span{&order, 1})))
+        obey(device, order);
+    return device.isOpen() ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+
+}  // namespace
+
+}  // namespace skylob
+
+int main() {
+    // A sound system that hangs must not outlive the game.
+    prctl(PR_SET_PDEATHSIG, SIGKILL);
+    return skylob::run();
+}
