@@ -19,7 +19,7 @@
 #include "platform/qt/QtLinkOpener.h"
 #include "platform/qt/QtPacer.h"
 #include "platform/qt/QtSettingsStore.h"
-#include "platform/qt/SdlSoundPlayer.h"
+#include "platform/qt/QtSoundPlayer.h"
 #include "players/PlayerFile.h"
 #include "screen/qt/QtMessageBoxes.h"
 #include "screen/qt/QtModalGuard.h"
@@ -99,7 +99,7 @@ class Application : public QApplication {
     SeededRandom m_random;
     SystemClock m_clock;
     QtPacer m_pacer;
-    SdlSoundPlayer m_sounds;
+    QtSoundPlayer m_sounds;
     QtSettingsStore m_settings;
     PlainStart m_windows;
     const int m_scale;  ///< of this run, in percent

@@ -8,7 +8,7 @@
 #include <string>
 
 #include "base/MessageBoxes.h"
-#include "platform/qt/SdlSoundPlayer.h"
+#include "platform/qt/QtSoundPlayer.h"
 
 namespace skylob {
 
@@ -19,7 +19,7 @@ constexpr std::chrono::milliseconds kPause{50}, kPatienceWithSounds{3000},
 
 }  // namespace
 
-void quitWhenSilent(const SdlSoundPlayer& sounds) {
+void quitWhenSilent(const QtSoundPlayer& sounds) {
     auto* timer = new QTimer{qApp};
     const QDeadlineTimer deadline{kPatienceWithSounds};
     QObject::connect(timer, &QTimer::timeout, qApp, [&sounds, deadline] {
@@ -28,7 +28,7 @@ void quitWhenSilent(const SdlSoundPlayer& sounds) {
     timer->start(kPause);
 }
 
-void closeSounds(SdlSoundPlayer& sounds, int status) {
+void closeSounds(QtSoundPlayer& sounds, int status) {
     if (!sounds.close(kPatienceWithClosing)) std::_Exit(status);
 }
 

@@ -14,8 +14,8 @@
 #include "platform/SystemClock.h"
 #include "platform/qt/QtPacer.h"
 #include "platform/qt/QtSettingsStore.h"
+#include "platform/qt/QtSoundPlayer.h"
 #include "platform/qt/QtWindowStore.h"
-#include "platform/qt/SdlSoundPlayer.h"
 #include "screen/qt/QtMessageBoxes.h"
 #include "screen/qt/QtModalGuard.h"
 #include "screen/qt/QtRepeatGuard.h"
@@ -50,7 +50,7 @@ class ReplayProgram : public QApplication {
     QtMessageBoxes m_boxes{m_shapes};
     SystemClock m_clock;
     QtPacer m_pacer;
-    SdlSoundPlayer m_sounds;
+    QtSoundPlayer m_sounds;
     const QtSettingsStore m_settings;
     QtWindowStore m_windowsFile;
     PlainStart m_plainWindows;

@@ -12,7 +12,7 @@
 #include <span>
 
 #include "platform/SoundProcess.h"
-#include "platform/qt/SdlSoundPlayer.h"
+#include "platform/qt/QtSoundPlayer.h"
 #include "tests/support/CapturedErrors.h"
 #include "tests/support/ScreenTest.h"
 
@@ -99,7 +99,7 @@ class SoundTest : public QObject {
   private slots:
     void playsTheCompressedOne() {
         const Capture capture;
-        SdlSoundPlayer player{kProgram};
+        QtSoundPlayer player{kProgram};
         player.PlaySound("daffy");
         QTRY_VERIFY(!player.isPlaying());
         QCOMPARE(capture.lastLoudFrame() / kRate, 1);  // between one second and two
@@ -110,7 +110,7 @@ class SoundTest : public QObject {
         const int volumes[] = {100, 50, 0};
         for (int i = 0; i < 3; ++i) {
             const Capture capture;
-            SdlSoundPlayer player{kProgram};
+            QtSoundPlayer player{kProgram};
             player.setVolume(volumes[i]);
             player.PlaySound("shot");
             QTRY_VERIFY(!player.isPlaying());
@@ -123,7 +123,7 @@ class SoundTest : public QObject {
 
     void cutsOffTheSoundThatPlays() {
         const Capture capture;
-        SdlSoundPlayer player{kProgram};
+        QtSoundPlayer player{kProgram};
         player.PlaySound("THUNDER3");  // 9.6 s
         QTRY_VERIFY(capture.frames() > kRate / 2);
         player.PlaySound("shot");  // 0.5 s
@@ -175,7 +175,7 @@ class SoundTest : public QObject {
         for (const char* driver : {"nonesuch", "alsa"}) {
             qputenv("SDL_AUDIODRIVER", driver);
             const test::CapturedErrors errors;
-            SdlSoundPlayer player{kProgram};
+            QtSoundPlayer player{kProgram};
             player.PlaySound("click");
             player.PlaySound("shot");
             QVERIFY(player.close(std::chrono::minutes{1}));
@@ -188,7 +188,7 @@ class SoundTest : public QObject {
     void bearsAThreadThatCannotBeMade() {
         const ThreadsTooLarge threads;
         const test::CapturedErrors errors;
-        SdlSoundPlayer player{kProgram};
+        QtSoundPlayer player{kProgram};
         player.PlaySound("click");
         player.PlaySound("shot");
         QVERIFY(!player.isPlaying());
@@ -199,7 +199,7 @@ class SoundTest : public QObject {
 
     void playsTheNewestWhenTheSoundSystemAnswersAtLast() {
         Capture capture{true};
-        SdlSoundPlayer player{kProgram};
+        QtSoundPlayer player{kProgram};
         for (const char* sound : {"THUNDER3", "daffy", "shot"}) player.PlaySound(sound);
         QVERIFY(player.isPlaying());
         capture.read();
@@ -211,7 +211,7 @@ class SoundTest : public QObject {
 
     void endsWithoutASoundSystemThatHangs() {
         Capture capture{true};
-        SdlSoundPlayer player{kProgram};
+        QtSoundPlayer player{kProgram};
         player.PlaySound("click");
         QVERIFY(!player.close(std::chrono::milliseconds{1}));
         capture.read();

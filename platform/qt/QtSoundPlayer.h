@@ -16,15 +16,15 @@ namespace skylob {
 ///
 /// That program runs from when a sound is to be played until nothing has been heard for some
 /// seconds: an open device costs processor time even in silence, and its libraries memory.
-class SdlSoundPlayer final : public SoundPlayer {
+class QtSoundPlayer final : public SoundPlayer {
   public:
     /// `program` is the path of the program that plays them.
-    explicit SdlSoundPlayer(std::string program = soundProgram());
+    explicit QtSoundPlayer(std::string program = soundProgram());
     /// Closes the device, unless that takes more than a second.
-    ~SdlSoundPlayer() override;
+    ~QtSoundPlayer() override;
 
-    SdlSoundPlayer(const SdlSoundPlayer&) = delete;
-    SdlSoundPlayer& operator=(const SdlSoundPlayer&) = delete;
+    QtSoundPlayer(const QtSoundPlayer&) = delete;
+    QtSoundPlayer& operator=(const QtSoundPlayer&) = delete;
 
     void PlaySound(std::string_view name) override;
 

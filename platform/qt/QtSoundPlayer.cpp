@@ -1,4 +1,4 @@
-#include "platform/qt/SdlSoundPlayer.h"
+#include "platform/qt/QtSoundPlayer.h"
 
 #include <QByteArray>
 #include <QCoreApplication>
@@ -38,7 +38,7 @@ QByteArray waveResource(std::string_view name) {
 }  // namespace
 
 /// Where the player leaves what its thread is to do. All of it belongs to who holds the mutex.
-struct SdlSoundPlayer::Desk {
+struct QtSoundPlayer::Desk {
     std::mutex mutex;
     std::condition_variable changed;
     std::optional<QByteArray> next;  ///< the sound to be played
@@ -48,15 +48,15 @@ struct SdlSoundPlayer::Desk {
     bool isServed = false;   ///< the thread runs
 };
 
-SdlSoundPlayer::SdlSoundPlayer(std::string program)
+QtSoundPlayer::QtSoundPlayer(std::string program)
     : m_program{std::move(program)}, m_desk{std::make_shared<Desk>()} {
 }
 
-SdlSoundPlayer::~SdlSoundPlayer() {
+QtSoundPlayer::~QtSoundPlayer() {
     close(1s);
 }
 
-void SdlSoundPlayer::PlaySound(std::string_view name) {
+void QtSoundPlayer::PlaySound(std::string_view name) {
     const QByteArray sound = waveResource(name);
     const std::lock_guard lock{m_desk->mutex};
     if (m_desk->isClosing) return;
@@ -68,7 +68,7 @@ void SdlSoundPlayer::PlaySound(std::string_view name) {
 }
 
 /// Beside the game in a build, and among its libraries where it is installed.
-std::string SdlSoundPlayer::soundProgram() {
+std::string QtSoundPlayer::soundProgram() {
     const QDir here{QCoreApplication::applicationDirPath()};
     const QString name = QStringLiteral("skylob-sound");
     const QString path = here.exists(name) ? name : QStringLiteral(SKYLOB_LIBRARIES "/") + name;
@@ -76,7 +76,7 @@ std::string SdlSoundPlayer::soundProgram() {
 }
 
 /// Without a thread there are no sounds, and no second try.
-void SdlSoundPlayer::startServing() {
+void QtSoundPlayer::startServing() {
     try {
         std::thread{[desk = m_desk, program = m_program] { serve(desk, program); }}.detach();
         m_desk->isServed = true;
@@ -86,24 +86,24 @@ void SdlSoundPlayer::startServing() {
     }
 }
 
-void SdlSoundPlayer::setVolume(int percent) {
+void QtSoundPlayer::setVolume(int percent) {
     const std::lock_guard lock{m_desk->mutex};
     m_desk->volume = percent;
 }
 
-bool SdlSoundPlayer::isPlaying() const {
+bool QtSoundPlayer::isPlaying() const {
     const std::lock_guard lock{m_desk->mutex};
     return m_desk->isPlaying;
 }
 
-bool SdlSoundPlayer::close(std::chrono::milliseconds patience) {
+bool QtSoundPlayer::close(std::chrono::milliseconds patience) {
     std::unique_lock lock{m_desk->mutex};
     m_desk->isClosing = true;
     m_desk->changed.notify_all();
     return m_desk->changed.wait_for(lock, patience, [this] { return !m_desk->isServed; });
 }
 
-void SdlSoundPlayer::serve(const std::shared_ptr<Desk>& desk, const std::string& program) {
+void QtSoundPlayer::serve(const std::shared_ptr<Desk>& desk, const std::string& program) {
     SoundProcess device{program};
     std::unique_lock lock{desk->mutex};
     // The device is used without the mutex: nobody waits for what may take for ever.
