@@ -154,16 +154,24 @@ class SoundTest : public QObject {
         QFile resource{":/sounds/thunder3.wav"};
         QVERIFY(resource.open(QIODevice::ReadOnly));
         const QByteArray thunder = resource.readAll();
-        SoundProcess device{kProgram};
+        const QString crashing = capture.folder.filePath("crashing"), number = crashing + ".pid";
+        QFile script{crashing};
+        QVERIFY(script.open(QIODevice::WriteOnly));
+        script.write(
+            QStringLiteral("#!/bin/sh\necho $$ >'%1'\nexec '%2'\n").arg(number, kProgram).toUtf8());
+        script.close();
+        QVERIFY(script.setPermissions(QFile::ReadOwner | QFile::ExeOwner));
+        SoundProcess device{crashing.toStdString()};
         device.open();
         device.play(std::as_bytes(std::span{thunder}));
         QVERIFY(device.isPlaying());
 
-        QFile children{QStringLiteral("/proc/self/task/%1/children").arg(getpid())};
-        QVERIFY(children.open(QIODevice::ReadOnly));
-        kill(children.readAll().trimmed().toInt(), SIGSEGV);
+        QFile process{number};
+        QVERIFY(process.open(QIODevice::ReadOnly));
+        kill(process.readAll().trimmed().toInt(), SIGKILL);
         QTRY_VERIFY(!device.isPlaying());
-        while (device.isOpen()) device.play(std::as_bytes(std::span{thunder}));
+        device.play(std::as_bytes(std::span{thunder}));
+        QVERIFY(!device.isOpen());
         device.open();
         device.play(std::as_bytes(std::span{thunder}));
         QVERIFY(device.isPlaying());
