@@ -19,6 +19,7 @@
 #include "app/qt/ReplayProgram.h"
 #include "base/Release.h"
 #include "battle/record/RecordFile.h"
+#include "platform/SpareMemory.h"
 #include "platform/qt/QtPictureTransport.h"
 #include "platform/qt/QtScaleFactor.h"
 #include "platform/qt/QtWindowStore.h"
@@ -85,13 +86,14 @@ void endWhereThereIsNoDisplay(QtMsgType type, const QMessageLogContext&, const Q
     std::_Exit(EXIT_FAILURE);
 }
 
-/// What holds while the toolkit starts: how large all is, how pictures go to the display, and that
-/// it says no more than one line.
+/// What holds while the toolkit starts, and what has to be said before: how large all is, how
+/// pictures go to the display, what memory is kept, and that it says no more than one line.
 class ToolkitStart {
   public:
     ToolkitStart(const skylob::CommandLine& commandLine, const skylob::WindowStore& windows)
         : m_scale{skylob::startScale(commandLine, windows)},
           m_usualHandler{qInstallMessageHandler(endWhereThereIsNoDisplay)} {
+        skylob::keepLittleSpareMemory();
         skylob::sendPicturesInline();
     }
     ~ToolkitStart() { qInstallMessageHandler(m_usualHandler); }
