@@ -97,9 +97,9 @@ bool FieldLayer::showsGuns(int py) const {
 bool FieldLayer::showsSky(int px, int py) const {
     const bool isPiece = std::any_of(kSides.begin(), kSides.end(),
                                      [&](int side) { return m_picture.showsPiece(side, px, py); });
-    const std::ptrdiff_t at = std::ptrdiff_t{py} * m_width + px;
-    const std::uint32_t* const seen = isPiece ? m_picture.persistentPixels() : rules();
-    return seen[at] == kBlackPixel && !m_guns->covers(px, py);
+    const std::uint32_t seen =
+        isPiece ? m_picture.persistentPixel(px, py) : rules()[std::ptrdiff_t{py} * m_width + px];
+    return seen == kBlackPixel && !m_guns->covers(px, py);
 }
 
 const std::vector<PixelRect>& FieldLayer::update(const PixelRect& changed) {
@@ -164,7 +164,7 @@ void FieldLayer::composePiece(int side) {
             if (!m_picture.showsPiece(side, x, y)) continue;
             const auto at = static_cast<std::size_t>(y) * static_cast<std::size_t>(m_width) +
                             static_cast<std::size_t>(x);
-            m_shown[at] = blend(m_picture.persistentPixels()[at], m_canvas.pixels(y)[x - band.x]);
+            m_shown[at] = blend(m_picture.persistentPixel(x, y), m_canvas.pixels(y)[x - band.x]);
         }
     }
 }
