@@ -162,6 +162,7 @@ bool FieldLayer::pack() {
 }
 
 void FieldLayer::unpack(const PixelRect& area) {
+    if (area.width == m_width) return m_packed.copy(index(0, area.y), m_band);
     const auto width = static_cast<std::size_t>(area.width);
     std::uint32_t* to = m_band.data();
     for (int y = area.y; y < area.bottom(); ++y, to += width)

@@ -1,7 +1,6 @@
 #include "battle/light/PackedPixels.h"
 
 #include <algorithm>
-#include <array>
 
 namespace skylob {
 
@@ -26,25 +25,37 @@ void PackedPixels::append(std::span<const std::uint32_t> pixels) {
 }
 
 void PackedPixels::copy(std::size_t first, std::span<std::uint32_t> to) const {
-    std::array<std::uint32_t, kBlock + kAtOnce> block;
     while (!to.empty()) {
         const std::size_t skipped = first % kBlock, count = std::min(kBlock - skipped, to.size());
-        unpack(first / kBlock, skipped + count, block.data());
-        std::copy_n(block.data() + skipped, count, to.data());
+        if (skipped == 0 && to.size() >= kBlock + kAtOnce)
+            copyBlock(first / kBlock, to.data());
+        else
+            copyPart(first / kBlock, skipped, to.first(count));
         first += count;
         to = to.subspan(count);
     }
 }
 
-/// The block's first `count` pixels. There must be room for kAtOnce more: the runs are short, and
-/// to write too much is quicker than to ask how much.
-void PackedPixels::unpack(std::size_t block, std::size_t count, std::uint32_t* to) const {
+/// There must be room for kAtOnce pixels more: the runs are short, and to write too much is quicker
+/// than to ask how much.
+void PackedPixels::copyBlock(std::size_t block, std::uint32_t* to) const {
     const std::uint32_t* run = m_runs.data() + m_starts[block];
-    for (std::size_t done = 0; done < count; ++run) {
+    for (std::size_t done = 0; done < kBlock; ++run) {
         const std::size_t end = done + *run / kOneMore + 1;
         for (std::size_t at = done; at < end; at += kAtOnce)
             std::fill_n(to + at, kAtOnce, *run | kAlpha);
         done = end;
+    }
+}
+
+void PackedPixels::copyPart(std::size_t block, std::size_t skipped,
+                            std::span<std::uint32_t> to) const {
+    const std::uint32_t* run = m_runs.data() + m_starts[block];
+    std::size_t end = *run / kOneMore + 1;  // of the run, in the block
+    while (end <= skipped) end += *++run / kOneMore + 1;
+    for (std::size_t i = 0; i < to.size(); ++i) {
+        if (skipped + i == end) end += *++run / kOneMore + 1;
+        to[i] = *run | kAlpha;
     }
 }
 

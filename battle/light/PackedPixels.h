@@ -20,7 +20,8 @@ class PackedPixels {
     void copy(std::size_t first, std::span<std::uint32_t> to) const;
 
   private:
-    void unpack(std::size_t block, std::size_t count, std::uint32_t* to) const;
+    void copyBlock(std::size_t block, std::uint32_t* to) const;
+    void copyPart(std::size_t block, std::size_t skipped, std::span<std::uint32_t> to) const;
 
     std::size_t m_size = 0;
     std::vector<std::uint32_t> m_runs;    ///< a colour, and in place of alpha how many follow
