@@ -24,15 +24,15 @@ void FieldPicture::resize(int width, int height, int dotScale) {
     m_height = height;
     m_dotScale = dotScale;
     const auto pixels = static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
-    m_persistent.assign(pixels, kBlack.pixel());
-    m_screen = m_persistent;
+    m_screen.assign(pixels, kBlack.pixel());
+    m_covered.resize(pixels);
     m_dirty = {0, 0, width, height};
     hidePieces();
 }
 
 void FieldPicture::clear() {
     ++m_making;
-    std::fill(m_persistent.begin(), m_persistent.end(), kBlack.pixel());
+    m_covered.forget();
     std::fill(m_screen.begin(), m_screen.end(), kBlack.pixel());
     m_passing.clear();
     markDirty({0, 0, m_width, m_height});
@@ -40,16 +40,16 @@ void FieldPicture::clear() {
 
 void FieldPicture::setPoint(int x, int y, Colour colour, int width) {
     if (m_screen.empty()) return;
-    drawDot(dotArea(x, y, width), width, colour.pixel(), Buffers::Both);
+    drawDot(dotArea(x, y, width), width, colour.pixel(), Pictures::Both);
 }
 
 void FieldPicture::setPassingPoint(int x, int y, Colour colour, int width) {
     if (!m_screen.empty())
-        drawDot(dotArea(x, y, width), width, colour.pixel(), Buffers::ScreenOnly);
+        drawDot(dotArea(x, y, width), width, colour.pixel(), Pictures::ScreenOnly);
     m_passing.push_back({x, y, colour, width});
 }
 
-void FieldPicture::drawDot(const PixelRect& dot, int width, std::uint32_t value, Buffers into) {
+void FieldPicture::drawDot(const PixelRect& dot, int width, std::uint32_t value, Pictures into) {
     if (width == 1) {
         fill(dot, value, into);
         return;
@@ -83,15 +83,24 @@ void FieldPicture::ground(std::span<const int> heights, Colour colour, int width
             highest = std::min(highest, top);
         }
     }
+    fillBelow(tops, colour.pixel());
+    markDirty({0, 0, m_width, m_height});
+}
+
+/// In both pictures each column from its top row on.
+void FieldPicture::fillBelow(const std::vector<int>& tops, std::uint32_t value) {
     // Row by row, because a picture lies in memory in that order.
     for (int py = 0; py < m_height; ++py) {
-        for (auto* const buffer : {&m_persistent, &m_screen}) {
-            std::uint32_t* const pixel = buffer->data() + index(0, py);
-            for (std::size_t px = 0; px < tops.size(); ++px)
-                pixel[px] = tops[px] <= py ? colour.pixel() : pixel[px];
+        std::uint32_t* const pixel = m_screen.data() + index(0, py);
+        for (std::size_t px = 0; px < tops.size(); ++px)
+            pixel[px] = tops[px] <= py ? value : pixel[px];
+    }
+    for (auto& [first, pixels] : m_covered.runs()) {
+        for (std::size_t i = 0; i < pixels.size(); ++i) {
+            const std::size_t px = (first + i) % tops.size(), py = (first + i) / tops.size();
+            if (tops[px] <= static_cast<int>(py)) pixels[i] = value;
         }
     }
-    markDirty({0, 0, m_width, m_height});
 }
 
 void FieldPicture::filledCircle(int x, int y, int radius, Colour colour) {
@@ -101,7 +110,7 @@ void FieldPicture::filledCircle(int x, int y, int radius, Colour colour) {
     const int cx = column(x), cy = row(y);
     for (int dy = -reach; dy <= reach; ++dy) {
         const int half = toInt(std::sqrt(r * r - static_cast<double>(dy) * dy));
-        fillRow(cx - half, cy + dy, 2 * half + 1, colour.pixel(), Buffers::Both);
+        fillRow(cx - half, cy + dy, 2 * half + 1, colour.pixel(), Pictures::Both);
     }
     markDirty({cx - reach - 1, cy - reach, 2 * reach + 3, 2 * reach + 1});
 }
@@ -123,6 +132,7 @@ void FieldPicture::putBack(const LiftedPoint& lifted) {
     if (lifted.area.isEmpty()) return;
     auto from = lifted.pixels.begin();
     for (int line = 0; line < lifted.area.height; ++line) {
+        cover({lifted.area.x, lifted.area.y + line, lifted.area.width, 1});
         std::copy_n(from, lifted.area.width,
                     m_screen.data() + index(lifted.area.x, lifted.area.y + line));
         from += lifted.area.width;
@@ -155,11 +165,12 @@ PixelRect FieldPicture::pieceArea(int side) const {
 
 void FieldPicture::refresh() {
     ++m_making;
-    m_screen = m_persistent;
+    m_covered.putBack(m_screen);
     m_passing.clear();
     for (const int side : kSides) {
         const PixelRect seen = clipped(m_pieces[side].seen());
         for (int py = seen.y; py < seen.y + seen.height; ++py) {
+            cover({seen.x, py, seen.width, 1});
             for (int px = seen.x; px < seen.x + seen.width; ++px) {
                 auto& pixel = m_screen[index(px, py)];
                 pixel = blend(pixel, m_pieces[side].pixel(px, py));
@@ -184,7 +195,13 @@ std::uint32_t FieldPicture::Piece::pixel(int px, int py) const {
 bool FieldPicture::showsPiece(int side, int px, int py) const {
     if (common({px, py, 1, 1}, m_pieces[side].seen()).isEmpty()) return false;
     const std::uint32_t over = m_pieces[side].pixel(px, py);
-    return over >> 24 != 0 && m_screen[index(px, py)] == blend(m_persistent[index(px, py)], over);
+    return over >> 24 != 0 && m_screen[index(px, py)] == blend(persistentPixel(px, py), over);
+}
+
+std::uint32_t FieldPicture::persistentPixel(int px, int py) const {
+    const std::size_t at = index(px, py);
+    const std::uint32_t* const covered = m_covered.find(at);
+    return covered ? *covered : m_screen[at];
 }
 
 PixelRect FieldPicture::takeDirty() {
@@ -216,15 +233,23 @@ std::size_t FieldPicture::index(int px, int py) const {
            static_cast<std::size_t>(px);
 }
 
-void FieldPicture::fillRow(int px, int py, int length, std::uint32_t value, Buffers into) {
+void FieldPicture::fillRow(int px, int py, int length, std::uint32_t value, Pictures into) {
     const PixelRect seen = clipped({px, py, length, 1});
     if (seen.isEmpty()) return;
     const std::size_t start = index(seen.x, seen.y);
+    if (into == Pictures::Both)
+        m_covered.fill(start, static_cast<std::size_t>(seen.width), value);
+    else
+        cover(seen);
     std::fill_n(m_screen.data() + start, seen.width, value);
-    if (into == Buffers::Both) std::fill_n(m_persistent.data() + start, seen.width, value);
 }
 
-void FieldPicture::fill(const PixelRect& area, std::uint32_t value, Buffers into) {
+/// Keeps a part of a row, which lies in the picture, from what comes upon the screen picture alone.
+void FieldPicture::cover(const PixelRect& row) {
+    m_covered.keep(m_screen, index(row.x, row.y), static_cast<std::size_t>(row.width));
+}
+
+void FieldPicture::fill(const PixelRect& area, std::uint32_t value, Pictures into) {
     const PixelRect seen = clipped(area);
     for (int py = seen.y; py < seen.y + seen.height; ++py)
         fillRow(seen.x, py, seen.width, value, into);

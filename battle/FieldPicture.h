@@ -7,6 +7,7 @@
 
 #include "base/Colour.h"
 #include "base/PerSide.h"
+#include "battle/KeptRuns.h"
 #include "battle/PixelRect.h"
 
 namespace skylob {
@@ -14,10 +15,11 @@ namespace skylob {
 /// The battlefield's picture. It is drawn in field units, x 1 (left edge) to 1000 (right edge)
 /// and y 1 (bottom) to 1000 (top), onto device pixels without antialiasing.
 ///
-/// There are two buffers. The persistent picture is what refresh() brings back; the screen
-/// picture is what the player sees: the persistent picture with the two pieces on it, and on top
-/// whatever has been drawn for the moment. What lies outside the picture is cut off. A picture of
-/// no size is valid and draws nothing: a game without a screen uses it.
+/// It is two pictures. The persistent one is what refresh() brings back; the screen picture is
+/// what the player sees: the persistent picture with the two pieces on it, and on top whatever has
+/// been drawn for the moment. Of the persistent one only that is stored which is covered. What lies
+/// outside the picture is cut off. A picture of no size is valid and draws nothing: a game without
+/// a screen uses it.
 ///
 /// A `width` is that of the pen, 1 or more; a dot is square at a width of 1 and round above.
 class FieldPicture {
@@ -31,7 +33,7 @@ class FieldPicture {
     /// The size of a piece in field units, and how far it stands above the ground under it.
     static constexpr int kPieceWidth = 24, kPieceHeight = 46, kPieceTop = 30;
 
-    /// Makes both buffers `width` x `height` device pixels (0 or more) of black and takes the
+    /// Makes both pictures `width` x `height` device pixels (0 or more) of black and takes the
     /// pieces off the field. Pens are `dotScale` (at least 1) device pixels per unit of width.
     void resize(int width, int height, int dotScale);
 
@@ -45,10 +47,10 @@ class FieldPicture {
     int row(int y) const;
     PixelRect dotArea(int x, int y, int width = 1) const;
 
-    /// Blackens both buffers.
+    /// Blackens both pictures.
     void clear();
 
-    /// A dot, in both buffers.
+    /// A dot, in both pictures.
     void setPoint(int x, int y, Colour colour, int width = 1);
 
     /// A dot on the screen picture alone: of a shell, a blast, a meteor, a bolt.
@@ -67,11 +69,11 @@ class FieldPicture {
     /// several device pixels that is one of them: see liftPoint for all.
     Colour pixel(int x, int y) const;
 
-    /// A line along each column from the bottom up to its height, included; in both buffers. The
+    /// A line along each column from the bottom up to its height, included; in both pictures. The
     /// first height is of no column: they count from 1.
     void ground(std::span<const int> heights, Colour colour, int width = 1);
 
-    /// A filled circle, round in pixels, in both buffers; `radius` is in horizontal units.
+    /// A filled circle, round in pixels, in both pictures; `radius` is in horizontal units.
     void filledCircle(int x, int y, int radius, Colour colour);
 
     /// The pixels of the screen picture under a dot.
@@ -114,8 +116,8 @@ class FieldPicture {
     /// The screen picture, 0xFFRRGGBB row by row; valid until the next resize().
     const std::uint32_t* screenPixels() const { return m_screen.data(); }
 
-    /// The persistent picture, in the same way.
-    const std::uint32_t* persistentPixels() const { return m_persistent.data(); }
+    /// A device pixel of the persistent picture, which must lie in it, in the same way.
+    std::uint32_t persistentPixel(int px, int py) const;
 
     /// Counts how often the whole picture has been made anew: resized, cleared or refreshed.
     int makings() const { return m_making; }
@@ -126,10 +128,12 @@ class FieldPicture {
   private:
     PixelRect clipped(const PixelRect& area) const;
     std::size_t index(int px, int py) const;
-    enum class Buffers { Both, ScreenOnly };
-    void drawDot(const PixelRect& dot, int width, std::uint32_t value, Buffers into);
-    void fillRow(int px, int py, int length, std::uint32_t value, Buffers into);
-    void fill(const PixelRect& area, std::uint32_t value, Buffers into);
+    enum class Pictures { Both, ScreenOnly };
+    void drawDot(const PixelRect& dot, int width, std::uint32_t value, Pictures into);
+    void fillRow(int px, int py, int length, std::uint32_t value, Pictures into);
+    void fill(const PixelRect& area, std::uint32_t value, Pictures into);
+    void fillBelow(const std::vector<int>& tops, std::uint32_t value);
+    void cover(const PixelRect& row);
     void markDirty(const PixelRect& area);
 
     struct Piece {
@@ -141,7 +145,8 @@ class FieldPicture {
     };
 
     int m_width = 0, m_height = 0, m_dotScale = 1;
-    std::vector<std::uint32_t> m_persistent, m_screen;
+    std::vector<std::uint32_t> m_screen;
+    KeptRuns m_covered;  ///< of the persistent picture, which is the screen's elsewhere
     PerSide<Piece> m_pieces;
     std::vector<PassingPoint> m_passing;
     PixelRect m_dirty;

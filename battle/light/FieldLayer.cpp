@@ -23,7 +23,7 @@ namespace skylob {
 namespace {
 
 constexpr std::uint32_t kBlackPixel = 0xFF000000u;
-constexpr int kBand = 32;  // rows that are painted at a time, which keeps the canvas small
+constexpr int kBand = 32 * 1024;  // pixels that are painted at a time, which keeps the canvas small
 
 bool moves(const FieldScene& scene) {
     return scene.flight.inTheAir || scene.blast || !scene.meteor.empty() || !scene.bolts.empty();
@@ -82,12 +82,7 @@ const Painter& FieldLayer::add(Ports&... ports) {
 void FieldLayer::setOn(bool on) {
     m_on = on;
     m_switched = true;
-    if (!on) m_shown = {};
     m_width = m_height = 0;
-}
-
-const std::uint32_t* FieldLayer::pixels() const {
-    return m_on ? m_shown.data() : m_picture.screenPixels();
 }
 
 bool FieldLayer::showsGuns(int py) const {
@@ -97,9 +92,9 @@ bool FieldLayer::showsGuns(int py) const {
 bool FieldLayer::showsSky(int px, int py) const {
     const bool isPiece = std::any_of(kSides.begin(), kSides.end(),
                                      [&](int side) { return m_picture.showsPiece(side, px, py); });
-    const std::ptrdiff_t at = std::ptrdiff_t{py} * m_width + px;
-    const std::uint32_t* const seen = isPiece ? m_picture.persistentPixels() : rules();
-    return seen[at] == kBlackPixel && !m_guns->covers(px, py);
+    const std::uint32_t seen =
+        isPiece ? m_picture.persistentPixel(px, py) : rules()[std::ptrdiff_t{py} * m_width + px];
+    return seen == kBlackPixel && !m_guns->covers(px, py);
 }
 
 const std::vector<PixelRect>& FieldLayer::update(const PixelRect& changed) {
@@ -109,10 +104,8 @@ const std::vector<PixelRect>& FieldLayer::update(const PixelRect& changed) {
     const bool remade = std::exchange(m_makings, m_picture.makings()) != m_picture.makings();
     const bool anew = std::exchange(m_switched, false) || resized || remade;
     if (anew) m_changed.addWhole();
-    if (m_on) {
-        look(anew);
-        for (const PixelRect& area : m_changed.areas()) compose(area);
-    }
+    if (m_on) look(anew);
+    if (!m_changed.areas().empty()) m_packed = {};
     return m_changed.areas();
 }
 
@@ -121,8 +114,6 @@ bool FieldLayer::takeSize() {
     if (!m_on || (m_width == m_picture.width() && m_height == m_picture.height())) return false;
     m_width = m_picture.width();
     m_height = m_picture.height();
-    m_shown.assign(static_cast<std::size_t>(m_width) * static_cast<std::size_t>(m_height),
-                   kBlackPixel);
     return true;
 }
 
@@ -135,21 +126,61 @@ void FieldLayer::look(bool remade) {
     for (const auto& painter : m_painters) painter->follow(sight, m_changed);
 }
 
-void FieldLayer::compose(const PixelRect& area) {
-    for (int y = area.y; y < area.bottom(); y += kBand) {
-        m_canvas.start({area.x, y, area.width, std::min(kBand, area.bottom() - y)});
-        for (const auto& painter : m_painters) painter->paint(m_canvas);
-        for (int line = y; line < m_canvas.area().bottom(); ++line) composeRow(line);
-        for (const int side : kSides) composePiece(side);
+/// Whether the painters have seen a picture of the present size.
+bool FieldLayer::isLit() const {
+    return m_on && m_width == m_picture.width() && m_height == m_picture.height();
+}
+
+std::size_t FieldLayer::index(int px, int py) const {
+    return static_cast<std::size_t>(py) * static_cast<std::size_t>(width()) +
+           static_cast<std::size_t>(px);
+}
+
+void FieldLayer::paint(const PixelRect& area, const Sink& sink) {
+    const PixelRect seen = common(area, {0, 0, width(), height()});
+    if (seen.isEmpty()) return;
+    if (!isLit()) return sink({seen, rules() + index(seen.x, seen.y), width()});
+    const int rows = std::max(kBand / seen.width, 1);
+    for (int y = seen.y; y < seen.bottom(); y += rows) {
+        const PixelRect band{seen.x, y, seen.width, std::min(rows, seen.bottom() - y)};
+        m_band.resize(static_cast<std::size_t>(band.width) * static_cast<std::size_t>(band.height));
+        if (m_packed.isEmpty())
+            compose(band);
+        else
+            unpack(band);
+        sink({band, m_band.data(), band.width});
     }
+}
+
+bool FieldLayer::pack() {
+    if (!isLit()) return true;  // the rules' picture needs no packing
+    if (!m_packed.isEmpty()) return false;
+    PackedPixels packed;
+    paint({0, 0, m_width, m_height}, [&](const Part&) { packed.append(m_band); });
+    m_packed = std::move(packed);
+    return true;
+}
+
+void FieldLayer::unpack(const PixelRect& area) {
+    if (area.width == m_width) return m_packed.copy(index(0, area.y), m_band);
+    const auto width = static_cast<std::size_t>(area.width);
+    std::uint32_t* to = m_band.data();
+    for (int y = area.y; y < area.bottom(); ++y, to += width)
+        m_packed.copy(index(area.x, y), {to, width});
+}
+
+void FieldLayer::compose(const PixelRect& area) {
+    m_canvas.start(area);
+    for (const auto& painter : m_painters) painter->paint(m_canvas);
+    for (int y = area.y; y < area.bottom(); ++y) composeRow(y);
+    for (const int side : kSides) composePiece(side);
 }
 
 void FieldLayer::composeRow(int y) {
     const PixelRect& area = m_canvas.area();
-    const auto first = static_cast<std::size_t>(y) * static_cast<std::size_t>(m_width) +
-                       static_cast<std::size_t>(area.x);
-    const std::uint32_t* const rules = m_picture.screenPixels() + first;
-    std::transform(rules, rules + area.width, m_canvas.pixels(y), m_shown.data() + first,
+    const std::uint32_t* const rules = m_picture.screenPixels() + index(area.x, y);
+    std::uint32_t* const row = m_band.data() + std::ptrdiff_t{y - area.y} * area.width;
+    std::transform(rules, rules + area.width, m_canvas.pixels(y), row,
                    [](std::uint32_t rule, std::uint32_t light) {
                        return rule == kBlackPixel ? rule | light : rule;
                    });
@@ -160,12 +191,11 @@ void FieldLayer::composePiece(int side) {
     const PixelRect& band = m_canvas.area();
     const PixelRect area = common(m_picture.pieceArea(side), band);
     for (int y = area.y; y < area.bottom(); ++y) {
-        for (int x = area.x; x < area.right(); ++x) {
-            if (!m_picture.showsPiece(side, x, y)) continue;
-            const auto at = static_cast<std::size_t>(y) * static_cast<std::size_t>(m_width) +
-                            static_cast<std::size_t>(x);
-            m_shown[at] = blend(m_picture.persistentPixels()[at], m_canvas.pixels(y)[x - band.x]);
-        }
+        const std::uint32_t* const light = m_canvas.pixels(y);
+        std::uint32_t* const row = m_band.data() + std::ptrdiff_t{y - band.y} * band.width;
+        for (int x = area.x; x < area.right(); ++x)
+            if (m_picture.showsPiece(side, x, y))
+                row[x - band.x] = blend(m_picture.persistentPixel(x, y), light[x - band.x]);
     }
 }
 

@@ -1,10 +1,13 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <vector>
 
 #include "battle/light/LightPainter.h"
+#include "battle/light/PackedPixels.h"
 
 namespace skylob {
 
@@ -38,11 +41,30 @@ class FieldLayer {
     /// happening. Returns the areas to be shown anew, valid until the next call.
     const std::vector<PixelRect>& update(const PixelRect& changed);
 
-    /// What is to be shown, 0xFFRRGGBB row by row; valid until the next update().
-    const std::uint32_t* pixels() const;
-    /// The size of that: the picture's at the last update(), or when off, the picture's.
-    int width() const { return m_on ? m_width : m_picture.width(); }
-    int height() const { return m_on ? m_height : m_picture.height(); }
+    /// A part of what is to be shown.
+    struct Part {
+        PixelRect area;
+        const std::uint32_t* pixels;  ///< the first row's, 0xFFRRGGBB
+        int stride;                   ///< from one row to the next, in pixels
+
+        const std::uint32_t* row(int y) const {
+            return pixels + std::ptrdiff_t{y - area.y} * stride;
+        }
+    };
+    using Sink = std::function<void(const Part&)>;
+
+    /// Hands what is to be shown in an area to `sink`, in parts from above to below, each of them
+    /// valid while it is called: no whole picture is stored. It is what the last update() has seen;
+    /// the rules' picture when off, or as long as that has got another size since.
+    void paint(const PixelRect& area, const Sink& sink);
+
+    /// Makes painting cheap until something changes, for some of a picture's memory: for whoever
+    /// paints again and again meanwhile. False when nothing has changed since the last time.
+    bool pack();
+
+    /// The size of what is to be shown.
+    int width() const { return m_picture.width(); }
+    int height() const { return m_picture.height(); }
 
     /// The rules' picture under it, of that size.
     const std::uint32_t* rules() const { return m_picture.screenPixels(); }
@@ -55,8 +77,11 @@ class FieldLayer {
   private:
     template <typename Painter, typename... Ports>
     const Painter& add(Ports&... ports);
+    bool isLit() const;
     bool takeSize();
     void look(bool remade);
+    std::size_t index(int px, int py) const;
+    void unpack(const PixelRect& area);
     void compose(const PixelRect& area);
     void composeRow(int y);
     void composePiece(int side);
@@ -68,12 +93,13 @@ class FieldLayer {
     const GunLight* m_guns = nullptr;                       ///< one of them, or null
     bool m_on = true, m_switched = true;
     Motion m_motion = Motion::Full;
-    int m_width = 0, m_height = 0;
+    int m_width = 0, m_height = 0;  ///< the picture's at the last update(); 0 while it is off
     int m_makings = 0, m_step = 0;
     Skyline m_skyline;
     ChangedAreas m_changed;
     LightCanvas m_canvas;
-    std::vector<std::uint32_t> m_shown;  ///< empty while it is off
+    std::vector<std::uint32_t> m_band;  ///< composed or unpacked, row by row
+    PackedPixels m_packed;              ///< empty, or the whole of what is to be shown
 };
 
 }  // namespace skylob

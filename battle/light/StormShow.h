@@ -25,7 +25,7 @@ class StormShow {
 
     /// Lets a tenth of a second go by over what `layer` shows. With reduced motion the rain stands
     /// still, and nothing flickers.
-    void advance(const FieldLayer& layer);
+    void advance(FieldLayer& layer);
 
     /// No light from now on.
     void end();
@@ -44,11 +44,11 @@ class StormShow {
     int below(int end);
     int inSquall();
     void strew(const FieldLayer& layer);
-    void flicker(const FieldLayer& layer);
-    void blow(const FieldLayer& layer);
+    void flicker(FieldLayer& layer);
+    void blow(FieldLayer& layer);
     void fall(Drop& drop);
-    void show(Drop& drop, const FieldLayer& layer);
-    void lightUp(const PixelRect& area, std::uint32_t pixel, const FieldLayer& layer);
+    void show(Drop& drop, FieldLayer& layer);
+    void lightUp(const PixelRect& area, std::uint32_t pixel, FieldLayer& layer);
     void addRun(const PixelRect& run, std::uint32_t pixel);
 
     std::minstd_rand m_chance;
@@ -57,6 +57,7 @@ class StormShow {
     int m_squall = 0;               ///< the left end of where it rains
     int m_flash = 0;                ///< pictures that are left of the present flicker
     std::vector<Light> m_lights;
+    std::vector<Light> m_flickers;  ///< the sky that flickers; empty if that is not known
     std::vector<PixelRect> m_lit, m_changes;
 };
 

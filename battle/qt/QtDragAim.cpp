@@ -78,6 +78,7 @@ void QtDragAim::moveTo(const QPointF& at) {
     m_drag->to = at;
     if ((at - m_drag->from).manhattanLength() > kClickReach) m_drag->hasBegun = true;
     if (!m_drag->hasBegun) return;
+    m_field->keepStill();
     setGeometry(m_field->rect());
     show();
     update();

@@ -1,6 +1,7 @@
 #include "battle/qt/picGameField.h"
 
 #include <QHelpEvent>
+#include <QImage>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
@@ -81,9 +82,13 @@ QRect picGameField::onDesktop(const PixelRect& area) const {
 }
 
 void picGameField::showChanges() {
+    m_parts.clear();
     QRegion changed;
-    for (const PixelRect& area : m_layer.update(m_picture.takeDirty())) changed += touched(area);
-    if (!changed.isEmpty()) repaint(changed);
+    for (const PixelRect& area : m_layer.update(m_picture.takeDirty())) {
+        m_parts.append(touched(area));
+        changed += m_parts.last();
+    }
+    if (!changed.isEmpty()) repaintParts(changed);
 }
 
 /// What is to be painted anew where an area has changed.
@@ -93,48 +98,67 @@ QRect picGameField::touched(const PixelRect& area) const {
     return logical(area).toAlignedRect().adjusted(-reach, -reach, reach, reach);
 }
 
+/// Repaints a region that holds all parts, of which these alone are painted: the region is made of
+/// more rectangles than that.
+void picGameField::repaintParts(const QRegion& region) {
+    const QScopedValueRollback step{m_step, region};
+    repaint(region);
+}
+
 void picGameField::paintEvent(QPaintEvent* event) {
-    const QImage image = shown();
-    if (image.isNull()) return;
+    if (m_picture.width() == 0 || m_picture.height() == 0) return;
     QPainter painter{this};
-    if (image.size() == fittingSize())
-        paintFitting(painter, image, *event);
+    if (isFitting())
+        paintFitting(painter, event->region());
     else
-        paintScaled(painter, image);
+        paintScaled(painter);
     for (const auto& [area, colour] : m_storm.lights())
         painter.fillRect(area.x, area.y, area.width, area.height, QColor::fromRgba(colour));
 }
 
 /// Leaves the painter with the picture's pixels as its units, each of them one of the display's.
-void picGameField::paintFitting(QPainter& painter, const QImage& image,
-                                const QPaintEvent& event) const {
+void picGameField::paintFitting(QPainter& painter, const QRegion& region) {
     const QTransform toDevice = painter.deviceTransform();
     const QPoint corner = toDevice.map(QPointF{0, 0}).toPoint();
     painter.setTransform(QTransform::fromTranslate(corner.x(), corner.y()) * toDevice.inverted());
 
     const QTransform toPixels = QTransform::fromScale(devicePixelRatioF(), devicePixelRatioF());
-    const QList<QRect> all{event.region().begin(), event.region().end()};
-    for (const QRect& part : event.rect() == m_stormStep ? m_stormParts : all) {
-        const QRect pixels = toPixels.mapRect(QRectF{part}).toAlignedRect() & image.rect();
-        painter.drawImage(pixels.topLeft(), image, pixels);
+    const QList<QRect> all{region.begin(), region.end()};
+    for (const QRect& part : region == m_step ? m_parts : all) {
+        const QRect pixels = toPixels.mapRect(QRectF{part}).toAlignedRect();
+        drawLayer(painter, {pixels.x(), pixels.y(), pixels.width(), pixels.height()});
     }
     // Where corners lie between two pixels, one more may be the field's than the picture has.
-    painter.fillRect(image.width(), 0, 1, image.height(), Qt::black);
-    painter.fillRect(0, image.height(), image.width() + 1, 1, Qt::black);
+    const int width = m_picture.width(), height = m_picture.height();
+    painter.fillRect(width, 0, 1, height, Qt::black);
+    painter.fillRect(0, height, width + 1, 1, Qt::black);
 }
 
 /// Leaves the painter with the picture's pixels as its units.
-void picGameField::paintScaled(QPainter& painter, const QImage& image) const {
+void picGameField::paintScaled(QPainter& painter) {
+    const PixelRect whole{0, 0, m_picture.width(), m_picture.height()};
+    QImage image{whole.width, whole.height, QImage::Format_RGB32};
+    QPainter copier{&image};
+    drawLayer(copier, whole);
+    copier.end();
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.drawImage(QRectF{rect()}, image);
     const QRectF pixel = logical({0, 0, 1, 1});
     painter.scale(pixel.width(), pixel.height());
 }
 
-/// What the player sees, without a copy.
-QImage picGameField::shown() const {
-    return {reinterpret_cast<const uchar*>(m_layer.pixels()), m_layer.width(), m_layer.height(),
-            QImage::Format_RGB32};
+/// Draws what the player sees in an area of the picture's pixels, which are the painter's units.
+void picGameField::drawLayer(QPainter& painter, const PixelRect& area) {
+    m_layer.paint(area, [&painter](const FieldLayer::Part& part) {
+        painter.drawImage(
+            part.area.x, part.area.y,
+            QImage{reinterpret_cast<const uchar*>(part.pixels), part.area.width, part.area.height,
+                   part.stride * qsizetype{sizeof *part.pixels}, QImage::Format_RGB32});
+    });
+}
+
+void picGameField::keepStill() {
+    m_layer.pack();
 }
 
 void picGameField::showStorm() {
@@ -151,15 +175,14 @@ void picGameField::endStorm() {
 }
 
 void picGameField::repaintStorm() {
-    m_stormParts.clear();
+    m_parts.clear();
     QRect around;
     for (const PixelRect& area : m_storm.changes()) {
-        m_stormParts.append(touched(area));
-        around |= m_stormParts.last();
+        m_parts.append(touched(area));
+        around |= m_parts.last();
     }
     // Clipping to a hundred small rectangles would cost twice as much as sending one large one.
-    const QScopedValueRollback step{m_stormStep, around};
-    repaint(around);
+    repaintParts(around);
 }
 
 void picGameField::mousePressEvent(QMouseEvent* event) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QImage>
+#include <QRegion>
 #include <QWidget>
 #include <optional>
 
@@ -39,6 +39,9 @@ class picGameField : public QWidget {
     /// Brings what has changed in the picture and its light to the display before it returns.
     void showChanges();
 
+    /// Makes painting cheap until something changes: for what is drawn over it again and again.
+    void keepStill();
+
     /// Lets a storm's show go on by a picture, over the rules' picture, or ends it.
     void showStorm();
     void endStorm();
@@ -62,13 +65,14 @@ class picGameField : public QWidget {
     bool event(QEvent* event) override;
 
   private:
-    QImage shown() const;
     QSize fittingSize() const;
     bool isFitting() const;
     QRect touched(const PixelRect& area) const;
     void repaintStorm();
-    void paintFitting(QPainter& painter, const QImage& image, const QPaintEvent& event) const;
-    void paintScaled(QPainter& painter, const QImage& image) const;
+    void repaintParts(const QRegion& region);
+    void paintFitting(QPainter& painter, const QRegion& region);
+    void paintScaled(QPainter& painter);
+    void drawLayer(QPainter& painter, const PixelRect& area);
     QRectF logical(const PixelRect& area) const;
     QRect onDesktop(const PixelRect& area) const;
 
@@ -76,8 +80,8 @@ class picGameField : public QWidget {
     FieldLayer& m_layer;
     const QtShapes& m_shapes;
     StormShow m_storm;
-    QList<QRect> m_stormParts;  ///< the parts of the storm's next picture that differ from the last
-    QRect m_stormStep;          ///< around them, while they are repainted
+    QList<QRect> m_parts;  ///< those that differ from what was shown last; they may overlap
+    QRegion m_step;        ///< what holds them, while it is repainted
     int m_pressedPiece = 0;
     QPointF m_pressedAt;
 };

@@ -77,6 +77,28 @@ TEST(FieldPicture, KeepsOnlyWhatIsDrawnPersistentlyAndLaysPiecesOverIt) {
     EXPECT_EQ(picture.pixel(500, 101), kBlack);
 }
 
+TEST(FieldPicture, DrawsPersistentlyUnderWhatIsThereForTheMoment) {
+    for (const int edge : {41, 50}) {
+        FieldPicture passed = pictureOf(edge, 41), untouched = pictureOf(edge, 41);
+        for (const int step : {0, 1, 2, 3}) {
+            for (int x = 1; x <= 1000; x += 37)
+                passed.setPassingPoint(x, x * step % 999, kYellow, 3);
+            const auto lifted = passed.liftPoint(999, 500, 3);
+            for (FieldPicture* each : {&passed, &untouched}) {
+                each->filledCircle(200 * step, 300, 150, kCyan);
+                each->setPoint(999, 500, step == 2 ? kWhite : kRed, 3);
+                each->setPoint(20 * step, 990, kTan, 2);
+                if (step == 2) each->ground(std::vector{0, 0, 700, 300}, kWhite, 9);
+            }
+            passed.putBack(lifted);
+            EXPECT_FALSE(pixelsOf(passed) == pixelsOf(untouched));
+            if (step == 0) continue;  // the next ones are drawn upon the same
+            passed.refresh();
+            EXPECT_TRUE(pixelsOf(passed) == pixelsOf(untouched)) << edge << ", " << step;
+        }
+    }
+}
+
 TEST(FieldPicture, PutsBackExactlyWhatItLifted) {
     FieldPicture picture = pictureOf(200, 200, 2);
     picture.setPassingPoint(503, 500, kCyan, 2);  // covers the dot below only in part

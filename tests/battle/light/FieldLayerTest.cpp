@@ -4,6 +4,7 @@
 
 #include <cmath>
 
+#include "tests/support/Shown.h"
 #include "tests/support/SkyRig.h"
 
 namespace skylob::test {
@@ -48,10 +49,7 @@ struct LitBattle : SkyRig {
         const PixelRect changed = picture().takeDirty();
         if (std::exchange(makings, picture().makings()) != picture().makings())
             refreshed = pixels();
-        for (const PixelRect& area : layer.update(changed))
-            for (int y = area.y; y < area.bottom(); ++y)
-                std::copy_n(layer.pixels() + y * kEdge + area.x, area.width,
-                            window.begin() + y * kEdge + area.x);
+        window.update(layer, changed);
         const bool looksClosely = ++shows % 61 == 1;
         whole.update(looksClosely ? PixelRect{0, 0, kEdge, kEdge} : changed);
         if (looksClosely) compare();
@@ -59,11 +57,14 @@ struct LitBattle : SkyRig {
 
     void compare() {
         ++comparisons;
-        EXPECT_TRUE(std::equal(window.begin(), window.end(), whole.pixels())) << shows;
+        EXPECT_TRUE(window.pixels == shownBy(whole)) << shows;
+        EXPECT_TRUE(whole.pack()) << shows;  // the last one went with the last change
+        EXPECT_TRUE(window.pixels == shownBy(whole)) << shows;
         long faults = 0;
         for (int i = 0; i < kEdge * kEdge; ++i) {
             const std::uint32_t rule = picture().screenPixels()[i];
-            if (rule != kBlackPixel && window[static_cast<std::size_t>(i)] != rule && !isPiece(i))
+            if (rule != kBlackPixel && window.pixels[static_cast<std::size_t>(i)] != rule &&
+                !isPiece(i))
                 ++faults;
         }
         EXPECT_EQ(faults, 0) << shows;
@@ -82,7 +83,8 @@ struct LitBattle : SkyRig {
     static constexpr int kEdge = 500;
     FieldLayer layer{battle.picture(), battle.scene(), battle.state()};
     FieldLayer whole{battle.picture(), battle.scene(), battle.state()};
-    std::vector<std::uint32_t> window = std::vector<std::uint32_t>(kEdge * kEdge), refreshed;
+    ShownPicture window;
+    std::vector<std::uint32_t> refreshed;
     int makings = 0, shows = 0, comparisons = 0;
 };
 
@@ -104,8 +106,10 @@ TEST(FieldLayer, ShowsEveryChangeAndKeepsTheColoursOfTheRules) {
         EXPECT_TRUE(field.layer.update({}).empty());
         field.layer.setOn(false);
         field.show();
-        EXPECT_EQ(field.layer.pixels(), field.picture().screenPixels());
-        EXPECT_EQ(field.window, field.pixels());
+        EXPECT_EQ(field.window.pixels, field.pixels());
+        field.layer.paint({0, 0, 1, 1}, [&](const FieldLayer::Part& part) {
+            EXPECT_EQ(part.pixels, field.picture().screenPixels());  // not a copy
+        });
     }
 }
 
@@ -121,8 +125,10 @@ struct LitField : AnimatedField {
         drawBattlefield(state.field, picture, 2);
         update();
     }
-    void update() { layer.update(picture.takeDirty()); }
-    std::uint32_t shown(int px, int py) const { return layer.pixels()[py * picture.width() + px]; }
+    void update() { window.update(layer, picture.takeDirty()); }
+    std::uint32_t shown(int px, int py) const {
+        return window.pixels[static_cast<std::size_t>(py * picture.width() + px)];
+    }
     /// The brightest one around a point of the field.
     double brightest(FieldPoint at, int around) const {
         const PixelRect dot = picture.dotArea(at.x, at.y);
@@ -136,6 +142,7 @@ struct LitField : AnimatedField {
 
     BattleState state;
     FieldLayer layer{picture, animation.scene(), state};
+    ShownPicture window;
 };
 
 TEST(FieldLayer, PartsEveryGroundFromTheSky) {
@@ -160,6 +167,32 @@ TEST(FieldLayer, PartsEveryGroundFromTheSky) {
             EXPECT_GT(looked, 900 * dotScale);
         }
     }
+}
+
+TEST(FieldLayer, PaintsEachPartAsTheWholeAndNoOldSize) {
+    LitField field{1};
+    field.animation.scene().bolts = {{{300, 900}, {310, 700}}};
+    field.update();
+    for (const bool packed : {false, true}) {
+        EXPECT_EQ(packed, packed && field.layer.pack());
+        for (const PixelRect& area :
+             {PixelRect{700, -5, 300, 45}, {13, 300, 1, 200}, {31, 511, 34, 9}}) {
+            std::size_t at = 0;
+            const auto part = shownBy(field.layer, area);
+            const PixelRect seen = common(area, {0, 0, 984, 512});
+            ASSERT_EQ(part.size(), static_cast<std::size_t>(seen.width * seen.height));
+            for (const std::uint32_t pixel : part) {
+                const auto [row, column] = std::div(static_cast<int>(at++), seen.width);
+                ASSERT_EQ(pixel, field.shown(seen.x + column, seen.y + row)) << packed;
+            }
+        }
+    }
+    EXPECT_FALSE(field.layer.pack());
+    field.picture.resize(700, 600, 1);
+    field.picture.setPoint(990, 10, kRed);
+    EXPECT_TRUE(shownBy(field.layer) == pixelsOf(field.picture));
+    field.update();
+    EXPECT_FALSE(field.window.pixels == pixelsOf(field.picture));
 }
 
 TEST(FieldLayer, LightsAShellItsTrailAndItsPlaceAboveThePicture) {
