@@ -105,7 +105,7 @@ const std::vector<PixelRect>& FieldLayer::update(const PixelRect& changed) {
     const bool anew = std::exchange(m_switched, false) || resized || remade;
     if (anew) m_changed.addWhole();
     if (m_on) look(anew);
-    if (!m_changed.areas().empty()) m_packed = {};
+    if (!m_changed.areas().empty()) m_whole = {};
     return m_changed.areas();
 }
 
@@ -139,37 +139,34 @@ std::size_t FieldLayer::index(int px, int py) const {
 void FieldLayer::paint(const PixelRect& area, const Sink& sink) {
     const PixelRect seen = common(area, {0, 0, width(), height()});
     if (seen.isEmpty()) return;
-    if (!isLit()) return sink({seen, rules() + index(seen.x, seen.y), width()});
+    if (const std::uint32_t* const all = stored())
+        return sink({seen, all + index(seen.x, seen.y), width()});
     const int rows = std::max(kBand / seen.width, 1);
     for (int y = seen.y; y < seen.bottom(); y += rows) {
-        const PixelRect band{seen.x, y, seen.width, std::min(rows, seen.bottom() - y)};
-        m_band.resize(static_cast<std::size_t>(band.width) * static_cast<std::size_t>(band.height));
-        if (m_packed.isEmpty())
-            compose(band);
-        else
-            unpack(band);
-        sink({band, m_band.data(), band.width});
+        compose({seen.x, y, seen.width, std::min(rows, seen.bottom() - y)});
+        sink({m_canvas.area(), m_band.data(), seen.width});
     }
 }
 
-bool FieldLayer::pack() {
-    if (!isLit()) return true;  // the rules' picture needs no packing
-    if (!m_packed.isEmpty()) return false;
-    PackedPixels packed;
-    paint({0, 0, m_width, m_height}, [&](const Part&) { packed.append(m_band); });
-    m_packed = std::move(packed);
-    return true;
+const std::uint32_t* FieldLayer::whole() {
+    if (!stored()) {
+        std::vector<std::uint32_t> all;
+        all.reserve(index(0, m_height));
+        paint({0, 0, m_width, m_height},
+              [&](const Part&) { all.insert(all.end(), m_band.begin(), m_band.end()); });
+        m_whole = std::move(all);
+    }
+    return stored();
 }
 
-void FieldLayer::unpack(const PixelRect& area) {
-    if (area.width == m_width) return m_packed.copy(index(0, area.y), m_band);
-    const auto width = static_cast<std::size_t>(area.width);
-    std::uint32_t* to = m_band.data();
-    for (int y = area.y; y < area.bottom(); ++y, to += width)
-        m_packed.copy(index(area.x, y), {to, width});
+/// All that is to be shown; null where it has to be composed.
+const std::uint32_t* FieldLayer::stored() const {
+    if (!isLit()) return rules();
+    return m_whole.empty() ? nullptr : m_whole.data();
 }
 
 void FieldLayer::compose(const PixelRect& area) {
+    m_band.resize(static_cast<std::size_t>(area.width) * static_cast<std::size_t>(area.height));
     m_canvas.start(area);
     for (const auto& painter : m_painters) painter->paint(m_canvas);
     for (int y = area.y; y < area.bottom(); ++y) composeRow(y);

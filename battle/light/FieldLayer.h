@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "battle/light/LightPainter.h"
-#include "battle/light/PackedPixels.h"
 
 namespace skylob {
 
@@ -54,13 +53,13 @@ class FieldLayer {
     using Sink = std::function<void(const Part&)>;
 
     /// Hands what is to be shown in an area to `sink`, in parts from above to below, each of them
-    /// valid while it is called: no whole picture is stored. It is what the last update() has seen;
-    /// the rules' picture when off, or as long as that has got another size since.
+    /// valid while it is called: there need be no whole picture. It is what the last update() has
+    /// seen; the rules' picture when off, or as long as that has got another size since.
     void paint(const PixelRect& area, const Sink& sink);
 
-    /// Makes painting cheap until something changes, for some of a picture's memory: for whoever
-    /// paints again and again meanwhile. False when nothing has changed since the last time.
-    bool pack();
+    /// All of that, row by row. It is kept until something changes, when it is no longer valid: for
+    /// whoever looks or paints again and again meanwhile.
+    const std::uint32_t* whole();
 
     /// The size of what is to be shown.
     int width() const { return m_picture.width(); }
@@ -78,10 +77,10 @@ class FieldLayer {
     template <typename Painter, typename... Ports>
     const Painter& add(Ports&... ports);
     bool isLit() const;
+    const std::uint32_t* stored() const;
     bool takeSize();
     void look(bool remade);
     std::size_t index(int px, int py) const;
-    void unpack(const PixelRect& area);
     void compose(const PixelRect& area);
     void composeRow(int y);
     void composePiece(int side);
@@ -98,8 +97,8 @@ class FieldLayer {
     Skyline m_skyline;
     ChangedAreas m_changed;
     LightCanvas m_canvas;
-    std::vector<std::uint32_t> m_band;  ///< composed or unpacked, row by row
-    PackedPixels m_packed;              ///< empty, or the whole of what is to be shown
+    std::vector<std::uint32_t> m_band;   ///< composed, row by row
+    std::vector<std::uint32_t> m_whole;  ///< what is to be shown, or empty
 };
 
 }  // namespace skylob

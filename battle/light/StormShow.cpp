@@ -17,7 +17,7 @@ constexpr int kSlant = 5;        // a drop is blown one drop's width to the left
 constexpr std::uint32_t kNearDrop = 0xFF5B6E94u, kFarDrop = 0xFF35425Fu;
 
 // What lies over the sky in a flicker, the last picture first, and how rarely one comes: every
-// three seconds. All of one colour, so that they light the same pixels.
+// three seconds.
 constexpr std::array<std::uint32_t, 5> kFlashes{0x108FA5D8u, 0x388FA5D8u, 0x188FA5D8u, 0x4D8FA5D8u,
                                                 0x208FA5D8u};
 constexpr int kPicturesForAFlicker = 30;
@@ -43,7 +43,6 @@ PixelRect within(const PixelRect& area, const FieldLayer& layer) {
 }  // namespace
 
 void StormShow::advance(FieldLayer& layer) {
-    if (layer.pack()) m_flickers.clear();
     if (m_width != layer.width() || m_height != layer.height()) strew(layer);
     m_changes.swap(m_lit);
     m_lit.clear();
@@ -66,7 +65,6 @@ void StormShow::end() {
     m_changes.swap(m_lit);
     m_lit.clear();
     m_lights.clear();
-    m_flickers = {};
     m_flash = 0;
 }
 
@@ -97,13 +95,7 @@ void StormShow::flicker(FieldLayer& layer) {
         m_flash = static_cast<int>(kFlashes.size());
     if (m_flash == 0) return;
     const PixelRect sky{0, 0, m_width, m_height};
-    const std::uint32_t flash = kFlashes[static_cast<std::size_t>(m_flash - 1)];
-    if (m_flickers.empty()) {
-        lightUp(sky, flash, layer);
-        m_flickers = m_lights;
-    } else {
-        for (const Light& light : m_flickers) m_lights.push_back({light.area, flash});
-    }
+    lightUp(sky, kFlashes[static_cast<std::size_t>(m_flash - 1)], layer);
     m_lit.push_back(sky);
 }
 
@@ -129,23 +121,22 @@ void StormShow::show(Drop& drop, FieldLayer& layer) {
 }
 
 void StormShow::lightUp(const PixelRect& area, std::uint32_t pixel, FieldLayer& layer) {
+    const PixelRect seen = within(area, layer);
     const std::uint32_t bright = brightness(pixel);
-    layer.paint(area, [&](const FieldLayer::Part& part) {
-        for (int y = part.area.y; y < part.area.bottom(); ++y) {
-            const std::uint32_t* const shown = part.row(y);
-            const std::uint32_t* const rules = layer.rules() + std::ptrdiff_t{y} * m_width;
-            const bool hasGuns = layer.showsGuns(y);  // a whole sky is asked pixel by pixel
-            const auto isLit = [&](int x) {
-                return (hasGuns ? layer.showsSky(x, y) : rules[x] == kBlack.pixel()) &&
-                       brightness(shown[x - part.area.x]) < bright;
-            };
-            for (int x = part.area.x; x < part.area.right(); ++x) {
-                const int from = x;
-                while (x < part.area.right() && isLit(x)) ++x;
-                if (x > from) addRun({from, y, x - from, 1}, pixel);
-            }
+    for (int y = seen.y; y < seen.bottom(); ++y) {
+        const std::uint32_t* const shown = layer.whole() + std::ptrdiff_t{y} * m_width;
+        const std::uint32_t* const rules = layer.rules() + std::ptrdiff_t{y} * m_width;
+        const bool hasGuns = layer.showsGuns(y);  // a whole sky is asked pixel by pixel
+        const auto isLit = [&](int x) {
+            return (hasGuns ? layer.showsSky(x, y) : rules[x] == kBlack.pixel()) &&
+                   brightness(shown[x]) < bright;
+        };
+        for (int x = seen.x; x < seen.right(); ++x) {
+            const int from = x;
+            while (x < seen.right() && isLit(x)) ++x;
+            if (x > from) addRun({from, y, x - from, 1}, pixel);
         }
-    });
+    }
 }
 
 /// Puts it under the last one, if that is as long: there is less to be painted then.

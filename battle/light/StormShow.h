@@ -57,7 +57,6 @@ class StormShow {
     int m_squall = 0;               ///< the left end of where it rains
     int m_flash = 0;                ///< pictures that are left of the present flicker
     std::vector<Light> m_lights;
-    std::vector<Light> m_flickers;  ///< the sky that flickers; empty if that is not known
     std::vector<PixelRect> m_lit, m_changes;
 };
 

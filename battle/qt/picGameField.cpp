@@ -158,7 +158,7 @@ void picGameField::drawLayer(QPainter& painter, const PixelRect& area) {
 }
 
 void picGameField::keepStill() {
-    m_layer.pack();
+    m_layer.whole();
 }
 
 void picGameField::showStorm() {

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "tests/support/Shown.h"
+#include "battle/light/FieldLayer.h"
 #include "tests/support/SkyRig.h"
 
 namespace skylob::test {
@@ -11,7 +11,7 @@ TEST(GhostMark, StandsWhereTheSideThatAimsHasShotLast) {
     // The upper end of a mark, 19 above the landing; a pixel is a unit.
     const auto light = [&](FieldPoint landing) {
         layer.update(rig.picture().takeDirty());
-        return shownBy(layer, {landing.x - 1, 1000 - landing.y - 19, 1, 1}).at(0);
+        return layer.whole()[(1000 - landing.y - 19) * 1000 + landing.x - 1];
     };
     constexpr FieldPoint kAnns{230, 105}, kBobs{796, 28};
     constexpr std::uint32_t kCoral = 0xFFFF917C, kOrchid = 0xFFE39BFF;
