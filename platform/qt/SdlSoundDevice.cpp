@@ -65,40 +65,27 @@ SdlSoundDevice::SdlSoundDevice() {
     SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
     // What the desktop's volume control calls it.
     SDL_SetHint(SDL_HINT_APP_NAME, "Skylob");
+    m_isOpen = openAudio();
+    if (m_isOpen)
+        Mix_AllocateChannels(1);
+    else
+        std::fprintf(stderr, "skylob: no sound: %s\n", SDL_GetError());
 }
 
 SdlSoundDevice::~SdlSoundDevice() {
-    close();
+    if (!m_isOpen) return;
+    Mix_HaltChannel(kTheOneChannel);
+    m_sound.reset();
+    Mix_CloseAudio();
+    Mix_Quit();
+    SDL_QuitSubSystem(SDL_INIT_AUDIO);
 }
 
 void SdlSoundDevice::FreeChunk::operator()(Mix_Chunk* chunk) const {
     Mix_FreeChunk(chunk);
 }
 
-void SdlSoundDevice::open() {
-    if (m_state != State::Closed) return;
-    if (openAudio()) {
-        Mix_AllocateChannels(1);
-        m_state = State::Open;
-        setVolume(m_volume);
-    } else {
-        m_state = State::Missing;
-        std::fprintf(stderr, "skylob: no sound: %s\n", SDL_GetError());
-    }
-}
-
-void SdlSoundDevice::close() {
-    if (!isOpen()) return;
-    Mix_HaltChannel(kTheOneChannel);
-    m_sound.reset();
-    Mix_CloseAudio();
-    Mix_Quit();
-    SDL_QuitSubSystem(SDL_INIT_AUDIO);
-    m_state = State::Closed;
-}
-
 void SdlSoundDevice::play(std::span<const std::byte> waveFile) {
-    if (!isOpen()) return;
     const auto bytes = playablePart(waveFile);
     decltype(m_sound) sound{
         Mix_LoadWAV_RW(SDL_RWFromConstMem(bytes.data(), static_cast<int>(bytes.size())), 1)};
@@ -108,12 +95,11 @@ void SdlSoundDevice::play(std::span<const std::byte> waveFile) {
 }
 
 void SdlSoundDevice::setVolume(int percent) {
-    m_volume = percent;
-    if (isOpen()) Mix_Volume(kTheOneChannel, percent * MIX_MAX_VOLUME / 100);
+    Mix_Volume(kTheOneChannel, percent * MIX_MAX_VOLUME / 100);
 }
 
 bool SdlSoundDevice::isPlaying() const {
-    return isOpen() && Mix_Playing(kTheOneChannel) != 0;
+    return Mix_Playing(kTheOneChannel) != 0;
 }
 
 }  // namespace skylob

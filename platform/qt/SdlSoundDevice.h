@@ -1,38 +1,42 @@
 #pragma once
 
+#include <cstddef>
 #include <memory>
-
-#include "platform/SoundDevice.h"
+#include <span>
 
 struct Mix_Chunk;
 
 namespace skylob {
 
-/// The sound device behind the audio library, which mixes on a thread of its own.
-class SdlSoundDevice final : public SoundDevice {
+/// The sound device, open for as long as the object lives. The audio library mixes on a thread of
+/// its own, one sound at a time.
+class SdlSoundDevice {
   public:
+    /// Opens it. Where there is none, one line on standard error says why.
     SdlSoundDevice();
-    /// Closes it.
-    ~SdlSoundDevice() override;
+    ~SdlSoundDevice();
 
     SdlSoundDevice(const SdlSoundDevice&) = delete;
     SdlSoundDevice& operator=(const SdlSoundDevice&) = delete;
 
-    void open() override;
-    void close() override;
-    bool isOpen() const override { return m_state == State::Open; }
-    void play(std::span<const std::byte> waveFile) override;
-    void setVolume(int percent) override;
-    bool isPlaying() const override;
+    /// The others are only to be called when it is.
+    bool isOpen() const { return m_isOpen; }
+
+    /// Starts a wave file; a sound still playing is cut off. Does nothing with a file that cannot
+    /// be played.
+    void play(std::span<const std::byte> waveFile);
+
+    /// How loud what plays and what will play is, 0 to 100 percent.
+    void setVolume(int percent);
+
+    bool isPlaying() const;
 
   private:
     struct FreeChunk {
         void operator()(Mix_Chunk* chunk) const;
     };
 
-    enum class State { Closed, Open, Missing };
-    State m_state = State::Closed;
-    int m_volume = 100;
+    bool m_isOpen = false;
     std::unique_ptr<Mix_Chunk, FreeChunk> m_sound;
 };
 

@@ -3,6 +3,7 @@
 
 #include <csignal>
 #include <cstdlib>
+#include <span>
 #include <vector>
 
 #include "platform/SoundOrders.h"
@@ -17,12 +18,12 @@ void answer(bool yes) {
     sendAll(kSoundOrders, std::as_bytes(std::span{&said, 1}));
 }
 
-void play(SoundDevice& device, std::int32_t size) {
+void play(SdlSoundDevice& device, std::int32_t size) {
     std::vector<std::byte> waveFile(static_cast<std::size_t>(size));
     if (receiveAll(kSoundOrders, waveFile)) device.play(waveFile);
 }
 
-void obey(SoundDevice& device, const SoundOrder& order) {
+void obey(SdlSoundDevice& device, const SoundOrder& order) {
     switch (order.kind) {
         case SoundOrder::Kind::Play:
             return play(device, order.value);
@@ -35,13 +36,12 @@ void obey(SoundDevice& device, const SoundOrder& order) {
 
 int run() {
     SdlSoundDevice device;
-    device.open();
     answer(device.isOpen());
+    if (!device.isOpen()) return EXIT_FAILURE;
     SoundOrder order{};
-    while (device.isOpen() &&
-           receiveAll(kSoundOrders, std::as_writable_bytes(std::span{&order, 1})))
+    while (receiveAll(kSoundOrders, std::as_writable_bytes(std::span{&order, 1})))
         obey(device, order);
-    return device.isOpen() ? EXIT_SUCCESS : EXIT_FAILURE;
+    return EXIT_SUCCESS;
 }
 
 }  // namespace
