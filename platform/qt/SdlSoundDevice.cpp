@@ -86,6 +86,7 @@ void SdlSoundDevice::FreeChunk::operator()(Mix_Chunk* chunk) const {
 }
 
 void SdlSoundDevice::play(std::span<const std::byte> waveFile) {
+    if (!m_isOpen) return;
     const auto bytes = playablePart(waveFile);
     decltype(m_sound) sound{
         Mix_LoadWAV_RW(SDL_RWFromConstMem(bytes.data(), static_cast<int>(bytes.size())), 1)};
@@ -95,11 +96,11 @@ void SdlSoundDevice::play(std::span<const std::byte> waveFile) {
 }
 
 void SdlSoundDevice::setVolume(int percent) {
-    Mix_Volume(kTheOneChannel, percent * MIX_MAX_VOLUME / 100);
+    if (m_isOpen) Mix_Volume(kTheOneChannel, percent * MIX_MAX_VOLUME / 100);
 }
 
 bool SdlSoundDevice::isPlaying() const {
-    return Mix_Playing(kTheOneChannel) != 0;
+    return m_isOpen && Mix_Playing(kTheOneChannel) != 0;
 }
 
 }  // namespace skylob

@@ -12,14 +12,13 @@ namespace skylob {
 /// its own, one sound at a time.
 class SdlSoundDevice {
   public:
-    /// Opens it. Where there is none, one line on standard error says why.
+    /// Opens it. Where there is none, one line on standard error says why, and nothing is played.
     SdlSoundDevice();
     ~SdlSoundDevice();
 
     SdlSoundDevice(const SdlSoundDevice&) = delete;
     SdlSoundDevice& operator=(const SdlSoundDevice&) = delete;
 
-    /// The others are only to be called when it is.
     bool isOpen() const { return m_isOpen; }
 
     /// Starts a wave file; a sound still playing is cut off. Does nothing with a file that cannot
