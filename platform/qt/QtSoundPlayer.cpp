@@ -1,8 +1,6 @@
 #include "platform/qt/QtSoundPlayer.h"
 
 #include <QByteArray>
-#include <QCoreApplication>
-#include <QDir>
 #include <QFile>
 #include <condition_variable>
 #include <cstdio>
@@ -16,6 +14,7 @@
 #include <utility>
 
 #include "base/qt/QtText.h"
+#include "platform/RunPath.h"
 #include "platform/SoundProcess.h"
 
 namespace skylob {
@@ -48,8 +47,7 @@ struct QtSoundPlayer::Desk {
     bool isServed = false;   ///< the thread runs
 };
 
-QtSoundPlayer::QtSoundPlayer(std::string program)
-    : m_program{std::move(program)}, m_desk{std::make_shared<Desk>()} {
+QtSoundPlayer::QtSoundPlayer() : m_desk{std::make_shared<Desk>()} {
 }
 
 QtSoundPlayer::~QtSoundPlayer() {
@@ -67,18 +65,10 @@ void QtSoundPlayer::PlaySound(std::string_view name) {
     m_desk->changed.notify_all();
 }
 
-/// Beside the game in a build, and among its libraries where it is installed.
-std::string QtSoundPlayer::soundProgram() {
-    const QDir here{QCoreApplication::applicationDirPath()};
-    const QString name = QStringLiteral("skylob-sound");
-    const QString path = here.exists(name) ? name : QStringLiteral(SKYLOB_LIBRARIES "/") + name;
-    return here.filePath(path).toStdString();
-}
-
 /// Without a thread there are no sounds, and no second try.
 void QtSoundPlayer::startServing() {
     try {
-        std::thread{[desk = m_desk, program = m_program] { serve(desk, program); }}.detach();
+        std::thread{[desk = m_desk] { serve(desk); }}.detach();
         m_desk->isServed = true;
     } catch (const std::system_error& error) {
         std::fprintf(stderr, "skylob: no sound: %s\n", error.what());
@@ -103,8 +93,8 @@ bool QtSoundPlayer::close(std::chrono::milliseconds patience) {
     return m_desk->changed.wait_for(lock, patience, [this] { return !m_desk->isServed; });
 }
 
-void QtSoundPlayer::serve(const std::shared_ptr<Desk>& desk, const std::string& program) {
-    SoundProcess device{program};
+void QtSoundPlayer::serve(const std::shared_ptr<Desk>& desk) {
+    SoundProcess device{foundOnRunPath("skylob-sound")};
     std::unique_lock lock{desk->mutex};
     // The device is used without the mutex: nobody waits for what may take for ever.
     const auto unlocked = [&lock](const auto& work) {

@@ -2,7 +2,6 @@
 
 #include <chrono>
 #include <memory>
-#include <string>
 #include <string_view>
 
 #include "base/SoundPlayer.h"
@@ -18,8 +17,7 @@ namespace skylob {
 /// seconds: an open device costs processor time even in silence, and its libraries memory.
 class QtSoundPlayer final : public SoundPlayer {
   public:
-    /// `program` is the path of the program that plays them.
-    explicit QtSoundPlayer(std::string program = soundProgram());
+    QtSoundPlayer();
     /// Closes the device, unless that takes more than a second.
     ~QtSoundPlayer() override;
 
@@ -41,11 +39,9 @@ class QtSoundPlayer final : public SoundPlayer {
 
   private:
     struct Desk;
-    static std::string soundProgram();
     void startServing();
-    static void serve(const std::shared_ptr<Desk>& desk, const std::string& program);
+    static void serve(const std::shared_ptr<Desk>& desk);
 
-    std::string m_program;
     std::shared_ptr<Desk> m_desk;  ///< shared with the thread, which may outlive the player
 };
 

@@ -11,6 +11,7 @@
 #include <csignal>
 #include <span>
 
+#include "platform/RunPath.h"
 #include "platform/SoundProcess.h"
 #include "platform/qt/QtSoundPlayer.h"
 #include "tests/support/CapturedErrors.h"
@@ -19,7 +20,7 @@
 using namespace skylob;
 
 constexpr qint64 kRate = 44100;
-constexpr const char* kProgram = SKYLOB_SOUND;
+const std::string kProgram = foundOnRunPath("skylob-sound");
 
 /// What would be heard goes into a file, some five times faster than it sounds. A sound system that
 /// hangs does so until somebody reads what it plays.
@@ -99,7 +100,7 @@ class SoundTest : public QObject {
   private slots:
     void playsTheCompressedOne() {
         const Capture capture;
-        QtSoundPlayer player{kProgram};
+        QtSoundPlayer player;
         player.PlaySound("daffy");
         QTRY_VERIFY(!player.isPlaying());
         QCOMPARE(capture.lastLoudFrame() / kRate, 1);  // between one second and two
@@ -110,7 +111,7 @@ class SoundTest : public QObject {
         const int volumes[] = {100, 50, 0};
         for (int i = 0; i < 3; ++i) {
             const Capture capture;
-            QtSoundPlayer player{kProgram};
+            QtSoundPlayer player;
             player.setVolume(volumes[i]);
             player.PlaySound("shot");
             QTRY_VERIFY(!player.isPlaying());
@@ -123,7 +124,7 @@ class SoundTest : public QObject {
 
     void cutsOffTheSoundThatPlays() {
         const Capture capture;
-        QtSoundPlayer player{kProgram};
+        QtSoundPlayer player;
         player.PlaySound("THUNDER3");  // 9.6 s
         QTRY_VERIFY(capture.frames() > kRate / 2);
         player.PlaySound("shot");  // 0.5 s
@@ -157,8 +158,9 @@ class SoundTest : public QObject {
         const QString crashing = capture.folder.filePath("crashing"), number = crashing + ".pid";
         QFile script{crashing};
         QVERIFY(script.open(QIODevice::WriteOnly));
-        script.write(
-            QStringLiteral("#!/bin/sh\necho $$ >'%1'\nexec '%2'\n").arg(number, kProgram).toUtf8());
+        script.write(QStringLiteral("#!/bin/sh\necho $$ >'%1'\nexec '%2'\n")
+                         .arg(number, QString::fromStdString(kProgram))
+                         .toUtf8());
         script.close();
         QVERIFY(script.setPermissions(QFile::ReadOwner | QFile::ExeOwner));
         SoundProcess device{crashing.toStdString()};
@@ -183,7 +185,7 @@ class SoundTest : public QObject {
         for (const char* driver : {"nonesuch", "alsa"}) {
             qputenv("SDL_AUDIODRIVER", driver);
             const test::CapturedErrors errors;
-            QtSoundPlayer player{kProgram};
+            QtSoundPlayer player;
             player.PlaySound("click");
             player.PlaySound("shot");
             QVERIFY(player.close(std::chrono::minutes{1}));
@@ -196,7 +198,7 @@ class SoundTest : public QObject {
     void bearsAThreadThatCannotBeMade() {
         const ThreadsTooLarge threads;
         const test::CapturedErrors errors;
-        QtSoundPlayer player{kProgram};
+        QtSoundPlayer player;
         player.PlaySound("click");
         player.PlaySound("shot");
         QVERIFY(!player.isPlaying());
@@ -207,7 +209,7 @@ class SoundTest : public QObject {
 
     void playsTheNewestWhenTheSoundSystemAnswersAtLast() {
         Capture capture{true};
-        QtSoundPlayer player{kProgram};
+        QtSoundPlayer player;
         for (const char* sound : {"THUNDER3", "daffy", "shot"}) player.PlaySound(sound);
         QVERIFY(player.isPlaying());
         capture.read();
@@ -219,7 +221,7 @@ class SoundTest : public QObject {
 
     void endsWithoutASoundSystemThatHangs() {
         Capture capture{true};
-        QtSoundPlayer player{kProgram};
+        QtSoundPlayer player;
         player.PlaySound("click");
         QVERIFY(!player.close(std::chrono::milliseconds{1}));
         capture.read();
