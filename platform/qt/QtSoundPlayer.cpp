@@ -116,7 +116,7 @@ void QtSoundPlayer::serve(const std::shared_ptr<Desk>& desk, const std::string& 
     for (;;) {
         const auto pause = desk->isPlaying ? kLook : device.isOpen() ? kSilence : kLong;
         const bool wanted = desk->changed.wait_for(lock, pause, isWanted);
-        device.setVolume(desk->volume);
+        unlocked([&, volume = desk->volume] { device.setVolume(volume); });
         if (desk->next) {
             unlocked([&] { device.open(); });
             // That may have taken a while: the newest by now.
@@ -127,7 +127,9 @@ void QtSoundPlayer::serve(const std::shared_ptr<Desk>& desk, const std::string& 
         } else if (!desk->isPlaying) {
             unlocked([&] { device.close(); });
         }
-        desk->isPlaying = desk->next || device.isPlaying();
+        bool isHeard = false;
+        unlocked([&] { isHeard = device.isPlaying(); });
+        desk->isPlaying = desk->next || isHeard;
     }
     unlocked([&] { device.close(); });
     desk->isPlaying = desk->isServed = false;
