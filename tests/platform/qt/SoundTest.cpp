@@ -186,6 +186,13 @@ class SoundTest : public QObject {
         device.open();
         device.play(std::as_bytes(std::span{thunder}));
         QVERIFY(device.isPlaying());
+
+        script.crash();
+        QTRY_VERIFY(!device.isPlaying());
+        device.setVolume(50);
+        device.open();
+        device.play(std::as_bytes(std::span{thunder}));
+        QVERIFY(device.isPlaying());
         QCOMPARE(errors.text(), QByteArray{});
     }
 
