@@ -254,6 +254,15 @@ class SoundTest : public QObject {
         QCOMPARE_LT(capture.lastLoudFrame(), kRate);
     }
 
+    void opensNothingForAGameThatHasGone() {
+        const Capture capture{true};
+        QProcess sounds;
+        sounds.setStandardInputFile(QProcess::nullDevice());
+        sounds.start(kProgram, {});
+        QVERIFY(sounds.waitForFinished());
+        QCOMPARE(sounds.exitStatus(), QProcess::NormalExit);
+    }
+
     void endsWithoutASoundSystemThatHangs() {
         Capture capture{true};
         QtSoundPlayer player{kProgram};
