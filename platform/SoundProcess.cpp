@@ -104,7 +104,8 @@ void SoundProcess::play(std::span<const std::byte> waveFile) {
 
 void SoundProcess::setVolume(int percent) {
     m_volume = percent;
-    if (isOpen()) order(m_socket, SoundOrder::Kind::SetVolume, static_cast<std::size_t>(percent));
+    const auto value = static_cast<std::size_t>(percent);
+    if (isOpen() && !order(m_socket, SoundOrder::Kind::SetVolume, value)) close();
 }
 
 bool SoundProcess::isPlaying() const {

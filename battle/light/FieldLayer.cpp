@@ -92,8 +92,7 @@ bool FieldLayer::showsGuns(int py) const {
 bool FieldLayer::showsSky(int px, int py) const {
     const bool isPiece = std::any_of(kSides.begin(), kSides.end(),
                                      [&](int side) { return m_picture.showsPiece(side, px, py); });
-    const std::uint32_t seen =
-        isPiece ? m_picture.persistentPixel(px, py) : rules()[std::ptrdiff_t{py} * m_width + px];
+    const std::uint32_t seen = isPiece ? m_picture.persistentPixel(px, py) : rules()[index(px, py)];
     return seen == kBlackPixel && !m_guns->covers(px, py);
 }
 

@@ -47,7 +47,8 @@ struct QtSoundPlayer::Desk {
     bool isServed = false;   ///< the thread runs
 };
 
-QtSoundPlayer::QtSoundPlayer() : m_desk{std::make_shared<Desk>()} {
+QtSoundPlayer::QtSoundPlayer(std::string program)
+    : m_program{std::move(program)}, m_desk{std::make_shared<Desk>()} {
 }
 
 QtSoundPlayer::~QtSoundPlayer() {
@@ -68,7 +69,7 @@ void QtSoundPlayer::PlaySound(std::string_view name) {
 /// Without a thread there are no sounds, and no second try.
 void QtSoundPlayer::startServing() {
     try {
-        std::thread{[desk = m_desk] { serve(desk); }}.detach();
+        std::thread{[desk = m_desk, program = m_program] { serve(desk, program); }}.detach();
         m_desk->isServed = true;
     } catch (const std::system_error& error) {
         std::fprintf(stderr, "skylob: no sound: %s\n", error.what());
@@ -93,8 +94,8 @@ bool QtSoundPlayer::close(std::chrono::milliseconds patience) {
     return m_desk->changed.wait_for(lock, patience, [this] { return !m_desk->isServed; });
 }
 
-void QtSoundPlayer::serve(const std::shared_ptr<Desk>& desk) {
-    SoundProcess device{foundOnRunPath("skylob-sound")};
+void QtSoundPlayer::serve(const std::shared_ptr<Desk>& desk, const std::string& program) {
+    SoundProcess device{foundOnRunPath(program)};
     std::unique_lock lock{desk->mutex};
     // The device is used without the mutex: nobody waits for what may take for ever.
     const auto unlocked = [&lock](const auto& work) {
@@ -106,7 +107,7 @@ void QtSoundPlayer::serve(const std::shared_ptr<Desk>& desk) {
     for (;;) {
         const auto pause = desk->isPlaying ? kLook : device.isOpen() ? kSilence : kLong;
         const bool wanted = desk->changed.wait_for(lock, pause, isWanted);
-        device.setVolume(desk->volume);
+        unlocked([&, volume = desk->volume] { device.setVolume(volume); });
         if (desk->next) {
             unlocked([&] { device.open(); });
             // That may have taken a while: the newest by now.
@@ -117,7 +118,9 @@ void QtSoundPlayer::serve(const std::shared_ptr<Desk>& desk) {
         } else if (!desk->isPlaying) {
             unlocked([&] { device.close(); });
         }
-        desk->isPlaying = desk->next || device.isPlaying();
+        bool isHeard = false;
+        unlocked([&] { isHeard = device.isPlaying(); });
+        desk->isPlaying = desk->next || isHeard;
     }
     unlocked([&] { device.close(); });
     desk->isPlaying = desk->isServed = false;

@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <memory>
+#include <string>
 #include <string_view>
 
 #include "base/SoundPlayer.h"
@@ -17,7 +18,8 @@ namespace skylob {
 /// seconds: an open device costs processor time even in silence, and its libraries memory.
 class QtSoundPlayer final : public SoundPlayer {
   public:
-    QtSoundPlayer();
+    /// `program` is the name of the one that plays them, on the run path, or its whole path.
+    explicit QtSoundPlayer(std::string program = "skylob-sound");
     /// Closes the device, unless that takes more than a second.
     ~QtSoundPlayer() override;
 
@@ -40,8 +42,9 @@ class QtSoundPlayer final : public SoundPlayer {
   private:
     struct Desk;
     void startServing();
-    static void serve(const std::shared_ptr<Desk>& desk);
+    static void serve(const std::shared_ptr<Desk>& desk, const std::string& program);
 
+    std::string m_program;
     std::shared_ptr<Desk> m_desk;  ///< shared with the thread, which may outlive the player
 };
 

@@ -1,6 +1,8 @@
 // The program that plays sounds for the game, which starts it: see SoundOrders.
 #include <sys/prctl.h>
+#include <sys/socket.h>
 
+#include <cerrno>
 #include <csignal>
 #include <cstdlib>
 #include <span>
@@ -34,7 +36,16 @@ void obey(SdlSoundDevice& device, const SoundOrder& order) {
     }
 }
 
+/// Whether the game is at the other end, or has left an order there.
+bool isThereAGame() {
+    std::byte first{};
+    const auto received = ::recv(kSoundOrders, &first, 1, MSG_PEEK | MSG_DONTWAIT);
+    return received > 0 || (received < 0 && errno == EAGAIN);
+}
+
 int run() {
+    // It may have ended before this program could say what is to happen then.
+    if (!isThereAGame()) return EXIT_FAILURE;
     SdlSoundDevice device;
     answer(device.isOpen());
     if (!device.isOpen()) return EXIT_FAILURE;

@@ -12,6 +12,7 @@
 #include <span>
 
 #include "platform/RunPath.h"
+#include "platform/SoundOrders.h"
 #include "platform/SoundProcess.h"
 #include "platform/qt/QtSoundPlayer.h"
 #include "tests/support/CapturedErrors.h"
@@ -20,7 +21,10 @@
 using namespace skylob;
 
 constexpr qint64 kRate = 44100;
-const std::string kProgram = foundOnRunPath("skylob-sound");
+
+QString program() {
+    return QString::fromStdString(foundOnRunPath("skylob-sound"));
+}
 
 /// What would be heard goes into a file, some five times faster than it sounds. A sound system that
 /// hangs does so until somebody reads what it plays.
@@ -94,6 +98,23 @@ class ThreadsTooLarge {
     pthread_attr_t m_before;
 };
 
+/// A program of a few lines of shell, which may say which process it is.
+struct Script {
+    Script(const QString& path, const QString& lines) : name{path}, number{path + ".pid"} {
+        QFile script{path};
+        if (!script.open(QIODevice::WriteOnly)) qFatal("no script");
+        script.write(QStringLiteral("#!/bin/sh\necho $$ >'%1'\n%2\n").arg(number, lines).toUtf8());
+        script.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+    }
+    void crash() const {
+        QFile process{number};
+        if (!process.open(QIODevice::ReadOnly)) qFatal("it has not been started");
+        kill(process.readAll().trimmed().toInt(), SIGKILL);
+    }
+
+    QString name, number;
+};
+
 class SoundTest : public QObject {
     Q_OBJECT
 
@@ -155,29 +176,47 @@ class SoundTest : public QObject {
         QFile resource{":/sounds/thunder3.wav"};
         QVERIFY(resource.open(QIODevice::ReadOnly));
         const QByteArray thunder = resource.readAll();
-        const QString crashing = capture.folder.filePath("crashing"), number = crashing + ".pid";
-        QFile script{crashing};
-        QVERIFY(script.open(QIODevice::WriteOnly));
-        script.write(QStringLiteral("#!/bin/sh\necho $$ >'%1'\nexec '%2'\n")
-                         .arg(number, QString::fromStdString(kProgram))
-                         .toUtf8());
-        script.close();
-        QVERIFY(script.setPermissions(QFile::ReadOwner | QFile::ExeOwner));
-        SoundProcess device{crashing.toStdString()};
+        const Script script{capture.folder.filePath("crashing"),
+                            QStringLiteral("exec '%1'").arg(program())};
+        SoundProcess device{script.name.toStdString()};
         device.open();
         device.play(std::as_bytes(std::span{thunder}));
         QVERIFY(device.isPlaying());
 
-        QFile process{number};
-        QVERIFY(process.open(QIODevice::ReadOnly));
-        kill(process.readAll().trimmed().toInt(), SIGKILL);
+        script.crash();
         QTRY_VERIFY(!device.isPlaying());
         device.play(std::as_bytes(std::span{thunder}));
         QVERIFY(!device.isOpen());
         device.open();
         device.play(std::as_bytes(std::span{thunder}));
         QVERIFY(device.isPlaying());
+
+        script.crash();
+        QTRY_VERIFY(!device.isPlaying());
+        device.setVolume(50);
+        device.open();
+        device.play(std::as_bytes(std::span{thunder}));
+        QVERIFY(device.isPlaying());
         QCOMPARE(errors.text(), QByteArray{});
+    }
+
+    void waitsInItsThreadForAProgramThatHangs() {
+        const QTemporaryDir folder;
+        const QString orders = folder.filePath("orders");
+        // It says that the device is open, and nothing more.
+        const Script script{
+            folder.filePath("hanging"),
+            QStringLiteral("printf '\\1\\0\\0\\0' >&0\nexec cat >'%1'").arg(orders)};
+        QtSoundPlayer player{script.name.toStdString()};
+        player.PlaySound("click");
+        // The volume, the sound, and whether it plays.
+        const qint64 asked =
+            QFileInfo{":/sounds/click.wav"}.size() + 3 * qint64{sizeof(SoundOrder)};
+        QTRY_VERIFY(QFileInfo{orders}.size() >= asked);
+        QVERIFY(player.isPlaying());
+        QVERIFY(!player.close(std::chrono::milliseconds{1}));
+        script.crash();
+        QVERIFY(player.close(std::chrono::minutes{1}));
     }
 
     void bearsAMissingDeviceWithOneLineAtMost() {
@@ -217,6 +256,15 @@ class SoundTest : public QObject {
         QVERIFY(capture.isOver());  // the device is closed after some silence
         QCOMPARE_GT(capture.lastLoudFrame(), kRate / 3);
         QCOMPARE_LT(capture.lastLoudFrame(), kRate);
+    }
+
+    void opensNothingForAGameThatHasGone() {
+        const Capture capture{true};
+        QProcess sounds;
+        sounds.setStandardInputFile(QProcess::nullDevice());
+        sounds.start(program(), {});
+        QVERIFY(sounds.waitForFinished());
+        QCOMPARE(sounds.exitStatus(), QProcess::NormalExit);
     }
 
     void endsWithoutASoundSystemThatHangs() {
