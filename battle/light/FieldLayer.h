@@ -53,9 +53,9 @@ class FieldLayer {
     using Sink = std::function<void(const Part&)>;
 
     /// Hands what is to be shown in an area to `sink`, in parts from above to below, each of them
-    /// valid while it is called: there need be no whole picture. It is the
-    /// rules' picture with the light of the last update(); that picture alone when off, or as long
-    /// as it has got another size since.
+    /// valid while it is called: there need be no whole picture. It is the rules' picture with the
+    /// light of the last update(); that picture alone when off, or as long as it has got another
+    /// size since.
     void paint(const PixelRect& area, const Sink& sink);
 
     /// All of that, row by row. It is kept until something changes, when it is no longer valid: for
