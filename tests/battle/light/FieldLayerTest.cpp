@@ -4,6 +4,7 @@
 
 #include <cmath>
 
+#include "tests/support/Shown.h"
 #include "tests/support/SkyRig.h"
 
 namespace skylob::test {
@@ -48,12 +49,7 @@ struct LitBattle : SkyRig {
         const PixelRect changed = picture().takeDirty();
         if (std::exchange(makings, picture().makings()) != picture().makings())
             refreshed = pixels();
-        for (const PixelRect& area : layer.update(changed))
-            layer.paint(area, [&](const FieldLayer::Part& part) {
-                for (int y = part.area.y; y < part.area.bottom(); ++y)
-                    std::copy_n(part.row(y), part.area.width,
-                                window.begin() + y * kEdge + part.area.x);
-            });
+        window.update(layer, changed);
         const bool looksClosely = ++shows % 61 == 1;
         whole.update(looksClosely ? PixelRect{0, 0, kEdge, kEdge} : changed);
         if (looksClosely) compare();
@@ -61,11 +57,11 @@ struct LitBattle : SkyRig {
 
     void compare() {
         ++comparisons;
-        EXPECT_TRUE(std::equal(window.begin(), window.end(), whole.whole())) << shows;
+        EXPECT_TRUE(std::equal(window.pixels.begin(), window.pixels.end(), whole.whole())) << shows;
         long faults = 0;
         for (int i = 0; i < kEdge * kEdge; ++i) {
             const std::uint32_t rule = picture().screenPixels()[i];
-            if (rule != kBlackPixel && window[static_cast<std::size_t>(i)] != rule && !isPiece(i))
+            if (rule != kBlackPixel && window.at(i % kEdge, i / kEdge) != rule && !isPiece(i))
                 ++faults;
         }
         EXPECT_EQ(faults, 0) << shows;
@@ -84,7 +80,8 @@ struct LitBattle : SkyRig {
     static constexpr int kEdge = 500;
     FieldLayer layer{battle.picture(), battle.scene(), battle.state()};
     FieldLayer whole{battle.picture(), battle.scene(), battle.state()};
-    std::vector<std::uint32_t> window = std::vector<std::uint32_t>(kEdge * kEdge), refreshed;
+    ShownPicture window;
+    std::vector<std::uint32_t> refreshed;
     int makings = 0, shows = 0, comparisons = 0;
 };
 
@@ -107,7 +104,7 @@ TEST(FieldLayer, ShowsEveryChangeAndKeepsTheColoursOfTheRules) {
         field.layer.setOn(false);
         field.show();
         EXPECT_EQ(field.layer.whole(), field.picture().screenPixels());
-        EXPECT_EQ(field.window, field.pixels());
+        EXPECT_EQ(field.window.pixels, field.pixels());
     }
 }
 

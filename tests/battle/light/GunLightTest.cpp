@@ -5,8 +5,8 @@
 #include <numbers>
 
 #include "battle/ShellFlight.h"
-#include "battle/light/FieldLayer.h"
 #include "battle/light/GunDrawings.h"
+#include "tests/support/Shown.h"
 #include "tests/support/SkyRig.h"
 
 namespace skylob::test {
@@ -37,19 +37,17 @@ struct LitRig : SkyRig {
     }
 
     void look() {
-        layer.update(picture().takeDirty());
+        window.update(layer, picture().takeDirty());
         if (onLook) onLook();
-    }
-    std::vector<std::uint32_t> shown() {
-        return {layer.whole(), layer.whole() + layer.width() * layer.height()};
     }
     std::uint32_t inTheMiddleOf(int side) {
         const PixelRect area = picture().pieceArea(side);
-        return layer.whole()[(area.y + area.height / 2) * layer.width() + area.x + area.width / 2];
+        return window.at(area.x + area.width / 2, area.y + area.height / 2);
     }
 
     PlainGuns guns;
     FieldLayer layer{battle.picture(), battle.scene(), battle.state(), &guns};
+    ShownPicture window;
     std::function<void()> onLook;
 };
 
@@ -101,7 +99,7 @@ TEST(BlastLight, FallsOnBlackAndPiecesAloneAndIsGoneWithTheBlast) {
     for (const Aim& aim : {kHit, kOnOneself, kNear, kFarOff}) {
         SCOPED_TRACE(testing::Message() << aim.speed << ", " << aim.angle);
         LitRig rig;
-        const auto before = rig.shown();
+        const auto before = rig.window.pixels;
         bool over = false;
         std::ptrdiff_t lit = 0;
         rig.onLook = [&] {
@@ -109,7 +107,8 @@ TEST(BlastLight, FallsOnBlackAndPiecesAloneAndIsGoneWithTheBlast) {
             if (over || (!burns && lit == 0)) return;  // not yet, or no more
             over = !burns;
             std::ptrdiff_t changed = 0, wrong = 0, left = 0;
-            const std::uint32_t *lights = rig.layer.whole(), *ruled = rig.picture().screenPixels();
+            const std::uint32_t *lights = rig.window.pixels.data(),
+                                *ruled = rig.picture().screenPixels();
             for (const std::uint32_t was : before) {
                 const std::uint32_t shown = *lights++, rules = *ruled++;
                 if (shown == was && shown == rules) continue;
@@ -140,7 +139,8 @@ static std::array<int, 3> flashes(Motion motion) {
     std::array<int, kLooked> last{};
     std::array<int, 3> most{};
     rig.onLook = [&] {
-        const std::uint32_t *shown = rig.layer.whole(), *rules = rig.picture().screenPixels();
+        const std::uint32_t *shown = rig.window.pixels.data(),
+                            *rules = rig.picture().screenPixels();
         int changed = 0;
         for (int& before : last) {
             const int green = *shown >> 8 & 0xFF;
